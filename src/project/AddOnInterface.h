@@ -1,0 +1,69 @@
+// The C interface of the add-on library of the I/O Workshop: what a library must export, and how it is
+// called.
+#pragma once
+
+#include "project/WireRecords.h"
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+// 32-bit Windows alone has more than one convention, and there the library uses this one.
+#if defined(_WIN32) && !defined(_WIN64)
+#define GFC_ADDON_CALL __stdcall
+#else
+#define GFC_ADDON_CALL
+#endif
+
+namespace gfc::project {
+
+extern "C" {
+
+/// Non-zero on success; `buffer` of `size` bytes then holds the path of the open project, NUL padded.
+/// All NUL when no project is open.
+using AddOnGetProjectFile = std::int32_t(GFC_ADDON_CALL*)(char* buffer, std::int32_t size);
+
+/// 0 on failure. `stations` points to `count` StationRecord that stay valid until AddOnFreeData.
+/// `one` is 1 and `text` is empty.
+using AddOnGetStaList = std::int16_t(GFC_ADDON_CALL*)(std::int32_t* count, void** stations, std::int32_t one,
+                                                      const char* text);
+using AddOnFreeData = void(GFC_ADDON_CALL*)(void* stations);
+
+/// Number of tags, 0 or less when there are none. `tags` points to TagRecord that stay valid until
+/// AddOnFreeTagList.
+using AddOnReadTagList = std::int32_t(GFC_ADDON_CALL*)(TagRequest* request, void** tags);
+using AddOnFreeTagList = void(GFC_ADDON_CALL*)();
+
+/// `local` is a path of this machine, `target` one of the station, `flag` is -1, `text` is empty.
+using AddOnAddFileToLoad = std::int32_t(GFC_ADDON_CALL*)(char* station, char* local, char* target,
+                                                         std::int32_t flag, char* text);
+using AddOnRemoveFileToLoad = std::int16_t(GFC_ADDON_CALL*)(char* station, char* local, char* target,
+                                                            char* text);
+
+using AddOnCoInitialize = void(GFC_ADDON_CALL*)();
+using AddOnCoUninitialize = void(GFC_ADDON_CALL*)();
+
+} // extern "C"
+
+struct AddOnFunction {
+    std::string_view Name;
+    bool Called; ///< false: the library has it, and nothing here ever calls it
+};
+
+// clang-format off
+inline constexpr std::array<AddOnFunction, 11> AddOnFunctions = {{
+    {"kdaddon_VBGetProjectFile",     true},
+    {"kdaddon_VBGetStaList",         true},
+    {"kdaddon_VBFreeData",           true},
+    {"kdaddon_VBReadTagList",        true},
+    {"kdaddon_VBFreeTagList",        true},
+    {"kdaddon_VBAddFileToLoad",      true},
+    {"kdaddon_VBRemoveFileToLoad",   true},
+    {"kdaddon_VBCoInitialize",       true},
+    {"kdaddon_VBCoUninitialize",     false},
+    {"kdaddon_VBGetFilesToLoadList", false},
+    {"kdaddon_VBSetStaParam",        false},
+}};
+// clang-format on
+
+} // namespace gfc::project
