@@ -1,0 +1,105 @@
+#include "ui/ListView.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace gfc::ui {
+
+void ListView::AddColumn(std::string heading, int width) {
+    columns_.push_back({std::move(heading), width});
+    Changed();
+    if (observer_ != nullptr)
+        observer_->RowsReset();
+}
+
+void ListView::ClearColumns() {
+    if (columns_.empty())
+        return;
+    columns_.clear();
+    Changed();
+    if (observer_ != nullptr)
+        observer_->RowsReset();
+}
+
+const std::string& ListView::Cell(int row, int column) const {
+    static const std::string nothing;
+    const Row& cells = At(row);
+    return column < static_cast<int>(cells.size()) ? cells[static_cast<std::size_t>(column)] : nothing;
+}
+
+void ListView::AddRow(Row row) {
+    rows_.push_back(std::move(row));
+    if (observer_ != nullptr)
+        observer_->RowsAdded(Count(), Count());
+}
+
+void ListView::AddRows(std::vector<Row> rows) {
+    if (rows.empty())
+        return;
+    const int first = Count() + 1;
+    rows_.insert(rows_.end(), std::make_move_iterator(rows.begin()), std::make_move_iterator(rows.end()));
+    if (observer_ != nullptr)
+        observer_->RowsAdded(first, Count());
+}
+
+void ListView::SetCell(int row, int column, std::string text) {
+    Row& cells = rows_.at(static_cast<std::size_t>(row - 1));
+    if (column >= static_cast<int>(cells.size()))
+        cells.resize(static_cast<std::size_t>(column) + 1);
+    cells[static_cast<std::size_t>(column)] = std::move(text);
+    if (observer_ != nullptr)
+        observer_->RowsChanged(row, row);
+}
+
+void ListView::RemoveRows(int first, int count) {
+    count = std::min(count, Count() - first + 1);
+    if (first < 1 || count < 1)
+        return;
+    rows_.erase(rows_.begin() + (first - 1), rows_.begin() + (first - 1 + count));
+    if (selected_ >= first)
+        selected_ = 0;
+    if (observer_ != nullptr)
+        observer_->RowsRemoved(first, first + count - 1);
+}
+
+void ListView::ClearRows() {
+    if (rows_.empty())
+        return;
+    rows_.clear();
+    selected_ = 0;
+    if (observer_ != nullptr)
+        observer_->RowsReset();
+}
+
+void ListView::Renumber() {
+    for (int row = 1; row <= Count(); ++row) {
+        Row& cells = rows_[static_cast<std::size_t>(row - 1)];
+        if (cells.empty())
+            cells.emplace_back();
+        cells.front() = std::to_string(row);
+    }
+    if (observer_ != nullptr && Count() > 0)
+        observer_->RowsChanged(1, Count());
+}
+
+void ListView::SelectRow(int row) {
+    const int wanted = row >= 1 && row <= Count() ? row : 0;
+    if (wanted == selected_)
+        return;
+    selected_ = wanted;
+    if (observer_ != nullptr)
+        observer_->SelectionChanged();
+}
+
+bool ListView::PersonClicksRow(int row) {
+    if (row < 1 || row > Count() || !PersonActs())
+        return false;
+    SelectRow(row);
+    Fire([this, row] {
+        if (OnRowClick)
+            OnRowClick(row);
+    });
+    return true;
+}
+
+} // namespace gfc::ui
