@@ -1,0 +1,55 @@
+#pragma once
+
+#include "config/VarINIFile.h"
+#include "project/Project.h"
+#include "project/WorkingModules.h"
+
+#include <string>
+
+namespace gfc::forms {
+
+// Who drives the dialogs.
+enum class EditMode { None = 0, Wizard = 1, Configurator = 2, ModifyTags = 3 };
+
+// What one showing of TagRuns edits; the numbers are those of the in-place update too.
+enum class BindingStage {
+    None = 0,
+    RunInputs = 1,
+    RunOutputs = 2,
+    GasOutputs = 3,
+    GasInputs = 4,
+    CommonInputs = 5
+};
+
+// What the windows share while the program runs. One object, owned by main.
+struct Session {
+    config::StationConfig Station;
+    project::Project Project;
+    project::TagList Tags; // of the station opened last
+    project::TagInventory Inventory;
+    project::WorkingModuleCandidates Modules;
+
+    bool UserIdCancelled = false;
+    bool TreeRefreshNeeded = false;
+    forms::EditMode EditMode = EditMode::None;
+    bool Cancelled = false; // set by a sub-dialog to stop the sequence; cleared before each dialog
+    std::string SelectedNodeText;
+    std::string SelectedPath;
+
+    // Set by the caller before TagRuns is shown.
+    forms::BindingStage BindingStage = BindingStage::None;
+    int RunPosition = 0; // element of the run arrays
+    int RunNumber = 0;   // 0 to 4
+
+    // Set by the caller before FrParMec or FrAccelabar is shown; they hand their result back in the record.
+    int EditRun = 0; // 1 to 5
+    config::RunMechanical EditedMechanical;
+
+    // Set by the caller before MDetail or frSGERG88 is shown.
+    int GasRun = 0;           // 0 to 4
+    bool GasAccepted = false; // the form was accepted
+
+    [[nodiscard]] std::string ConfigFile() const { return Project.ConfigFileOf(Station.CurrentStation); }
+};
+
+} // namespace gfc::forms
