@@ -135,19 +135,22 @@ void HeadlessDriver::Focus(const std::string& form, const std::string& control) 
 }
 
 void HeadlessDriver::Select(const std::string& form, const std::string& list, int index) {
-    if (auto* found = Of<ui::DropDownList>(form, list))
+    if (auto* found = Of<ui::DropDownList>(form, list)) {
         EXPECT_TRUE(found->PersonSelects(index))
             << form << "." << list << " does not let entry " << index << " be chosen";
+    }
 }
 
 void HeadlessDriver::SelectTab(const std::string& form, const std::string& pane, int tab) {
-    if (auto* found = Of<ui::TabbedPane>(form, pane))
+    if (auto* found = Of<ui::TabbedPane>(form, pane)) {
         EXPECT_TRUE(found->PersonSelects(tab)) << form << "." << pane;
+    }
 }
 
 void HeadlessDriver::ClickRow(const std::string& form, const std::string& list, int row) {
-    if (auto* found = Of<ui::ListView>(form, list))
+    if (auto* found = Of<ui::ListView>(form, list)) {
         EXPECT_TRUE(found->PersonClicksRow(row)) << form << "." << list << " row " << row;
+    }
 }
 
 void HeadlessDriver::ClickNode(const std::string& form, const std::string& tree, const std::string& path) {

@@ -67,8 +67,9 @@ ui::Answer HeadlessScreen::Ask(const ui::Box& box) {
     }
     const auto expected = std::get<ExpectedBox>(TheStory.Take());
     EXPECT_EQ(box.Title, expected.Title);
-    if (!expected.Text.empty())
+    if (!expected.Text.empty()) {
         EXPECT_EQ(box.Text, expected.Text);
+    }
     EXPECT_EQ(static_cast<int>(box.TheIcon), static_cast<int>(expected.TheIcon)) << "icon of " << box.Text;
     EXPECT_EQ(expected.TheAnswer == ui::Answer::Ok, box.TheButtons == ui::Buttons::Ok)
         << "buttons of " << box.Text;
