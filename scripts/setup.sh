@@ -1,0 +1,38 @@
+# Sourced by ./run and ./test: brings in what a fresh Debian 12 lacks, and builds.
+# shellcheck shell=bash
+
+say() { printf '\n== %s\n' "$*"; }
+
+packages_for_program=(
+    g++ cmake ninja-build
+    qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 fontconfig fonts-dejavu-core
+    libsqlite3-dev libcli11-dev libcsv-dev
+)
+packages_for_checks=(libgtest-dev libgmock-dev nlohmann-json3-dev clang-format)
+
+# install_missing PACKAGE...: asks for root only if something has to be installed.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${db:Status-Abbrev}' "$package" 2>/dev/null | grep -q '^ii' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    say "Installing: ${missing[*]}"
+    local root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || { echo "Please install as root: ${missing[*]}" >&2; return 1; }
+        root=(sudo)
+    fi
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# build TARGET...: everything if no target is named.
+build() {
+    [ -f build/build.ninja ] || cmake --preset default >/dev/null
+    if [ $# -eq 0 ]; then
+        cmake --build build
+    else
+        cmake --build build --target "$@"
+    fi
+}
