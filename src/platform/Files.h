@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// What the rest of the system asks of the file system. All paths are UTF-8. No call throws.
+namespace gfc::platform {
+
+#ifdef _WIN32
+inline constexpr char Separator = '\\';
+#else
+inline constexpr char Separator = '/';
+#endif
+
+// The folder that the last name of the path stands in, without a separator at its end; both separators count,
+// on every machine. Empty for a path without a folder and for what stands in the root, so that folder +
+// Separator + name is right there too.
+[[nodiscard]] std::string ParentFolder(std::string_view path);
+
+// The path with this machine's separator in place of the other one.
+[[nodiscard]] std::string WithOwnSeparators(std::string_view path);
+
+class Files {
+public:
+    virtual ~Files() = default;
+
+    // The whole file; nothing if it is missing, no plain file, or cannot be read.
+    [[nodiscard]] virtual std::optional<std::string> Read(const std::string& path) = 0;
+
+    // Puts these bytes in the place of the file, which need not exist. Whatever goes wrong, and whenever the
+    // process dies, the file is the old one or the new one. Keeps the mode of an existing file and replaces
+    // what a link points to. False if the new bytes are not safely on disk, also where the file may not be
+    // written.
+    [[nodiscard]] virtual bool Replace(const std::string& path, std::string_view bytes) = 0;
+
+    // True for a file, not for a folder.
+    [[nodiscard]] virtual bool Exists(const std::string& path) = 0;
+
+    // True if a file was there and is gone.
+    virtual bool Delete(const std::string& path) = 0;
+
+    // Copies a file to a path where nothing is yet; false, with nothing changed, if something is there or a
+    // step fails.
+    [[nodiscard]] virtual bool CopyNew(const std::string& from, const std::string& to) = 0;
+};
+
+[[nodiscard]] std::unique_ptr<Files> MakeFiles();
+
+} // namespace gfc::platform

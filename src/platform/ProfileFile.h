@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Files.h"
+#include "platform/Profile.h"
+
+#include <optional>
+#include <string>
+
+namespace gfc::platform {
+
+// A profile file taken up for any number of accesses: one read at the start, at most one replace at the end.
+class ProfileFile {
+public:
+    // A missing file is an empty profile. Nothing if the file is there but cannot be read: to go on with an
+    // empty one would end in its loss.
+    [[nodiscard]] static std::optional<ProfileFile> Open(Files& files, std::string path);
+
+    [[nodiscard]] platform::Profile& Profile() { return profile_; }
+    [[nodiscard]] const platform::Profile& Profile() const { return profile_; }
+
+    // Replaces the file if its bytes have changed; a file that was missing comes into being in any case.
+    // False if it could not be written; the old one is then untouched.
+    [[nodiscard]] bool Save();
+
+private:
+    ProfileFile(Files& files, std::string path, std::optional<std::string> bytes);
+
+    Files* files_;
+    std::string path_;
+    std::optional<std::string> onDisk_;
+    platform::Profile profile_;
+};
+
+} // namespace gfc::platform

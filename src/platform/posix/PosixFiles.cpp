@@ -1,0 +1,144 @@
+#include "platform/Files.h"
+#include "platform/posix/TemporaryFile.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace gfc::platform {
+namespace {
+
+using posix::Descriptor;
+using posix::TemporaryFile;
+
+constexpr unsigned NewFileMode = 0644; // less what the user's mask takes
+constexpr unsigned PrivateMode = 0600; // until the old file's mode is set, nobody else may look
+constexpr int MostLinks = 40;          // as many as the system itself follows
+
+std::optional<std::string> LinkText(const std::string& path) {
+    std::array<char, 4096> text{};
+    const ssize_t length = ::readlink(path.c_str(), text.data(), text.size());
+    if (length < 0 || static_cast<std::size_t>(length) == text.size())
+        return std::nullopt;
+    return std::string(text.data(), static_cast<std::size_t>(length));
+}
+
+// Follows links by their text, since what the last one names need not exist. Nothing for a ring of links.
+std::optional<std::string> RealTarget(std::string path) {
+    for (int links = 0; links < MostLinks; ++links) {
+        const auto text = LinkText(path);
+        if (!text)
+            return path;
+        const auto separator = path.rfind('/');
+        const bool relative = !text->starts_with('/') && separator != std::string::npos;
+        path = relative ? path.substr(0, separator + 1) + *text : *text;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> ReadAll(int fd, std::size_t expected) {
+    std::string bytes;
+    std::size_t used = 0;
+    for (;;) {
+        // One byte more than expected shows the end without growing again.
+        bytes.resize(used == bytes.size() ? std::max(expected + 1, used * 2) : bytes.size());
+        const ssize_t got = ::read(fd, bytes.data() + used, bytes.size() - used);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return std::nullopt;
+        if (got == 0)
+            break;
+        used += static_cast<std::size_t>(got);
+    }
+    bytes.resize(used);
+    return bytes;
+}
+
+struct Source {
+    std::string Bytes;
+    struct stat State {};
+};
+
+std::optional<Source> ReadPlainFile(const std::string& path) {
+    Source source;
+    // Without waiting: a pipe of that name must not hold the program.
+    const Descriptor file = posix::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
+    if (!file || ::fstat(file.Get(), &source.State) != 0 || !S_ISREG(source.State.st_mode))
+        return std::nullopt;
+    auto bytes = ReadAll(file.Get(), static_cast<std::size_t>(source.State.st_size));
+    if (!bytes)
+        return std::nullopt;
+    source.Bytes = std::move(*bytes);
+    return source;
+}
+
+// The owner can be kept only by who may give files away; the mode comes last, as a new owner can clear parts
+// of it.
+bool TakeOver(int fd, const struct stat& old) {
+    struct stat own {};
+    if (::fstat(fd, &own) != 0)
+        return false;
+    if (own.st_uid != old.st_uid || own.st_gid != old.st_gid)
+        (void)!::fchown(fd, old.st_uid, old.st_gid);
+    return ::fchmod(fd, old.st_mode & 07777) == 0;
+}
+
+bool MayReplace(const std::string& target, const struct stat& old) {
+    return S_ISREG(old.st_mode) && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+class PosixFiles : public Files {
+public:
+    std::optional<std::string> Read(const std::string& path) override {
+        auto source = ReadPlainFile(path);
+        return source ? std::optional(std::move(source->Bytes)) : std::nullopt;
+    }
+
+    bool Replace(const std::string& path, std::string_view bytes) override {
+        const auto target = RealTarget(path);
+        if (!target)
+            return false;
+        struct stat old {};
+        const bool existed = ::stat(target->c_str(), &old) == 0;
+        if (existed ? !MayReplace(*target, old) : errno != ENOENT)
+            return false;
+        TemporaryFile::RemoveLeftovers(*target);
+        auto file = TemporaryFile::Beside(*target, existed ? PrivateMode : NewFileMode);
+        return file && posix::WriteAll(file->Get(), bytes) && (!existed || TakeOver(file->Get(), old)) &&
+               posix::Flush(file->Get()) && file->MoveOver(*target);
+    }
+
+    bool Exists(const std::string& path) override {
+        struct stat state {};
+        return ::stat(path.c_str(), &state) == 0 && !S_ISDIR(state.st_mode);
+    }
+
+    bool Delete(const std::string& path) override {
+        struct stat state {};
+        return ::lstat(path.c_str(), &state) == 0 && !S_ISDIR(state.st_mode) && ::unlink(path.c_str()) == 0;
+    }
+
+    bool CopyNew(const std::string& from, const std::string& to) override {
+        struct stat present {};
+        if (::lstat(to.c_str(), &present) == 0)
+            return false;
+        const auto source = ReadPlainFile(from);
+        if (!source)
+            return false;
+        TemporaryFile::RemoveLeftovers(to);
+        auto file = TemporaryFile::Beside(to, source->State.st_mode & 0777);
+        return file && posix::WriteAll(file->Get(), source->Bytes) && posix::Flush(file->Get()) &&
+               file->MoveToNew(to);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Files> MakeFiles() {
+    return std::make_unique<PosixFiles>();
+}
+
+} // namespace gfc::platform

@@ -1,0 +1,65 @@
+#include "platform/Machine.h"
+
+#include <climits>
+
+#include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
+
+#ifdef __APPLE__
+#include <mach-o/dyld.h>
+#endif
+
+namespace gfc::platform {
+namespace {
+
+std::string ExecutablePath() {
+#ifdef __APPLE__
+    std::uint32_t size = PATH_MAX;
+    std::string path(size, '\0');
+    if (_NSGetExecutablePath(path.data(), &size) != 0)
+        return {};
+    path.resize(path.find('\0'));
+    return path;
+#else
+    std::string path(PATH_MAX, '\0');
+    const ssize_t length = ::readlink("/proc/self/exe", path.data(), path.size());
+    path.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+    return path;
+#endif
+}
+
+// The desktop's rule: a folder that is not named in full does not count.
+std::string FullPathIn(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value && value[0] == '/' ? value : "";
+}
+
+std::string HomeFolder() {
+    const std::string home = FullPathIn("HOME");
+    if (!home.empty())
+        return home;
+    const passwd* user = ::getpwuid(::geteuid());
+    return user && user->pw_dir ? user->pw_dir : "";
+}
+
+class PosixPaths : public Paths {
+public:
+    std::string ExecutableFolder() override { return ParentFolder(ExecutablePath()); }
+
+    std::string ProfileFolder() override {
+        const std::string config = FullPathIn("XDG_CONFIG_HOME");
+        if (!config.empty())
+            return config;
+        const std::string home = HomeFolder();
+        return home.empty() ? home : home + "/.config";
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Paths> MakePaths() {
+    return std::make_unique<PosixPaths>();
+}
+
+} // namespace gfc::platform

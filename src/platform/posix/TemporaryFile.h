@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/posix/Descriptor.h"
+
+#include <optional>
+#include <string>
+
+namespace gfc::platform::posix {
+
+// The file that new bytes are written to beside their target, under a name that shows what it belongs to. It
+// is locked as long as its writer lives, so that what a crash left behind is told from another writer's work.
+// It removes itself unless it was put in its place.
+class TemporaryFile {
+public:
+    // Nothing if the target's folder takes no file.
+    [[nodiscard]] static std::optional<TemporaryFile> Beside(const std::string& target, unsigned mode);
+    // Removes what dead writers left behind beside the target.
+    static void RemoveLeftovers(const std::string& target);
+
+    TemporaryFile(TemporaryFile&& other) noexcept;
+    TemporaryFile& operator=(TemporaryFile&&) = delete;
+    ~TemporaryFile();
+
+    [[nodiscard]] int Get() const { return file_.Get(); }
+    // Both end with the folder flushed; the bytes must be flushed before.
+    [[nodiscard]] bool MoveOver(const std::string& target);
+    [[nodiscard]] bool MoveToNew(const std::string& target);
+
+private:
+    TemporaryFile(std::string path, Descriptor file) : path_(std::move(path)), file_(std::move(file)) {}
+    void Forget() { path_.clear(); }
+
+    std::string path_; // empty once it is in its place
+    Descriptor file_;
+};
+
+} // namespace gfc::platform::posix

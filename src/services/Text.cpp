@@ -1,0 +1,38 @@
+#include "services/Text.h"
+
+#include "services/Utf8.h"
+
+namespace gfc::services {
+namespace {
+
+// The capitals of the code page, as Unicode numbers them.
+char32_t FoldCharacter(char32_t code) {
+    const bool latin = code >= U'A' && code <= U'Z';
+    const bool accented = code >= 0xC0 && code <= 0xDE && code != 0xD7; // D7 is the multiplication sign
+    if (latin || accented)
+        return code + 0x20;
+    if (code == 0x0160 || code == 0x0152 || code == 0x017D)
+        return code + 1;
+    return code == 0x0178 ? 0xFF : code;
+}
+
+bool SameNoCase(const Utf8Character& a, const Utf8Character& b) {
+    return a.Valid == b.Valid &&
+           (a.Valid ? FoldCharacter(a.Code) == FoldCharacter(b.Code) : a.Code == b.Code);
+}
+
+} // namespace
+
+bool EqualNoCase(std::string_view left, std::string_view right) {
+    while (!left.empty() && !right.empty()) {
+        const Utf8Character a = FirstCharacter(left);
+        const Utf8Character b = FirstCharacter(right);
+        if (!SameNoCase(a, b))
+            return false;
+        left.remove_prefix(a.Length);
+        right.remove_prefix(b.Length);
+    }
+    return left.empty() && right.empty();
+}
+
+} // namespace gfc::services
