@@ -1,0 +1,98 @@
+#pragma once
+
+#include "platform/Machine.h"
+#include "project/AddOnLibrary.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace gfc::test {
+
+// Files in memory.
+class FakeFiles : public platform::Files {
+public:
+    std::map<std::string, std::string> Content;
+    int Reads = 0;
+    int Replaces = 0;
+    // Paths at which every write or delete fails.
+    std::set<std::string> Stuck;
+
+    std::optional<std::string> Read(const std::string& path) override;
+    bool Replace(const std::string& path, std::string_view bytes) override;
+    bool Exists(const std::string& path) override { return Content.contains(path); }
+    bool Delete(const std::string& path) override;
+    bool CopyNew(const std::string& from, const std::string& to) override;
+};
+
+// A zone of one bias, winter and summer.
+class FakeTimeZone : public services::TimeZone {
+public:
+    int Bias = 0; // minutes to add to local time for GMT
+    services::TimeZoneInformation GetTimeZoneInformation() const override { return {Bias}; }
+    int CurrentBias() const override { return Bias; }
+};
+
+class FakeClock : public services::Clock {
+public:
+    services::Date Now = 45000.5; // 15 March 2023, noon
+    services::Date LocalNow() const override { return Now; }
+};
+
+class FakeSingleInstance : public platform::SingleInstance {
+public:
+    bool Free = true;
+    bool Acquire(std::string_view) override { return Free; }
+};
+
+class FakeLauncher : public platform::Launcher {
+public:
+    bool Works = true;
+    std::vector<std::string> Started;
+    bool Start(const std::string& program, const std::vector<std::string>& arguments) override;
+    bool OpenTextFile(const std::string& path) override;
+};
+
+class FakePaths : public platform::Paths {
+public:
+    std::string ExecutableFolder() override { return "/opt/gfc"; }
+    std::string ProfileFolder() override { return "/etc/profiles"; }
+};
+
+// The I/O Workshop tool with a project open in it.
+class FakeLibrary : public project::AddOnLibrary {
+public:
+    std::string ProjectFile = "/jobs/plant.KPJ";
+    bool StationListWorks = true;
+    std::vector<project::Station> Stations;
+    std::map<std::string, project::TagList> TagsOf;
+    // Station, local path, target path of each entry.
+    std::vector<std::tuple<std::string, std::string, std::string>> FilesToLoad;
+    // Every call, by name, in order: "AddFileToLoad North".
+    std::vector<std::string> Calls;
+
+    std::string GetProjectFile() override;
+    std::optional<std::vector<project::Station>> GetStations() override;
+    project::TagList ReadTags(const std::string& station, const std::string& projectFile,
+                              const std::function<void(const std::string&)>& onTag) override;
+    void AddFileToLoad(const std::string& station, const std::string& local,
+                       const std::string& target) override;
+    int RemoveFileToLoad(const std::string& station, const std::string& local,
+                         const std::string& target) override;
+    void CoInitialize() override { Calls.emplace_back("CoInitialize"); }
+};
+
+// count tags of one class in one module: names are stem + number from 1, registers count from firstRegister.
+[[nodiscard]] project::TagList TagsInModule(const std::string& module, const std::string& moduleType,
+                                            const std::string& regType, const std::string& stem, int count,
+                                            int firstRegister = 1);
+project::TagList& operator+=(project::TagList& tags, const project::TagList& more);
+
+// A station that carries five runs of every kind: working modules "VL0" (8 LX), "VA0" (32 AX) and "VF0" (128
+// FX), then module "VF1" of freeFloats FX tags "FT-1"..., "VL1" of 10 LX tags "PI-1"..., physical AX
+// "AI-1"... (20) and AY "AO-1"... (20), physical X "XS-1"... (40) and Y "XV-1"... (40).
+[[nodiscard]] project::TagList LargeStationTags(int freeFloats = 300);
+
+} // namespace gfc::test

@@ -1,0 +1,54 @@
+#include "support/World.h"
+
+#include <algorithm>
+
+namespace gfc::test {
+
+World::World() {
+    Session.Station.UserId = "4711";
+}
+
+void World::AddStation(const std::string& name, project::TagList tags) {
+    Library.Stations.push_back({name, "Orm", "10.0.0." + std::to_string(Library.Stations.size() + 1), 1000});
+    Library.TagsOf[name] = std::move(tags);
+}
+
+void World::OpenProject() {
+    (void)project::LoadProject(Library, Session.Project);
+    auto& paths = Session.Project.Paths;
+    paths.ProjectFolder = platform::ParentFolder(Session.Project.ProjectFile);
+    paths.ConfigFilePrefix = config::ConfigFilePrefixOf(paths.ProjectFolder);
+    Station.ProjectFile = Session.Project.ProjectFile;
+    Station.ProjectName = Session.Project.ProjectName;
+}
+
+void World::OpenStation(const std::string& name) {
+    Station.CurrentStation = name;
+    Session.Tags = Library.ReadTags(name, Station.ProjectFile, {});
+    project::BuildInventory(Session.Tags, Session.Inventory);
+    Session.Modules.ClearCounts();
+    if (!project::ChooseWorkingModules(Session.Inventory, Session.Modules))
+        return;
+    const project::WorkingModuleNames names{Session.Modules.AnalogCandidates.front().ModuleName,
+                                            Session.Modules.LongCandidates.front().ModuleName,
+                                            Session.Modules.FloatCandidates.front().ModuleName};
+    project::BuildAvailableLists(Session.Inventory, names, true);
+}
+
+void World::ActivateRuns(const std::vector<int>& runs) {
+    for (int n = 1; n <= config::MaxRuns; ++n) {
+        const bool active = std::find(runs.begin(), runs.end(), n) != runs.end();
+        auto& entry = Station.RunList.at(static_cast<std::size_t>(n - 1));
+        entry.Name = "Run" + std::to_string(n);
+        entry.Flag = active ? "Yes" : "No";
+        Station.Run.at(static_cast<std::size_t>(n - 1)) = entry.Flag;
+    }
+    Station.ActiveRunCount = static_cast<int>(runs.size());
+    Station.Runs.PrepareWholeStation(Station.ActiveRunCount);
+}
+
+std::string World::ConfigFile(const std::string& station) const {
+    return Session.Project.ConfigFileOf(station);
+}
+
+} // namespace gfc::test

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/Program.h"
+#include "support/Fakes.h"
+#include "support/HeadlessScreen.h"
+
+#include <string>
+
+namespace gfc::test {
+
+// The program in a world of fakes: project "/jobs/plant.KPJ" with nothing in it yet.
+struct World {
+    World();
+
+    FakeFiles Files;
+    FakeTimeZone TimeZone;
+    FakeClock Clock;
+    FakeSingleInstance SingleInstance;
+    FakeLauncher Launcher;
+    FakePaths Paths;
+    FakeLibrary Library;
+    HeadlessScreen Screen;
+    platform::Machine Machine{Files, TimeZone, Clock, SingleInstance, Launcher, Paths};
+    forms::Program Program{Machine, Library, Screen};
+
+    // Shorthands of what tests touch most.
+    forms::Session& Session = Program.Session;
+    config::StationConfig& Station = Program.Session.Station;
+    Story& TheStory = Screen.TheStory;
+
+    // Adds a station with its tags to the tool's project.
+    void AddStation(const std::string& name, project::TagList tags);
+    // The project as start-up leaves it: read from the library, the paths set.
+    void OpenProject();
+    // The station as the commands open it: current, tags read and sorted, working modules chosen, lists of
+    // free tags built without the first candidates of each kind.
+    void OpenStation(const std::string& name);
+    // Runs flagged active, and the records prepared for them.
+    void ActivateRuns(const std::vector<int>& runs);
+    [[nodiscard]] std::string ConfigFile(const std::string& station) const;
+};
+
+} // namespace gfc::test
