@@ -1,0 +1,125 @@
+#include "workshop/demo/SampleProject.h"
+
+#include "workshop/demo/SampleConfiguration.h"
+#include "workshop/demo/SampleStations.h"
+#include "workshop/demo/TagPattern.h"
+#include "workshop/store/Failure.h"
+#include "workshop/store/FilesToLoad.h"
+#include "workshop/store/Project.h"
+#include "workshop/store/Stations.h"
+#include "workshop/store/Tags.h"
+#include "workshop/text/Paths.h"
+
+#include <fstream>
+#include <string>
+#include <system_error>
+
+namespace gfc::workshop {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view ConfigurationTarget = "/etc/stacfg/kdormaga.ini";
+
+bool StandsSample(const fs::path& file) {
+    try {
+        return Project::Open(file, Access::Read).IsSample();
+    } catch (const Failure&) {
+        return false; // some other file: all the more to be left alone
+    }
+}
+
+void CheckWay(const SampleFiles& files, Existing existing) {
+    const bool project = fs::exists(files.Project);
+    if (project && !StandsSample(files.Project)) {
+        throw Failure(PathText(files.Project) +
+                      ": is there already and is not the sample; choose another folder.");
+    }
+    if (existing == Existing::Refuse && project) {
+        throw Failure(PathText(files.Project) + ": the sample is there already; --force makes it anew.");
+    }
+    if (!project && fs::exists(files.Configuration)) {
+        throw Failure(PathText(files.Configuration) + ": is there already; choose another folder.");
+    }
+}
+
+void AddModule(TagAppender& appender, const SampleModule& module) {
+    std::int32_t address = module.Register;
+    for (const std::string& name : ExpandTags(module.Tags, module.Runs)) {
+        appender.Append({name, std::string(module.Class), address++, std::string(module.Name),
+                         std::string(module.Type), ""});
+    }
+}
+
+void AddStationOf(Project& project, const SampleStation& sample) {
+    const std::int64_t id = AddStation(project, {0, std::string(sample.Name), std::string(sample.Type),
+                                                 std::string(sample.Address), sample.SerialNumber});
+    TagAppender appender(project, id);
+    for (const SampleModule& module : sample.Modules) {
+        AddModule(appender, module);
+    }
+}
+
+void FillProject(const fs::path& file, const fs::path& configuration) {
+    Project project = Project::Create(file);
+    Transaction transaction(project.Data());
+    project.MarkAsSample();
+    for (const SampleStation& station : SampleStations()) {
+        AddStationOf(project, station);
+    }
+    if (!AddFileToLoad(project, {std::string(ConfiguredStation), PathText(configuration),
+                                 std::string(ConfigurationTarget), -1})) {
+        throw Failure("The sample lacks its configured station.");
+    }
+    transaction.Commit();
+}
+
+void WriteConfiguration(const fs::path& file, const fs::path& project) {
+    std::ofstream out(file, std::ios::binary | std::ios::trunc);
+    out << SampleConfiguration(PathText(project));
+    out.close();
+    if (!out) {
+        throw Failure(PathText(file) + ": cannot be written; check the access rights and the disk.");
+    }
+}
+
+void MakeFolder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw Failure(PathText(folder) + ": the folder cannot be made: " + error.message() + ".");
+    }
+}
+
+void MoveIntoPlace(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    fs::rename(from, to, error);
+    if (error) {
+        throw Failure(PathText(to) + ": cannot be written: " + error.message() + ".");
+    }
+}
+
+} // namespace
+
+SampleFiles SampleFilesIn(const fs::path& folder) {
+    const fs::path whole = fs::absolute(folder).lexically_normal();
+    return {whole / "plant.KPJ", whole / PathOf("KDOrmAGA_plant_" + std::string(ConfiguredStation) + ".ini")};
+}
+
+SampleFiles MakeSample(const fs::path& folder, Existing existing) {
+    const SampleFiles files = SampleFilesIn(folder);
+    CheckProjectPath(files.Project);
+    MakeFolder(folder);
+    CheckWay(files, existing);
+    // Made beside and moved into place, so that a project half made never bears the name.
+    fs::path beside = files.Project;
+    beside += ".new";
+    fs::remove(beside);
+    FillProject(beside, files.Configuration);
+    WriteConfiguration(files.Configuration, files.Project);
+    MoveIntoPlace(beside, files.Project);
+    return files;
+}
+
+} // namespace gfc::workshop

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "workshop/store/Project.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace gfc::workshop {
+
+struct Station {
+    std::int64_t Id = 0; ///< given by the project
+    std::string Name;    ///< one in the project, whatever the case of its letters
+    std::string Type;
+    std::string Address;
+    std::int32_t SerialNumber = 0;
+};
+
+/// All stations in the order in which they came into the project.
+[[nodiscard]] std::vector<Station> ListStations(Project& project);
+/// By name, whatever the case of its letters.
+[[nodiscard]] std::optional<Station> FindStation(Project& project, std::string_view name);
+/// Returns the id that the station was given.
+std::int64_t AddStation(Project& project, const Station& station);
+/// Stores type, address and serial number of the station of that id.
+void UpdateStation(Project& project, const Station& station);
+
+} // namespace gfc::workshop

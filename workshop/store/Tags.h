@@ -1,0 +1,62 @@
+#pragma once
+
+#include "workshop/store/Project.h"
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace gfc::workshop {
+
+/// Register classes: digital, analog, float and long; X for inputs, Y for outputs.
+inline constexpr std::array<std::string_view, 8> RegisterClasses = {"X",  "Y",  "AX", "AY",
+                                                                    "FX", "FY", "LX", "LY"};
+
+struct Tag {
+    std::string Name;
+    std::string Class; ///< one of RegisterClasses
+    std::int32_t Register = 0;
+    std::string Module;
+    std::string ModuleType; ///< its first word is "Virtual" for a virtual module
+    std::string Description;
+};
+
+/// A tag as it stands in the current row of a query; the texts are valid until the next row.
+struct TagView {
+    std::string_view Name;
+    std::string_view Class;
+    std::int32_t Register;
+    std::string_view Module;
+    std::string_view ModuleType;
+    std::string_view Description;
+};
+
+/// Calls `take` for every tag of the station in delivery order, after telling `expect` how many will come.
+void VisitTags(Project& project, std::int64_t station, const std::function<void(std::size_t)>& expect,
+               const std::function<void(const TagView&)>& take);
+[[nodiscard]] std::vector<Tag> ListTags(Project& project, std::int64_t station);
+[[nodiscard]] std::size_t CountTags(Project& project, std::int64_t station);
+/// Takes out all tags and modules of the station.
+void RemoveTags(Project& project, std::int64_t station);
+
+/// Appends tags to the end of a station's delivery order, making modules as they come.
+class TagAppender {
+public:
+    TagAppender(Project& project, std::int64_t station);
+    void Append(const Tag& tag);
+
+private:
+    std::int64_t ModuleOf(const Tag& tag);
+
+    Project& project_;
+    std::int64_t station_;
+    std::int64_t place_;
+    std::map<std::string, std::int64_t, std::less<>> modules_;
+    Statement insert_;
+};
+
+} // namespace gfc::workshop
