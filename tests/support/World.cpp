@@ -4,16 +4,16 @@
 
 namespace gfc::test {
 
-World::World() {
+FakeProgram::FakeProgram(ui::Screen& screen) : Program(Machine, Library, screen) {
     Session.Station.UserId = "4711";
 }
 
-void World::AddStation(const std::string& name, project::TagList tags) {
+void FakeProgram::AddStation(const std::string& name, project::TagList tags) {
     Library.Stations.push_back({name, "Orm", "10.0.0." + std::to_string(Library.Stations.size() + 1), 1000});
     Library.TagsOf[name] = std::move(tags);
 }
 
-void World::OpenProject() {
+void FakeProgram::OpenProject() {
     (void)project::LoadProject(Library, Session.Project);
     auto& paths = Session.Project.Paths;
     paths.ProjectFolder = platform::ParentFolder(Session.Project.ProjectFile);
@@ -22,7 +22,7 @@ void World::OpenProject() {
     Station.ProjectName = Session.Project.ProjectName;
 }
 
-void World::OpenStation(const std::string& name) {
+void FakeProgram::OpenStation(const std::string& name) {
     Station.CurrentStation = name;
     Session.Tags = Library.ReadTags(name, Station.ProjectFile, {});
     project::BuildInventory(Session.Tags, Session.Inventory);
@@ -35,7 +35,7 @@ void World::OpenStation(const std::string& name) {
     project::BuildAvailableLists(Session.Inventory, names, true);
 }
 
-void World::ActivateRuns(const std::vector<int>& runs) {
+void FakeProgram::ActivateRuns(const std::vector<int>& runs) {
     for (int n = 1; n <= config::MaxRuns; ++n) {
         const bool active = std::find(runs.begin(), runs.end(), n) != runs.end();
         auto& entry = Station.RunList.at(static_cast<std::size_t>(n - 1));
@@ -47,7 +47,7 @@ void World::ActivateRuns(const std::vector<int>& runs) {
     Station.Runs.PrepareWholeStation(Station.ActiveRunCount);
 }
 
-std::string World::ConfigFile(const std::string& station) const {
+std::string FakeProgram::ConfigFile(const std::string& station) const {
     return Session.Project.ConfigFileOf(station);
 }
 

@@ -8,9 +8,9 @@
 
 namespace gfc::test {
 
-// The program in a world of fakes: project "/jobs/plant.KPJ" with nothing in it yet.
-struct World {
-    World();
+// The program in a world of fakes, before any screen: project "/jobs/plant.KPJ" with nothing in it yet.
+struct FakeProgram {
+    explicit FakeProgram(ui::Screen& screen);
 
     FakeFiles Files;
     FakeTimeZone TimeZone;
@@ -19,14 +19,12 @@ struct World {
     FakeLauncher Launcher;
     FakePaths Paths;
     FakeLibrary Library;
-    HeadlessScreen Screen;
     platform::Machine Machine{Files, TimeZone, Clock, SingleInstance, Launcher, Paths};
-    forms::Program Program{Machine, Library, Screen};
+    forms::Program Program;
 
     // Shorthands of what tests touch most.
     forms::Session& Session = Program.Session;
     config::StationConfig& Station = Program.Session.Station;
-    Story& TheStory = Screen.TheStory;
 
     // Adds a station with its tags to the tool's project.
     void AddStation(const std::string& name, project::TagList tags);
@@ -38,6 +36,16 @@ struct World {
     // Runs flagged active, and the records prepared for them.
     void ActivateRuns(const std::vector<int>& runs);
     [[nodiscard]] std::string ConfigFile(const std::string& station) const;
+};
+
+struct HasHeadlessScreen {
+    HeadlessScreen Screen;
+};
+
+// The same on the headless screen, to which the test tells its story.
+struct World : HasHeadlessScreen, FakeProgram {
+    World() : FakeProgram(Screen) {}
+    Story& TheStory = Screen.TheStory;
 };
 
 } // namespace gfc::test
