@@ -1,0 +1,215 @@
+#include "project/AddOnGate.h"
+
+#include "platform/Files.h"
+#include "project/AddOnInterface.h"
+#include "services/CodePage.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace gfc::project {
+
+namespace {
+
+constexpr std::int32_t projectFileSize = 255;
+// What the library may write back behind a text that it was given.
+constexpr std::size_t textRoom = 512;
+
+// The functions that are called, by name.
+struct Functions {
+    AddOnGetProjectFile GetProjectFile = nullptr;
+    AddOnGetStaList GetStaList = nullptr;
+    AddOnFreeData FreeData = nullptr;
+    AddOnReadTagList ReadTagList = nullptr;
+    AddOnFreeTagList FreeTagList = nullptr;
+    AddOnAddFileToLoad AddFileToLoad = nullptr;
+    AddOnRemoveFileToLoad RemoveFileToLoad = nullptr;
+    AddOnCoInitialize CoInitialize = nullptr;
+};
+
+template <class Function>
+void Find(const platform::DynamicLibrary& library, const char* name, Function& function) {
+    function = reinterpret_cast<Function>(library.Symbol(name));
+}
+
+Functions FindFunctions(const platform::DynamicLibrary& library) {
+    Functions functions;
+    Find(library, "kdaddon_VBGetProjectFile", functions.GetProjectFile);
+    Find(library, "kdaddon_VBGetStaList", functions.GetStaList);
+    Find(library, "kdaddon_VBFreeData", functions.FreeData);
+    Find(library, "kdaddon_VBReadTagList", functions.ReadTagList);
+    Find(library, "kdaddon_VBFreeTagList", functions.FreeTagList);
+    Find(library, "kdaddon_VBAddFileToLoad", functions.AddFileToLoad);
+    Find(library, "kdaddon_VBRemoveFileToLoad", functions.RemoveFileToLoad);
+    Find(library, "kdaddon_VBCoInitialize", functions.CoInitialize);
+    return functions;
+}
+
+// A field's text up to its first NUL, or the whole field.
+std::string TextOf(const char* field, std::size_t width) {
+    const char* end = std::find(field, field + width, '\0');
+    return services::FromCodePage({field, static_cast<std::size_t>(end - field)});
+}
+
+template <std::size_t Width>
+std::string TextOf(const char (&field)[Width]) {
+    return TextOf(field, Width);
+}
+
+// The rest of the field stays NUL; what does not fit is cut.
+template <std::size_t Width>
+bool PutText(const std::string& text, char (&field)[Width]) {
+    const auto bytes = services::ToCodePage(text);
+    if (!bytes)
+        return false;
+    std::memcpy(field, bytes->data(), std::min(bytes->size(), Width));
+    return true;
+}
+
+// A text handed over by reference, with room for what comes back.
+class InOutText {
+public:
+    explicit InOutText(const std::string& text) {
+        const auto bytes = services::ToCodePage(text);
+        holds_ = bytes.has_value();
+        buffer_.assign(textRoom + (holds_ ? bytes->size() : 0), '\0');
+        if (holds_)
+            std::copy(bytes->begin(), bytes->end(), buffer_.begin());
+    }
+    // False if the code page lacks a character of the text.
+    [[nodiscard]] bool Holds() const { return holds_; }
+    [[nodiscard]] char* Data() { return buffer_.data(); }
+
+private:
+    std::vector<char> buffer_;
+    bool holds_ = false;
+};
+
+// Record number index of the library's array, which may start at any address.
+template <class Record>
+Record RecordAt(const void* array, std::int32_t index) {
+    Record record;
+    const auto offset = static_cast<std::size_t>(index) * sizeof(Record);
+    std::memcpy(&record, static_cast<const char*>(array) + offset, sizeof(Record));
+    return record;
+}
+
+Station StationOf(const StationRecord& record) {
+    return {TextOf(record.Name), TextOf(record.Type), TextOf(record.Address), record.SerialNumber};
+}
+
+Tag TagOf(const TagRecord& record) {
+    return {TextOf(record.TagName), record.RegAddr, TextOf(record.RegType), TextOf(record.ModuleName),
+            TextOf(record.ModuleType)};
+}
+
+class AddOnGate : public AddOnLibrary {
+public:
+    explicit AddOnGate(std::unique_ptr<platform::DynamicLibrary> library)
+        : library_(std::move(library)), call_(FindFunctions(*library_)) {}
+
+    std::string GetProjectFile() override {
+        std::array<char, projectFileSize + 1> buffer{};
+        // Whether a project is open is told by the buffer, not by the result.
+        (void)call_.GetProjectFile(buffer.data(), projectFileSize);
+        return TextOf(buffer.data(), projectFileSize);
+    }
+
+    std::optional<std::vector<Station>> GetStations() override;
+    TagList ReadTags(const std::string& station, const std::string& projectFile,
+                     const std::function<void(const std::string&)>& onTag) override;
+    void AddFileToLoad(const std::string& station, const std::string& local,
+                       const std::string& target) override;
+    int RemoveFileToLoad(const std::string& station, const std::string& local,
+                         const std::string& target) override;
+    void CoInitialize() override { call_.CoInitialize(); }
+
+private:
+    std::unique_ptr<platform::DynamicLibrary> library_;
+    Functions call_;
+};
+
+std::optional<std::vector<Station>> AddOnGate::GetStations() {
+    std::int32_t count = 0;
+    void* array = nullptr;
+    // The library wants 1 and an empty text here.
+    if (call_.GetStaList(&count, &array, 1, "") == 0)
+        return std::nullopt;
+    std::vector<Station> stations;
+    if (count <= 0 || array == nullptr)
+        return stations;
+    for (std::int32_t i = 0; i < count; ++i)
+        stations.push_back(StationOf(RecordAt<StationRecord>(array, i)));
+    call_.FreeData(array);
+    return stations;
+}
+
+TagList AddOnGate::ReadTags(const std::string& station, const std::string& projectFile,
+                            const std::function<void(const std::string&)>& onTag) {
+    // Blank before each call, since the library writes into it.
+    TagRequest request{};
+    if (!PutText(station, request.Station) || !PutText(projectFile, request.ProjectFile))
+        return {};
+    void* array = nullptr;
+    const std::int32_t count = call_.ReadTagList(&request, &array);
+    // An empty list is deliberately not given back to the library.
+    if (count <= 0)
+        return {};
+    TagList tags;
+    for (std::int32_t i = 0; array != nullptr && i < count; ++i) {
+        tags.push_back(TagOf(RecordAt<TagRecord>(array, i)));
+        if (onTag)
+            onTag(tags.back().TagName);
+    }
+    call_.FreeTagList();
+    return tags;
+}
+
+void AddOnGate::AddFileToLoad(const std::string& station, const std::string& local,
+                              const std::string& target) {
+    InOutText name(station);
+    InOutText from(local);
+    InOutText to(target);
+    InOutText text{std::string()};
+    if (name.Holds() && from.Holds() && to.Holds())
+        (void)call_.AddFileToLoad(name.Data(), from.Data(), to.Data(), -1, text.Data());
+}
+
+int AddOnGate::RemoveFileToLoad(const std::string& station, const std::string& local,
+                                const std::string& target) {
+    InOutText name(station);
+    InOutText from(local);
+    InOutText to(target);
+    InOutText text{std::string()};
+    if (!name.Holds() || !from.Holds() || !to.Holds())
+        return 0;
+    return call_.RemoveFileToLoad(name.Data(), from.Data(), to.Data(), text.Data());
+}
+
+} // namespace
+
+std::string AddOnFileName() {
+#ifdef _WIN32
+    return "kdaddon_VBwrapper.dll";
+#else
+    return "kdaddon_VBwrapper.so";
+#endif
+}
+
+std::unique_ptr<AddOnLibrary> LoadAddOnLibrary(const LibraryLoader& load, const std::string& programFolder,
+                                               std::string& error) {
+    const std::string path = programFolder + platform::Separator + AddOnFileName();
+    auto loaded = load(path);
+    error = loaded.Error;
+    if (loaded.Library == nullptr)
+        return nullptr;
+    for (const auto& function : AddOnFunctions)
+        if (loaded.Library->Symbol(std::string(function.Name).c_str()) == nullptr) {
+            error = path + ": the function " + std::string(function.Name) + " is missing";
+            return nullptr;
+        }
+    return std::make_unique<AddOnGate>(std::move(loaded.Library));
+}
+
+} // namespace gfc::project
