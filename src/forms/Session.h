@@ -1,5 +1,6 @@
 #pragma once
 
+#include "binding/BindingStage.h"
 #include "config/VarINIFile.h"
 #include "project/Project.h"
 #include "project/WorkingModules.h"
@@ -11,15 +12,7 @@ namespace gfc::forms {
 // Who drives the dialogs.
 enum class EditMode { None = 0, Wizard = 1, Configurator = 2, ModifyTags = 3 };
 
-// What one showing of TagRuns edits; the numbers are those of the in-place update too.
-enum class BindingStage {
-    None = 0,
-    RunInputs = 1,
-    RunOutputs = 2,
-    GasOutputs = 3,
-    GasInputs = 4,
-    CommonInputs = 5
-};
+using BindingStage = binding::BindingStage;
 
 // What the windows share while the program runs. One object, owned by main.
 struct Session {
