@@ -1,15 +1,12 @@
 #pragma once
 
-#include "config/VarINIFile.h"
+#include "platform/ProfileFile.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-namespace gfc::platform {
-class Files;
-}
 
 // The station's configuration file: the only gates to it, and what is read and written through them.
 namespace gfc::config {
@@ -22,7 +19,11 @@ struct ProjectPaths {
 };
 
 [[nodiscard]] std::string ConfigFilePrefixOf(std::string_view projectFolder);
-// station is cut at its first NUL; with an empty one the file is prefix + project + ".ini".
+// The folder and prefix of a project file; its path may bear either separator. InstallFolder stays empty.
+[[nodiscard]] ProjectPaths PathsOf(std::string_view projectFile);
+// station is cut at its first NUL; with an empty one the file is prefix + project + ".ini". The empty text
+// where project or station hold what no file name can bear, a separator or a control character: such a
+// station has no file, and no path leads out of the folder.
 [[nodiscard]] std::string ConfigFilePath(const ProjectPaths& paths, std::string_view project,
                                          std::string_view station);
 
@@ -32,27 +33,72 @@ struct KeyValue {
     std::string Value;
 };
 
-// Each call is one complete access to the file, unless a Batch is open for that file.
+class FileIni;
+
+// True if the station's file is there; that alone is what makes a station configured.
+[[nodiscard]] bool ConfigFileExists(const FileIni& ini, const ProjectPaths& paths, std::string_view project,
+                                    std::string_view station);
+
+class FileBatch;
+
+// Each call is one complete access to the file, unless a FileBatch is open for that file. A call with the
+// empty path finds nothing and changes nothing. No call throws or reports anything beyond its result.
 class FileIni {
 public:
     explicit FileIni(platform::Files& files) : files_(files) {}
+    FileIni(const FileIni&) = delete;
+    FileIni& operator=(const FileIni&) = delete;
 
     // At most 254 characters, a longer value is cut; a missing key, section or file gives the empty text.
     [[nodiscard]] std::string ReadKey(std::string_view section, std::string_view key,
                                       const std::string& file) const;
-    // An absent value deletes the key. The result is not acted on by callers.
+    // An absent value deletes the key. False if the file could not be written; no caller acts on it. A value
+    // ends at its first NUL or line break, since it would otherwise break the lines of the file; a character
+    // that the code page lacks is written as "?".
     bool WriteKey(std::string_view section, std::string_view key, const std::optional<std::string>& value,
                   const std::string& file);
-    // Replaces the whole content of the section.
+    // Replaces the whole content of the section; adds it at the end of the file, or makes the file, where it
+    // is missing. Values as in WriteKey.
     bool WriteSection(std::string_view section, const std::vector<KeyValue>& body, const std::string& file);
     [[nodiscard]] bool FileExists(const std::string& file) const;
+    // True if a file was there and is gone.
     bool DeleteConfigFile(const std::string& file);
     // False if the target exists already.
     bool CopyConfigFile(const std::string& from, const std::string& to);
 
 private:
     friend class FileBatch;
+    using Edit = std::function<void(platform::Profile&)>;
+
+    [[nodiscard]] FileBatch* OpenBatch(const std::string& file) const;
+    bool Change(const std::string& file, const Edit& edit);
+
     platform::Files& files_;
+    std::vector<FileBatch*> batches_;
+};
+
+// While it lives, the accesses to one file share one read at its start and one replace at its end; reads see
+// what was written before them, and the file ends with the bytes that the single accesses would have given. A
+// batch within a batch for the same file is part of the outer one. Copying, deleting and the question for the
+// file's existence first put on disk what is pending.
+class FileBatch {
+public:
+    FileBatch(FileIni& ini, std::string file);
+    ~FileBatch();
+    FileBatch(const FileBatch&) = delete;
+    FileBatch& operator=(const FileBatch&) = delete;
+
+private:
+    friend class FileIni;
+
+    bool Save();
+    void Reload();
+
+    FileIni& ini_;
+    std::string file_;
+    bool outermost_;
+    bool changed_ = false;
+    std::optional<platform::ProfileFile> profile_; // none where the file cannot be read
 };
 
 } // namespace gfc::config

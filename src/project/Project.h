@@ -17,21 +17,24 @@ struct Project {
     }
 };
 
-// The project file's name without folder and without the extension ".kpj" or ".KPJ".
+// The project file's name without folder and without the extension ".kpj" or ".KPJ"; the path may bear either
+// separator. A name without such an extension comes back whole.
 [[nodiscard]] std::string ProjectNameOf(std::string_view path);
 
 enum class LoadOutcome { Loaded, NoProject, ListFailed, NoStations };
 
-// Fills ProjectFile, ProjectName and Stations.
+// Fills ProjectFile, ProjectName and Stations; Paths belongs to whoever starts the program.
 LoadOutcome LoadProject(AddOnLibrary& library, Project& project);
 
 // Enters each station's file in its list of files to load, and takes a station without a file out of it.
 void RegisterAllStations(AddOnLibrary& library, const config::FileIni& ini, const Project& project,
                          const std::string& currentStation);
+// The result of the library; 0 or not, nobody acts on it. The local path is that of currentStation.
 int UnregisterStation(AddOnLibrary& library, const Project& project, const std::string& station,
                       const std::string& currentStation);
 
-// The station between the first and the second backslash of a tree path.
+// The station between the first and the second backslash of a tree path, or to its end; empty without a
+// backslash.
 [[nodiscard]] std::string StationOfPath(std::string_view fullPath);
 
 } // namespace gfc::project

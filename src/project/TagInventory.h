@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,11 @@ using TagList = std::vector<Tag>;
 enum class RegisterClass { X, Y, AX, AY, FX, FY, LX, LY };
 constexpr std::size_t RegisterClasses = 8;
 
+// The class that a register type names, in any case; nothing for an unknown one.
+[[nodiscard]] std::optional<RegisterClass> RegisterClassOf(std::string_view regType);
+// True where the first word of the module's type is exactly "Virtual".
+[[nodiscard]] bool IsVirtual(const Tag& tag);
+
 // The sixteen class lists, each in delivery order, and the derived lists of what may be bound.
 struct TagInventory {
     TagList PhysX, PhysY, PhysAX, PhysAY, PhysFX, PhysFY, PhysLX, PhysLY;
@@ -31,6 +37,7 @@ struct TagInventory {
     TagList AvailFloat, AvailLong, AvailAnalog, AvailDigital;
 };
 
+// A tag of an unknown class stands in no list. The derived lists stay as they were.
 void BuildInventory(const TagList& tags, TagInventory& inventory);
 
 // The names of the working modules that are kept out of the derived lists.
@@ -45,6 +52,7 @@ void BuildAvailableLists(TagInventory& inventory, const WorkingModuleNames& work
 
 // Entries of the list whose module has this name, ignoring case.
 [[nodiscard]] int CountInModule(std::string_view moduleName, const TagList& list);
+// The entries from the first index on that stand outside the module.
 [[nodiscard]] int CountOutsideModule(const TagList& list, std::string_view moduleName, std::size_t first);
 // The entries of a, then those of b, that stand outside the module.
 [[nodiscard]] TagList MergeWithout(const TagList& a, const TagList& b, std::string_view moduleName);

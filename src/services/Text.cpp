@@ -35,4 +35,18 @@ bool EqualNoCase(std::string_view left, std::string_view right) {
     return left.empty() && right.empty();
 }
 
+std::string FoldCase(std::string_view utf8) {
+    std::string folded;
+    folded.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const Utf8Character character = FirstCharacter(utf8);
+        if (character.Valid)
+            AppendUtf8(folded, FoldCharacter(character.Code));
+        else
+            folded += utf8.front();
+        utf8.remove_prefix(character.Length);
+    }
+    return folded;
+}
+
 } // namespace gfc::services

@@ -1,0 +1,187 @@
+#include "config/FileIni.h"
+
+#include "services/CodePage.h"
+#include "services/Utf8.h"
+#include "services/Utilidades.h"
+
+#include <algorithm>
+
+namespace gfc::config {
+namespace {
+
+constexpr std::string_view FilePrefix = "KDOrmAGA_";
+constexpr std::string_view FileEnding = ".ini";
+
+#ifdef _WIN32
+constexpr std::string_view NeverInNames = "/\\<>:\"|?*";
+#else
+constexpr std::string_view NeverInNames = "/\\"; // the other machine's too: the name goes with the project
+#endif
+
+bool IsControl(char byte) {
+    return static_cast<unsigned char>(byte) < 0x20 || byte == 0x7F;
+}
+
+bool FileNameBears(std::string_view name) {
+    return name.find_first_of(NeverInNames) == std::string_view::npos &&
+           std::ranges::none_of(name, IsControl);
+}
+
+// One byte for each character, as the machine's own calls replace what the page lacks.
+std::string BytesOf(std::string_view utf8) {
+    if (auto bytes = services::ToCodePage(utf8))
+        return *std::move(bytes);
+    std::string bytes;
+    while (!utf8.empty()) {
+        const std::size_t length = services::FirstCharacter(utf8).Length;
+        bytes += services::ToCodePage(utf8.substr(0, length)).value_or("?");
+        utf8.remove_prefix(length);
+    }
+    return bytes;
+}
+
+std::string ValueBytes(std::string_view value) {
+    constexpr std::string_view ends("\0\r\n", 3);
+    return BytesOf(value.substr(0, value.find_first_of(ends)));
+}
+
+std::string ReadFrom(const platform::Profile& profile, std::string_view section, std::string_view key) {
+    return services::FromCodePage(profile.Read(BytesOf(section), BytesOf(key)));
+}
+
+} // namespace
+
+std::string ConfigFilePrefixOf(std::string_view projectFolder) {
+    return std::string(projectFolder).append(1, platform::Separator).append(FilePrefix);
+}
+
+ProjectPaths PathsOf(std::string_view projectFile) {
+    ProjectPaths paths;
+    paths.ProjectFolder = platform::WithOwnSeparators(platform::ParentFolder(projectFile));
+    paths.ConfigFilePrefix = ConfigFilePrefixOf(paths.ProjectFolder);
+    return paths;
+}
+
+std::string ConfigFilePath(const ProjectPaths& paths, std::string_view project, std::string_view station) {
+    const std::string name = services::TrimFixedString(station);
+    if (!FileNameBears(project) || !FileNameBears(name))
+        return {};
+    std::string path = paths.ConfigFilePrefix;
+    path.append(project);
+    if (!name.empty())
+        path.append("_").append(name);
+    return path.append(FileEnding);
+}
+
+bool ConfigFileExists(const FileIni& ini, const ProjectPaths& paths, std::string_view project,
+                      std::string_view station) {
+    return ini.FileExists(ConfigFilePath(paths, project, station));
+}
+
+std::string FileIni::ReadKey(std::string_view section, std::string_view key, const std::string& file) const {
+    if (file.empty())
+        return {};
+    if (const FileBatch* batch = OpenBatch(file))
+        return batch->profile_ ? ReadFrom(batch->profile_->Profile(), section, key) : std::string{};
+    const auto profile = platform::ProfileFile::Open(files_, file);
+    return profile ? ReadFrom(profile->Profile(), section, key) : std::string{};
+}
+
+bool FileIni::WriteKey(std::string_view section, std::string_view key,
+                       const std::optional<std::string>& value, const std::string& file) {
+    return Change(file, [&](platform::Profile& profile) {
+        const auto bytes = value ? std::optional(ValueBytes(*value)) : std::nullopt;
+        profile.Write(BytesOf(section), BytesOf(key), bytes);
+    });
+}
+
+bool FileIni::WriteSection(std::string_view section, const std::vector<KeyValue>& body,
+                           const std::string& file) {
+    return Change(file, [&](platform::Profile& profile) {
+        std::vector<std::string> items;
+        items.reserve(body.size());
+        for (const KeyValue& line : body)
+            items.push_back(BytesOf(line.Key) + "=" + ValueBytes(line.Value));
+        profile.ReplaceSection(BytesOf(section), items);
+    });
+}
+
+bool FileIni::FileExists(const std::string& file) const {
+    if (FileBatch* batch = OpenBatch(file))
+        batch->Save();
+    return !file.empty() && files_.Exists(file);
+}
+
+bool FileIni::DeleteConfigFile(const std::string& file) {
+    FileBatch* batch = OpenBatch(file);
+    if (batch != nullptr)
+        batch->Save();
+    const bool gone = !file.empty() && files_.Delete(file);
+    if (batch != nullptr)
+        batch->Reload();
+    return gone;
+}
+
+bool FileIni::CopyConfigFile(const std::string& from, const std::string& to) {
+    for (const std::string* file : {&from, &to})
+        if (FileBatch* batch = OpenBatch(*file))
+            batch->Save();
+    const bool copied = !from.empty() && !to.empty() && files_.CopyNew(from, to);
+    if (FileBatch* batch = OpenBatch(to))
+        batch->Reload();
+    return copied;
+}
+
+FileBatch* FileIni::OpenBatch(const std::string& file) const {
+    const auto found = std::ranges::find_if(
+        batches_, [&](const FileBatch* batch) { return batch->outermost_ && batch->file_ == file; });
+    return found == batches_.end() ? nullptr : *found;
+}
+
+bool FileIni::Change(const std::string& file, const Edit& edit) {
+    if (file.empty())
+        return false;
+    if (FileBatch* batch = OpenBatch(file)) {
+        if (!batch->profile_)
+            return false;
+        edit(batch->profile_->Profile());
+        return batch->changed_ = true;
+    }
+    auto profile = platform::ProfileFile::Open(files_, file);
+    if (!profile)
+        return false;
+    edit(profile->Profile());
+    return profile->Save();
+}
+
+FileBatch::FileBatch(FileIni& ini, std::string file)
+    : ini_(ini), file_(std::move(file)), outermost_(ini.OpenBatch(file_) == nullptr) {
+    if (!outermost_)
+        return;
+    Reload();
+    ini_.batches_.push_back(this);
+}
+
+FileBatch::~FileBatch() {
+    if (!outermost_)
+        return;
+    Save();
+    std::erase(ini_.batches_, this);
+}
+
+// A batch that only read does not touch the file.
+bool FileBatch::Save() {
+    if (!changed_)
+        return true;
+    changed_ = !profile_->Save();
+    return !changed_;
+}
+
+void FileBatch::Reload() {
+    changed_ = false;
+    profile_.reset();
+    if (!file_.empty())
+        profile_ = platform::ProfileFile::Open(ini_.files_, file_);
+}
+
+} // namespace gfc::config
