@@ -1,0 +1,40 @@
+#include "tools/ProfileReplay.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using namespace gfc::test;
+
+TEST(ProfileGolden, holds_in_every_recorded_case) {
+    std::ifstream cases(GFC_TEST_DATA "/golden/profile/profile.jsonl", std::ios::binary);
+    ASSERT_TRUE(cases);
+    const auto outcomes = ReplayProfileCases(cases);
+    EXPECT_EQ(outcomes.size(), 258u);
+    for (const auto& outcome : outcomes)
+        EXPECT_EQ(outcome.Failure, "") << outcome.Id;
+}
+
+// The replay itself must be able to fail, or its passing would mean nothing.
+TEST(ProfileReplay, reports_a_wrong_result_a_wrong_file_and_a_broken_line) {
+    std::istringstream cases(
+        R"({"id":"read","initial_hex":null,"ops":[{"op":"read","section":"A","key":"k"}],"results":["x"],"final_hex":null})"
+        "\n"
+        R"({"id":"file","initial_hex":"","ops":[{"op":"write","section":"A","key":"k","value":"1"}],"results":[true],"final_hex":""})"
+        "\n{broken\n"
+        R"({"id":"name","initial_hex":"","ops":[{"op":"move","section":"A"}],"results":[true],"final_hex":""})"
+        "\n"
+        R"({"id":"good","initial_hex":"","ops":[],"results":[],"final_hex":""})");
+    const auto outcomes = ReplayProfileCases(cases);
+    ASSERT_EQ(outcomes.size(), 5u);
+    EXPECT_NE(outcomes[0].Failure, "");
+    EXPECT_EQ(outcomes[1].Failure, "the file's last bytes differ");
+    EXPECT_NE(outcomes[2].Failure, "");
+    EXPECT_EQ(outcomes[3].Failure, "unknown operation move");
+    EXPECT_EQ(outcomes[4].Failure, "");
+}
+
+} // namespace
