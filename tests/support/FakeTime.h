@@ -6,7 +6,8 @@
 
 namespace gfc::test {
 
-// A zone whose biases are given: minutes to add to local time for GMT, without and with the daylight part in force.
+// A zone whose biases are given: minutes to add to local time for GMT, without and with the daylight part in
+// force.
 class FixedZone : public services::TimeZone {
 public:
     explicit FixedZone(int bias) : FixedZone(bias, bias) {}

@@ -14,7 +14,8 @@ public:
     std::optional<std::string> Read(const std::string& path) override {
         ++Reads;
         const auto found = Content.find(path);
-        return found == Content.end() || Unreadable.contains(path) ? std::nullopt : std::optional(found->second);
+        return found == Content.end() || Unreadable.contains(path) ? std::nullopt
+                                                                   : std::optional(found->second);
     }
 
     bool Replace(const std::string& path, std::string_view bytes) override {
@@ -27,7 +28,9 @@ public:
 
     bool Exists(const std::string& path) override { return Content.contains(path); }
 
-    bool Delete(const std::string& path) override { return !Unwritable.contains(path) && Content.erase(path) > 0; }
+    bool Delete(const std::string& path) override {
+        return !Unwritable.contains(path) && Content.erase(path) > 0;
+    }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
         const auto found = Content.find(from);

@@ -10,9 +10,9 @@
 #include <string>
 #include <vector>
 
-// Carries out recorded accesses to a profile file and compares what comes back and what stays behind. One case per
-// line of JSON: "id", "initial_hex" (the file's bytes, null for no file), "ops", "results", "final_hex". A text of a
-// case holds one character U+0000 to U+00FF per byte of the file.
+// Carries out recorded accesses to a profile file and compares what comes back and what stays behind. One
+// case per line of JSON: "id", "initial_hex" (the file's bytes, null for no file), "ops", "results",
+// "final_hex". A text of a case holds one character U+0000 to U+00FF per byte of the file.
 namespace gfc::test {
 
 struct ReplayOutcome {
@@ -33,7 +33,8 @@ inline std::string BytesOf(const std::string& utf8) {
         if (lead < 0x80)
             bytes += utf8[i];
         else
-            bytes += static_cast<char>((lead & 0x03) << 6 | (static_cast<unsigned char>(utf8.at(++i)) & 0x3F));
+            bytes +=
+                static_cast<char>((lead & 0x03) << 6 | (static_cast<unsigned char>(utf8.at(++i)) & 0x3F));
     }
     return bytes;
 }
@@ -48,7 +49,9 @@ inline std::optional<std::string> FromHex(const Json& hex) {
     return bytes;
 }
 
-inline std::string Field(const Json& operation, const char* name) { return BytesOf(operation.at(name)); }
+inline std::string Field(const Json& operation, const char* name) {
+    return BytesOf(operation.at(name));
+}
 
 inline void Apply(platform::Profile& profile, const Json& operation) {
     const std::string name = operation.at("op");
@@ -73,7 +76,8 @@ inline bool Matches(MemoryFiles& files, const Json& operation, const Json& expec
     if (!file)
         return false;
     if (operation.at("op") == "read")
-        return file->Profile().Read(Field(operation, "section"), Field(operation, "key")) == BytesOf(expected);
+        return file->Profile().Read(Field(operation, "section"), Field(operation, "key")) ==
+               BytesOf(expected);
     Apply(file->Profile(), operation);
     return file->Save() == expected.get<bool>();
 }
