@@ -167,6 +167,8 @@ void Profile::ReplaceSection(std::string_view section, std::string_view body) {
 
 // A last line that lacks its break gets one before anything follows it.
 void Profile::Insert(std::size_t at, std::string text) {
+    if (text.empty())
+        return;
     if (at > 0 && bytes_[at - 1] != '\n')
         text.insert(0, LineBreak);
     bytes_.insert(at, text);

@@ -1,0 +1,110 @@
+#include "platform/Files.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace gfc::platform;
+using gfc::test::TempFolder;
+
+class FilesTest : public testing::Test {
+protected:
+    TempFolder Folder;
+    std::unique_ptr<Files> Real = MakeFiles();
+};
+
+TEST_F(FilesTest, reads_all_bytes_of_a_file) {
+    std::string bytes;
+    for (int i = 0; i < 300'000; ++i)
+        bytes += static_cast<char>(i * 31 + i / 256);
+    EXPECT_EQ(Real->Read(Folder.Put("f", bytes)), bytes);
+    EXPECT_EQ(Real->Read(Folder.Put("empty", "")), "");
+}
+
+TEST_F(FilesTest, reads_nothing_where_no_file_is) {
+    EXPECT_EQ(Real->Read(Folder.Path("missing")), std::nullopt);
+    EXPECT_EQ(Real->Read(Folder.Path()), std::nullopt);
+    EXPECT_EQ(Real->Read(""), std::nullopt);
+}
+
+TEST_F(FilesTest, replace_makes_a_new_file) {
+    const std::string bytes("a\r\n\0b", 5);
+    EXPECT_TRUE(Real->Replace(Folder.Path("f"), bytes));
+    EXPECT_EQ(Folder.Get("f"), bytes);
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(FilesTest, replace_puts_new_bytes_in_the_place_of_old_ones) {
+    Folder.Put("f", std::string(10'000, 'x'));
+    const std::string bytes(3'000'000, 'y');
+    EXPECT_TRUE(Real->Replace(Folder.Path("f"), bytes));
+    EXPECT_EQ(Folder.Get("f"), bytes);
+    EXPECT_TRUE(Real->Replace(Folder.Path("f"), ""));
+    EXPECT_EQ(Folder.Get("f"), "");
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(FilesTest, replace_takes_names_with_blanks_letters_and_great_length) {
+    for (const std::string& name : {std::string("Estación Ñ 1.ini"), std::string(250, 'n')}) {
+        EXPECT_TRUE(Real->Replace(Folder.Path(name), "1"));
+        EXPECT_TRUE(Real->Replace(Folder.Path(name), "2"));
+        EXPECT_EQ(Folder.Get(name), "2");
+    }
+    EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST_F(FilesTest, replace_refuses_what_cannot_be_a_file) {
+    Folder.Put("plain", "kept");
+    EXPECT_FALSE(Real->Replace(Folder.Path("plain/f"), "x")) << "a file is no folder";
+    EXPECT_FALSE(Real->Replace(Folder.Path("missing/f"), "x"));
+    EXPECT_FALSE(Real->Replace(Folder.Path(), "x"));
+    EXPECT_FALSE(Real->Replace("", "x"));
+    EXPECT_EQ(Folder.Get("plain"), "kept");
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(FilesTest, exists_tells_files_from_folders) {
+    EXPECT_TRUE(Real->Exists(Folder.Put("f", "")));
+    EXPECT_FALSE(Real->Exists(Folder.Path()));
+    EXPECT_FALSE(Real->Exists(Folder.Path("missing")));
+    EXPECT_FALSE(Real->Exists(""));
+}
+
+TEST_F(FilesTest, delete_takes_a_file_and_nothing_else) {
+    Folder.Put("f", "x");
+    EXPECT_TRUE(Real->Delete(Folder.Path("f")));
+    EXPECT_EQ(Folder.Count(), 0u);
+    EXPECT_FALSE(Real->Delete(Folder.Path("f")));
+    EXPECT_FALSE(Real->Delete(Folder.Path()));
+    EXPECT_TRUE(std::filesystem::exists(Folder.Path()));
+}
+
+TEST_F(FilesTest, copy_makes_a_second_file) {
+    Folder.Put("a", "bytes");
+    EXPECT_TRUE(Real->CopyNew(Folder.Path("a"), Folder.Path("b")));
+    EXPECT_EQ(Folder.Get("a"), "bytes");
+    EXPECT_EQ(Folder.Get("b"), "bytes");
+    EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST_F(FilesTest, copy_refuses_a_target_that_is_there) {
+    Folder.Put("a", "new");
+    Folder.Put("b", "old");
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path("b")));
+    EXPECT_EQ(Folder.Get("b"), "old");
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path("a")));
+    EXPECT_EQ(Folder.Get("a"), "new");
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path())) << "a folder is there";
+    EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST_F(FilesTest, copy_leaves_nothing_behind_when_it_fails) {
+    Folder.Put("a", "x");
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("missing"), Folder.Path("b")));
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path("a/b")));
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path("missing/b")));
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+} // namespace

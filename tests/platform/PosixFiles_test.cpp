@@ -1,0 +1,262 @@
+#ifndef _WIN32
+#include "platform/Files.h"
+#include "platform/posix/Descriptor.h"
+#include "platform/posix/TemporaryFile.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace gfc::platform;
+using gfc::platform::posix::TemporaryFile;
+using gfc::test::TempFolder;
+namespace fs = std::filesystem;
+
+unsigned ModeOf(const std::string& path) {
+    struct stat state {};
+    return ::stat(path.c_str(), &state) == 0 ? state.st_mode & 07777u : 0;
+}
+
+// Runs the work in a process of its own; its result is that process's exit code.
+template <class Work>
+int InChild(Work work) {
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(work());
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class PosixFilesTest : public testing::Test {
+protected:
+    TempFolder Folder;
+    std::unique_ptr<Files> Real = MakeFiles();
+};
+
+TEST_F(PosixFilesTest, replace_keeps_the_mode_of_an_existing_file) {
+    for (const unsigned mode : {0600u, 0640u, 0664u, 0755u}) {
+        Folder.Put("f", "old");
+        ASSERT_EQ(::chmod(Folder.Path("f").c_str(), mode), 0);
+        EXPECT_TRUE(Real->Replace(Folder.Path("f"), "new"));
+        EXPECT_EQ(ModeOf(Folder.Path("f")), mode);
+    }
+}
+
+TEST_F(PosixFilesTest, replace_gives_a_new_file_what_the_mask_leaves_of_0644) {
+    for (const unsigned mask : {0022u, 0077u, 0002u}) {
+        const std::string name = "f" + std::to_string(mask);
+        EXPECT_EQ(InChild([&] {
+                      ::umask(mask);
+                      return Real->Replace(Folder.Path(name), "x") ? 0 : 1;
+                  }),
+                  0);
+        EXPECT_EQ(ModeOf(Folder.Path(name)), 0644u & ~mask);
+    }
+}
+
+TEST_F(PosixFilesTest, replace_keeps_the_owner_where_it_may) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser may give files away";
+    Folder.Put("f", "old");
+    ASSERT_EQ(::chown(Folder.Path("f").c_str(), 1234, 2345), 0);
+    EXPECT_TRUE(Real->Replace(Folder.Path("f"), "new"));
+    struct stat state {};
+    ASSERT_EQ(::stat(Folder.Path("f").c_str(), &state), 0);
+    EXPECT_EQ(state.st_uid, 1234u);
+    EXPECT_EQ(state.st_gid, 2345u);
+}
+
+TEST_F(PosixFilesTest, replace_follows_links_to_the_file_itself) {
+    fs::create_directory(Folder.Path("sub"));
+    Folder.Put("sub/real", "old");
+    fs::create_symlink("real", Folder.Path("sub/middle"));
+    fs::create_symlink("sub/middle", Folder.Path("link"));
+    EXPECT_TRUE(Real->Replace(Folder.Path("link"), "new"));
+    EXPECT_EQ(Folder.Get("sub/real"), "new");
+    EXPECT_TRUE(fs::is_symlink(Folder.Path("link")));
+    EXPECT_TRUE(fs::is_symlink(Folder.Path("sub/middle")));
+}
+
+TEST_F(PosixFilesTest, replace_makes_the_file_that_a_link_names_in_vain) {
+    fs::create_symlink("real", Folder.Path("link"));
+    EXPECT_TRUE(Real->Replace(Folder.Path("link"), "new"));
+    EXPECT_TRUE(fs::is_symlink(Folder.Path("link")));
+    EXPECT_EQ(Folder.Get("real"), "new");
+}
+
+TEST_F(PosixFilesTest, replace_refuses_a_ring_of_links) {
+    fs::create_symlink("b", Folder.Path("a"));
+    fs::create_symlink("a", Folder.Path("b"));
+    EXPECT_FALSE(Real->Replace(Folder.Path("a"), "x"));
+    EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST_F(PosixFilesTest, nothing_waits_at_a_pipe) {
+    const std::string pipe = Folder.Path("pipe");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(Real->Read(pipe), std::nullopt);
+    EXPECT_FALSE(Real->Replace(pipe, "x"));
+    EXPECT_FALSE(Real->CopyNew(pipe, Folder.Path("copy")));
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, replace_removes_what_a_dead_writer_left) {
+    const std::string target = Folder.Put("plant.ini", "old");
+    EXPECT_EQ(InChild([&] {
+                  const auto file = TemporaryFile::Beside(target, 0600);
+                  (void)posix::WriteAll(file->Get(), "half");
+                  ::_exit(file ? 0 : 1);
+                  return 1;
+              }),
+              0);
+    ASSERT_EQ(Folder.Count(), 2u);
+    EXPECT_TRUE(Real->Replace(target, "new"));
+    EXPECT_EQ(Folder.Get("plant.ini"), "new");
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, replace_leaves_a_living_writers_file_and_those_of_others) {
+    const std::string target = Folder.Put("plant.ini", "old");
+    Folder.Put(".gfc-save-plant.ini.bak-0000000000", "another file's");
+    Folder.Put(".gfc-save-plant.ini-short", "no leftover");
+    auto living = TemporaryFile::Beside(target, 0600);
+    ASSERT_TRUE(living);
+    EXPECT_TRUE(Real->Replace(target, "new"));
+    EXPECT_EQ(Folder.Count(), 4u);
+    EXPECT_TRUE(living->MoveOver(target)) << "the other writer is not disturbed";
+    EXPECT_EQ(Folder.Count(), 3u);
+}
+
+// A limit on file size makes the disk seem full after some bytes.
+TEST_F(PosixFilesTest, a_full_disk_leaves_the_old_file_and_nothing_beside_it) {
+    const std::string target = Folder.Put("f", "old");
+    Folder.Put("large", std::string(5000, 'x'));
+    EXPECT_EQ(InChild([&] {
+                  ::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit{1000, 1000};
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  const bool replaced = Real->Replace(target, std::string(5000, 'x'));
+                  const bool copied = Real->CopyNew(Folder.Path("large"), Folder.Path("copy"));
+                  return replaced || copied ? 1 : 0;
+              }),
+              0);
+    EXPECT_EQ(Folder.Get("f"), "old");
+    EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST(WriteAll, reports_a_device_that_takes_nothing) {
+    const auto full = posix::Open("/dev/full", O_WRONLY);
+    if (!full)
+        GTEST_SKIP() << "this machine has no such device";
+    EXPECT_FALSE(posix::WriteAll(full.Get(), "x"));
+}
+
+// A pipe takes large texts in pieces only.
+TEST(WriteAll, writes_all_pieces) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    posix::Descriptor reader(ends[0]);
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(posix::WriteAll(ends[1], std::string(1'000'000, 'x')) ? 0 : 1);
+    EXPECT_TRUE(posix::Descriptor(ends[1]).Close());
+    std::array<char, 4096> piece{};
+    std::size_t total = 0;
+    for (ssize_t got = 1; got > 0; total += static_cast<std::size_t>(got > 0 ? got : 0))
+        got = ::read(reader.Get(), piece.data(), piece.size());
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(total, 1'000'000u);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+// Replaces the file without end and tells of each replace.
+[[noreturn]] void ReplaceForever(Files& files, const std::string& target, int report) {
+    for (char fill = 'a';; fill = fill == 'a' ? 'b' : 'a') {
+        if (!files.Replace(target, std::string(200'000, fill)) || ::write(report, "x", 1) != 1)
+            ::_exit(1);
+    }
+}
+
+TEST_F(PosixFilesTest, a_writer_killed_at_any_moment_leaves_a_whole_file) {
+    const std::string target = Folder.Put("f", std::string(200'000, 'a'));
+    for (int round = 1; round <= 10; ++round) {
+        std::array<int, 2> ends{};
+        ASSERT_EQ(::pipe(ends.data()), 0);
+        posix::Descriptor reader(ends[0]);
+        const pid_t child = ::fork();
+        if (child == 0)
+            ReplaceForever(*Real, target, ends[1]);
+        ASSERT_TRUE(posix::Descriptor(ends[1]).Close());
+        char told = 0;
+        for (int i = 0; i < round; ++i)
+            ASSERT_EQ(::read(reader.Get(), &told, 1), 1);
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        const std::string bytes = Folder.Get("f");
+        ASSERT_EQ(bytes.size(), 200'000u);
+        ASSERT_EQ(bytes.find_first_not_of(bytes.front()), std::string::npos);
+    }
+    EXPECT_TRUE(Real->Replace(target, "end"));
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, two_writers_do_not_disturb_each_other) {
+    const std::string target = Folder.Put("f", "old");
+    std::array<pid_t, 2> writers{};
+    for (std::size_t i = 0; i < writers.size(); ++i) {
+        writers[i] = ::fork();
+        if (writers[i] != 0)
+            continue;
+        for (int n = 0; n < 50; ++n)
+            if (!Real->Replace(target, std::string(5000, i == 0 ? 'a' : 'b')))
+                ::_exit(1);
+        ::_exit(0);
+    }
+    for (const pid_t writer : writers) {
+        int status = 0;
+        ::waitpid(writer, &status, 0);
+        EXPECT_EQ(WEXITSTATUS(status), 0);
+    }
+    const std::string bytes = Folder.Get("f");
+    EXPECT_EQ(bytes, std::string(5000, bytes.front()));
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, copy_refuses_a_link_that_names_nothing) {
+    Folder.Put("a", "x");
+    fs::create_symlink("nowhere", Folder.Path("b"));
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path("b")));
+    EXPECT_FALSE(fs::exists(Folder.Path("nowhere")));
+}
+
+TEST_F(PosixFilesTest, copy_to_new_refuses_a_target_that_came_meanwhile) {
+    auto file = TemporaryFile::Beside(Folder.Path("b"), 0600);
+    ASSERT_TRUE(file);
+    Folder.Put("b", "first");
+    EXPECT_FALSE(file->MoveToNew(Folder.Path("b")));
+    file.reset();
+    EXPECT_EQ(Folder.Get("b"), "first");
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, delete_takes_the_link_and_leaves_the_file) {
+    Folder.Put("real", "x");
+    fs::create_symlink("real", Folder.Path("link"));
+    EXPECT_TRUE(Real->Delete(Folder.Path("link")));
+    EXPECT_EQ(Folder.Get("real"), "x");
+}
+
+} // namespace
+#endif

@@ -1,0 +1,298 @@
+#ifndef _WIN32
+#include "platform/DynamicLibrary.h"
+#include "platform/Machine.h"
+#include "services/modLocalTimeAndGMT.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace gfc;
+using namespace gfc::platform;
+using gfc::test::TempFolder;
+
+// An environment variable for the length of a test; null takes it away.
+class Environment {
+public:
+    Environment(const char* name, const char* value) : name_(name) {
+        if (const char* old = std::getenv(name))
+            old_ = old;
+        value ? ::setenv(name, value, 1) : ::unsetenv(name);
+    }
+    Environment(const Environment&) = delete;
+    Environment& operator=(const Environment&) = delete;
+    ~Environment() { old_ ? ::setenv(name_, old_->c_str(), 1) : ::unsetenv(name_); }
+
+private:
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
+template <class Work>
+int InChild(Work work) {
+    const pid_t child = ::fork();
+    if (child == 0)
+        ::_exit(work());
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class SingleInstanceTest : public testing::Test {
+protected:
+    TempFolder Folder;
+    Environment Runtime{"XDG_RUNTIME_DIR", Folder.Path().c_str()};
+};
+
+TEST_F(SingleInstanceTest, a_second_process_does_not_get_the_name) {
+    const auto first = MakeSingleInstance();
+    EXPECT_TRUE(first->Acquire("gfc"));
+    EXPECT_TRUE(first->Acquire("gfc")) << "its holder keeps it";
+    EXPECT_EQ(InChild([] { return MakeSingleInstance()->Acquire("gfc") ? 0 : 1; }), 1);
+    EXPECT_EQ(InChild([] { return MakeSingleInstance()->Acquire("other") ? 0 : 1; }), 0);
+}
+
+TEST_F(SingleInstanceTest, the_name_is_free_again_after_its_holder) {
+    ASSERT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+}
+
+TEST_F(SingleInstanceTest, a_killed_holder_leaves_the_name_free) {
+    EXPECT_EQ(InChild([] {
+                  const auto instance = MakeSingleInstance();
+                  if (instance->Acquire("gfc"))
+                      ::raise(SIGKILL);
+                  return 0;
+              }),
+              -1);
+    EXPECT_EQ(Folder.Count(), 1u) << "the file is still there";
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+}
+
+TEST_F(SingleInstanceTest, a_stale_file_fools_nobody) {
+    Folder.Put("gfc.lock", "12345");
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+}
+
+TEST_F(SingleInstanceTest, a_started_program_does_not_hold_the_name_on) {
+    TempFolder pipes;
+    ASSERT_EQ(::mkfifo(pipes.Path("hold").c_str(), 0600), 0);
+    {
+        const auto instance = MakeSingleInstance();
+        ASSERT_TRUE(instance->Acquire("gfc"));
+        ASSERT_TRUE(MakeLauncher()->Start("/bin/sh", {"-c", "read x < \"$0\"", pipes.Path("hold")}));
+    }
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    const int release = ::open(pipes.Path("hold").c_str(), O_WRONLY);
+    EXPECT_GE(release, 0);
+    ::close(release);
+}
+
+TEST_F(SingleInstanceTest, lets_the_program_run_where_no_lock_can_be_had) {
+    std::filesystem::create_directory(Folder.Path("gfc.lock"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+}
+
+TEST(SingleInstanceFolder, must_be_the_users_own_full_path) {
+    const TempFolder folder;
+    folder.Put("plain", "");
+    const std::string name = "gfc-test-" + std::to_string(::getpid());
+    const std::string common = "/tmp/" + name + "-" + std::to_string(::geteuid()) + ".lock";
+    for (const std::string& bad : {std::string("relative"), folder.Path("plain"), folder.Path("missing")}) {
+        const Environment runtime("XDG_RUNTIME_DIR", bad.c_str());
+        EXPECT_TRUE(MakeSingleInstance()->Acquire(name));
+        EXPECT_TRUE(std::filesystem::remove(common)) << bad;
+    }
+}
+
+class LauncherTest : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_EQ(::mkfifo(Folder.Path("said").c_str(), 0600), 0); }
+
+    std::string Script(const std::string& name, const std::string& body) {
+        const std::string path = Folder.Put(name, "#!/bin/sh\n" + body + "\n");
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+        return path;
+    }
+
+    // Waits for what the started program writes into the pipe.
+    std::string Said() { return Folder.Get("said"); }
+
+    TempFolder Folder;
+    std::unique_ptr<Launcher> Real = MakeLauncher();
+};
+
+TEST_F(LauncherTest, hands_arguments_over_as_they_are) {
+    const auto script =
+        Script("say", "for a in \"$@\"; do printf '%s|' \"$a\"; done > \"$(dirname \"$0\")/said\"");
+    EXPECT_TRUE(Real->Start(script, {"two words", "$HOME;`x`", "", "'\"*"}));
+    EXPECT_EQ(Said(), "two words|$HOME;`x`||'\"*|");
+}
+
+TEST_F(LauncherTest, does_not_wait_and_leaves_no_child_behind) {
+    const auto script = Script("wait", "read x < \"$(dirname \"$0\")/said\"");
+    EXPECT_TRUE(Real->Start(script, {}));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "there is no child to wait for";
+    EXPECT_EQ(errno, ECHILD);
+    Folder.Put("said", "go\n");
+}
+
+TEST_F(LauncherTest, reports_what_cannot_be_started) {
+    EXPECT_FALSE(Real->Start(Folder.Path("missing"), {}));
+    EXPECT_FALSE(Real->Start(Folder.Put("plain", "text"), {}));
+    EXPECT_FALSE(Real->Start(Folder.Path(), {}));
+    EXPECT_FALSE(Real->Start("", {}));
+    EXPECT_FALSE(Real->Start("no-such-program-on-any-path", {}));
+    const auto broken = Folder.Put("broken", "#!/no/such/interpreter\n");
+    std::filesystem::permissions(broken, std::filesystem::perms::owner_all);
+    EXPECT_FALSE(Real->Start(broken, {}));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+}
+
+TEST_F(LauncherTest, works_while_ended_children_are_ignored) {
+    const auto before = ::signal(SIGCHLD, SIG_IGN);
+    EXPECT_TRUE(Real->Start("/bin/true", {}));
+    EXPECT_FALSE(Real->Start(Folder.Path("missing"), {}));
+    ::signal(SIGCHLD, before);
+}
+
+TEST_F(LauncherTest, finds_a_bare_name_on_the_search_path_only) {
+    Script("say", "echo found > \"$(dirname \"$0\")/said\"");
+    const std::string path = "relative::/nowhere:" + Folder.Path() + ":/usr/bin:/bin";
+    const Environment search("PATH", path.c_str());
+    EXPECT_TRUE(Real->Start("say", {}));
+    EXPECT_EQ(Said(), "found\n");
+    const Environment none("PATH", nullptr);
+    EXPECT_FALSE(Real->Start("say", {}));
+}
+
+TEST_F(LauncherTest, opens_a_text_file_in_the_machines_viewer) {
+    Script("xdg-open", "printf '%s' \"$1\" > \"$(dirname \"$0\")/said\"");
+    const std::string path = Folder.Path() + ":/usr/bin:/bin";
+    const Environment search("PATH", path.c_str());
+    EXPECT_TRUE(Real->OpenTextFile("/srv/jobs/North Gate_Errors.log"));
+    EXPECT_EQ(Said(), "/srv/jobs/North Gate_Errors.log");
+}
+
+TEST_F(LauncherTest, says_so_where_there_is_no_viewer) {
+    const Environment search("PATH", Folder.Path().c_str());
+    EXPECT_FALSE(Real->OpenTextFile("/srv/jobs/x.log"));
+}
+
+TEST(Paths, names_the_folder_of_this_program) {
+    const std::string folder = MakePaths()->ExecutableFolder();
+    EXPECT_TRUE(std::filesystem::exists(folder + "/platform_test"));
+}
+
+TEST(Paths, follows_the_desktops_rule_for_profiles) {
+    const Environment home("HOME", "/home/anna");
+    {
+        const Environment config("XDG_CONFIG_HOME", "/etc/anna");
+        EXPECT_EQ(MakePaths()->ProfileFolder(), "/etc/anna");
+    }
+    {
+        const Environment config("XDG_CONFIG_HOME", "relative");
+        EXPECT_EQ(MakePaths()->ProfileFolder(), "/home/anna/.config");
+    }
+    const Environment config("XDG_CONFIG_HOME", nullptr);
+    EXPECT_EQ(MakePaths()->ProfileFolder(), "/home/anna/.config");
+}
+
+TEST(DynamicLibrary, gives_its_symbols) {
+    const std::string own = MakePaths()->ExecutableFolder() + "/" PLATFORM_TEST_LIBRARY;
+    const auto load = LoadLibraryAt(own);
+    ASSERT_TRUE(load.Library) << load.Error;
+    EXPECT_EQ(load.Error, "");
+    auto* twice = load.Library->FunctionOf<int(int)>("twice");
+    ASSERT_NE(twice, nullptr);
+    EXPECT_EQ(twice(21), 42);
+    EXPECT_EQ(load.Library->Symbol("no_such_symbol"), nullptr);
+}
+
+TEST(DynamicLibrary, names_file_and_reason_of_a_failure) {
+    const TempFolder folder;
+    const auto broken = folder.Put("broken.so", "no library");
+    for (const std::string& path : {folder.Path("missing.so"), broken}) {
+        const auto load = LoadLibraryAt(path);
+        EXPECT_FALSE(load.Library);
+        EXPECT_NE(load.Error.find(path), std::string::npos);
+        EXPECT_GT(load.Error.size(), path.size() + 30);
+    }
+}
+
+TEST(DynamicLibrary, is_never_searched_for) {
+    for (const char* name : {"libc.so.6", "./libm.so.6", ""}) {
+        const auto load = LoadLibraryAt(name);
+        EXPECT_FALSE(load.Library);
+        EXPECT_EQ(load.Error, "\"" + std::string(name) + "\" is not a full path");
+    }
+}
+
+// The zone of a process of its own; the rule texts need no zone files on the machine.
+int BiasIn(const char* zone, bool current) {
+    return InChild([zone, current] {
+               ::setenv("TZ", zone, 1);
+               const auto real = MakeTimeZone();
+               const int bias = current ? real->CurrentBias() : real->GetTimeZoneInformation().Bias;
+               return 100 + bias / 15;
+           }) * 15 -
+           1500;
+}
+
+TEST(RealTimeZone, gives_minutes_to_add_to_local_time) {
+    EXPECT_EQ(BiasIn("UTC0", false), 0);
+    EXPECT_EQ(BiasIn("EST5", false), 300);
+    EXPECT_EQ(BiasIn("IST-5:30", false), -330);
+    EXPECT_EQ(BiasIn("EST5", true), 300);
+    EXPECT_EQ(BiasIn("IST-5:30", true), -330);
+}
+
+TEST(RealTimeZone, leaves_the_daylight_part_out_of_the_bias_all_year) {
+    EXPECT_EQ(BiasIn("EST5EDT,M3.2.0,M11.1.0", false), 300);
+    EXPECT_EQ(BiasIn("AEST-10AEDT,M10.1.0,M4.1.0/3", false), -600) << "its summer is in January";
+    EXPECT_EQ(BiasIn("IST-1GMT0,M10.5.0,M3.5.0/1", false), 0) << "winter is marked as its daylight time";
+}
+
+TEST(RealTimeZone, has_one_of_the_two_biases_in_force) {
+    const int bias = BiasIn("EST5EDT,M3.2.0,M11.1.0", true);
+    EXPECT_TRUE(bias == 300 || bias == 240) << bias;
+    EXPECT_EQ(BiasIn("EST5EDT,0/0,J365/25", true), 240) << "daylight time all year";
+}
+
+TEST(RealClock, tells_local_time_in_whole_seconds) {
+    const auto difference = InChild([] {
+        ::setenv("TZ", "XYZ-3", 1);
+        const std::time_t before = std::time(nullptr);
+        const double seconds = (MakeClock()->LocalNow() - services::DateSerial(1970, 1, 1)) * 86400;
+        const double offset = seconds - static_cast<double>(before) - 3 * 3600;
+        const bool whole = std::abs(seconds - std::round(seconds)) < 1e-3;
+        return whole && offset > -0.5 && offset < 30 ? 0 : 1;
+    });
+    EXPECT_EQ(difference, 0);
+}
+
+TEST(RealMachine, gives_all_seams) {
+    const TempFolder folder;
+    RealMachine real;
+    const Machine machine = real.Seams();
+    EXPECT_TRUE(machine.Files.Replace(folder.Path("f"), "x"));
+    EXPECT_FALSE(machine.Paths.ExecutableFolder().empty());
+    EXPECT_FALSE(machine.Launcher.Start("", {}));
+    EXPECT_GT(machine.Clock.LocalNow(), services::DateSerial(2020, 1, 1));
+    EXPECT_LE(std::abs(machine.TimeZone.GetTimeZoneInformation().Bias), 14 * 60);
+    const Environment runtime("XDG_RUNTIME_DIR", folder.Path().c_str());
+    EXPECT_TRUE(machine.SingleInstance.Acquire("gfc"));
+}
+
+} // namespace
+#endif
