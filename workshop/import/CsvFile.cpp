@@ -66,11 +66,10 @@ private:
 
 std::string ReadWhole(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(in), {}};
-    if (!in.is_open() || in.bad() || std::filesystem::is_directory(file)) {
+    if (!in || std::filesystem::is_directory(file)) { // a folder opens like a file and fails later
         throw Failure(PathText(file) + ": cannot be read; check the path and the access rights.");
     }
-    return text;
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 std::string_view WithoutMark(std::string_view text) {

@@ -8,6 +8,7 @@
 #include <cctype>
 #include <charconv>
 #include <optional>
+#include <utility>
 
 namespace gfc::workshop {
 
@@ -91,7 +92,8 @@ bool MustNotBeEmpty(const Column& column, const TableRow& row) {
     return column.Needed == Need::Always || (column.Needed == Need::WithTag && HoldsTag(row));
 }
 
-void CheckRow(const TableRow& row, std::vector<Complaint>& complaints) {
+bool CheckRow(const TableRow& row, std::vector<Complaint>& complaints) {
+    const std::size_t before = complaints.size();
     for (const Column& column : Columns) {
         const std::string& text = row.*column.Field;
         std::string fault;
@@ -104,6 +106,7 @@ void CheckRow(const TableRow& row, std::vector<Complaint>& complaints) {
             complaints.push_back({row.Row, std::string(column.Title), fault});
         }
     }
+    return complaints.size() == before;
 }
 
 using Heading = std::vector<const Column*>; // one per column of the file
@@ -181,8 +184,9 @@ TagTable ReadTagTable(const std::vector<CsvRow>& rows) {
             table.Complaints.push_back({row->Row, "", "has more fields than the first row has columns"});
             continue;
         }
-        table.Rows.push_back(ReadRow(*row, heading));
-        CheckRow(table.Rows.back(), table.Complaints);
+        if (TableRow read = ReadRow(*row, heading); CheckRow(read, table.Complaints)) {
+            table.Rows.push_back(std::move(read));
+        }
     }
     return table;
 }

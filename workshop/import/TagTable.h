@@ -43,7 +43,7 @@ struct TableRow {
 [[nodiscard]] std::int32_t NumberOf(const std::string& text);
 
 struct TagTable {
-    std::vector<TableRow> Rows;
+    std::vector<TableRow> Rows; ///< those without a fault
     std::vector<Complaint>
         Complaints; ///< of single fields and rows; what the project holds is not looked at here
 };
