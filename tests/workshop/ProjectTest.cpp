@@ -3,9 +3,14 @@
 
 namespace gfc::workshop {
 
-using testing::Test;
-
-class ProjectFile : public WorkshopFixture {};
+class ProjectFile : public WorkshopFixture {
+protected:
+    static std::string PathOfLength(std::size_t length) {
+        std::string path = "/";
+        path.resize(length - 4, 'a');
+        return path.append(".KPJ");
+    }
+};
 
 TEST_F(ProjectFile, is_not_made_over_another_file) {
     WriteBytes(Folder / "taken.KPJ", "notes");
@@ -53,8 +58,8 @@ TEST_F(ProjectFile, path_must_fit_what_the_library_hands_out) {
     EXPECT_NE(FailureOf([] { CheckProjectPath("/jobs/plant.db"); }), "");
     EXPECT_NE(FailureOf([] { CheckProjectPath("/jobs/压/plant.KPJ"); }), "");
     EXPECT_NE(FailureOf([] { CheckProjectPath("/jobs/a\nb/plant.KPJ"); }), "");
-    EXPECT_EQ(FailureOf([] { CheckProjectPath("/" + std::string(249, 'a') + ".KPJ"); }), "");
-    EXPECT_NE(FailureOf([] { CheckProjectPath("/" + std::string(250, 'a') + ".KPJ"); }), "");
+    EXPECT_EQ(FailureOf([] { CheckProjectPath(PathOfLength(254)); }), "");
+    EXPECT_NE(FailureOf([] { CheckProjectPath(PathOfLength(255)); }), "");
 }
 
 TEST_F(ProjectFile, keeps_stations_and_tags_in_the_order_in_which_they_came) {

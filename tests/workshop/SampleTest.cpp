@@ -1,20 +1,14 @@
-#include "WorkshopFixture.h"
-#include "workshop/demo/SampleConfiguration.h"
-#include "workshop/demo/SampleProject.h"
+#include "SampleFixture.h"
 #include "workshop/demo/TagPattern.h"
-#include "workshop/store/FilesToLoad.h"
-#include "workshop/text/Paths.h"
 
 #include <gmock/gmock.h>
 
 #include <map>
 #include <set>
-#include <sstream>
 
 namespace gfc::workshop {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 TEST(TagPattern, goes_through_lists_and_ranges_with_the_last_brace_fastest) {
     EXPECT_THAT(ExpandTags("XV-{1..2}_{OPN,CLS} ESD", 0),
@@ -83,24 +77,11 @@ Capacity CapacityOf(const std::vector<Tag>& tags) {
 
 } // namespace
 
-class Sample : public WorkshopFixture {
+class Sample : public SampleFixture {
 protected:
-    Sample() : files_(MakeSample(Folder / "plant", Existing::Refuse)) {}
-
-    [[nodiscard]] Project Plant(Access access = Access::Read) const {
-        return Project::Open(files_.Project, access);
-    }
-    [[nodiscard]] std::vector<Tag> TagsOf(const std::string& station) const {
-        Project project = Plant();
-        const auto known = FindStation(project, station);
-        EXPECT_TRUE(known) << station;
-        return known ? ListTags(project, known->Id) : std::vector<Tag>{};
-    }
     [[nodiscard]] Capacity StationCapacity(const std::string& station) const {
         return CapacityOf(TagsOf(station));
     }
-
-    SampleFiles files_;
 };
 
 TEST_F(Sample, has_stations_with_everything_that_a_list_shows) {
@@ -180,6 +161,8 @@ TEST_F(Sample, skid_carries_one_run_and_has_letters_beyond_ascii) {
     Capacity capacity = StationCapacity("Skid_Añelo");
     EXPECT_TRUE(capacity.Carries(23, 2, 3));
     EXPECT_TRUE(capacity.Carries(11, 2, 3) && capacity.CarriesLong(3));
+    EXPECT_FALSE(capacity.Carries(2 * 17, 2, 2 * 3));
+    EXPECT_GE(capacity.Float(), 4 * 8 + 8); // no message that only so many runs fit
     std::set<std::string> names;
     for (const Tag& tag : TagsOf("Skid_Añelo")) {
         names.insert(tag.Name);
@@ -197,197 +180,6 @@ TEST_F(Sample, small_stations_carry_nothing) {
     Capacity valve = StationCapacity("Valve_Site_12");
     EXPECT_EQ(valve.FloatCandidates + valve.AnalogCandidates + valve.LongCandidates, 0);
     EXPECT_TRUE(TagsOf("Pig_Receiver_3").empty());
-}
-
-TEST_F(Sample, configuration_binds_tags_as_the_station_has_them) {
-    std::map<std::string, std::string> places;
-    for (const Tag& tag : TagsOf("Lakeside_Delivery")) {
-        places[tag.Name] = tag.Class + ' ' + std::to_string(tag.Register);
-    }
-    std::map<std::string, std::string> values;
-    std::istringstream lines(ReadBytes(files_.Configuration));
-    std::string section;
-    for (std::string line; std::getline(lines, line);) {
-        ASSERT_EQ(line.back(), '\r') << line;
-        line.pop_back();
-        section = line.starts_with('[') ? line : section;
-        values[section + line.substr(0, line.find('='))] = line.substr(line.find('=') + 1);
-    }
-    int bindings = 0;
-    for (const char* stem :
-         {"GasDensity", "GasTemp", "GasPress", "GasDP", "GFCRunHold", "GFCTotalizeHold", "ResetTotals",
-          "StdMassFlow", "StdVolFlow", "GasVolume", "GasMass", "AGA3Status"}) {
-        const std::string key = std::string("[Run1]") + stem + "KDIO";
-        const bool small =
-            std::string(stem) == "StdVolFlow"; // its keys have small letters in a file written whole
-        const std::string place = values[key + (small ? "type" : "Type")] + ' ' + values[key + "RegAddr"];
-        EXPECT_EQ(places[values[key + (small ? "tag" : "Tag")]], place) << stem;
-        bindings += place.size() > 2 ? 1 : 0;
-    }
-    EXPECT_EQ(bindings, 12);
-    EXPECT_EQ(places["FXLOG_001"],
-              values["[FlowRuns]WrkFloatRegType"] + ' ' + values["[FlowRuns]WrkFloatRegAddr"]);
-    EXPECT_EQ(places["LXLOG_1"],
-              values["[FlowRuns]WrkIntLongRegType"] + ' ' + values["[FlowRuns]WrkIntLongRegAddr"]);
-    EXPECT_EQ(places["AXLOG_01"],
-              values["[FlowRuns]WrkAnalogRegType"] + ' ' + values["[FlowRuns]WrkAnalogRegAddr"]);
-    EXPECT_EQ(values["[General]Project"], PathText(files_.Project));
-    EXPECT_EQ(values["[General]OrmStation"], "Lakeside_Delivery");
-}
-
-TEST_F(Sample, configuration_has_the_layout_of_a_full_write) {
-    const std::string bytes = SampleConfiguration("/jobs/A\xC3\xB1o/plant.KPJ");
-    std::vector<std::string> names; // sections and keys in file order
-    std::istringstream lines(bytes);
-    for (std::string line; std::getline(lines, line);) {
-        names.push_back(line.substr(0, line.find_first_of("=\r")));
-    }
-    EXPECT_THAT(bytes, HasSubstr("\r\nProject=/jobs/A\xF1o/plant.KPJ\r\nOrmStation=")); // in the code page
-    const std::vector<std::string> expected = {"[General]",
-                                               "Package",
-                                               "Project",
-                                               "OrmStation",
-                                               "UserID",
-                                               "[Station]",
-                                               "EnableDataTraces",
-                                               "DeviceDataTraces",
-                                               "NumberTraces",
-                                               "[FlowRuns]",
-                                               "Run1",
-                                               "Run2",
-                                               "Run3",
-                                               "Run4",
-                                               "Run5",
-                                               "FlowAlgorithm",
-                                               "GasDensitySource",
-                                               "GasDensityStandardT",
-                                               "GasDensityStandardP",
-                                               "SystemUnits",
-                                               "WrkFloatModName",
-                                               "WrkFloatRegAddr",
-                                               "WrkFloatRegType",
-                                               "WrkIntLongModName",
-                                               "WrkIntLongRegAddr",
-                                               "WrkIntLongRegType",
-                                               "WrkAnalogModName",
-                                               "WrkAnalogRegAddr",
-                                               "WrkAnalogRegType",
-                                               "Run11",
-                                               "Run22",
-                                               "Run33",
-                                               "Run44",
-                                               "Run55",
-                                               "[AGA3]",
-                                               "StandardT",
-                                               "StandardP",
-                                               "FlowingViscosity",
-                                               "IsentropicCoeff",
-                                               "Compressible",
-                                               "PressType",
-                                               "ExtAtmPress",
-                                               "AtmPress",
-                                               "CommonPaKDIORegAddr",
-                                               "CommonPaKDIOTag",
-                                               "CommonPaKDIOType",
-                                               "[Run1]",
-                                               "SystemUnits",
-                                               "FlowAlgorithm",
-                                               "GasDensitySource",
-                                               "StandardT",
-                                               "StandardP",
-                                               "Compressible",
-                                               "FlowingViscosity",
-                                               "IsentropicCoeff",
-                                               "PressureTap",
-                                               "PressureTapPos",
-                                               "PipeMaterial",
-                                               "InternalPipeDia",
-                                               "InternalPipeDiaRefTemp",
-                                               "OrificeMaterial",
-                                               "OrificeDia",
-                                               "OrificeDiaRefTemp",
-                                               "OrificeThermalExpCoeff",
-                                               "PipeThermalExpCoeff",
-                                               "ExtMechParam",
-                                               "PressType",
-                                               "ExtAtmPress",
-                                               "AtmPress",
-                                               "CalibrationFactor",
-                                               "ContractHour",
-                                               "ContractMin",
-                                               "GasDensityStandard",
-                                               "GasDensityKDIOTag",
-                                               "GasDensityKDIOType",
-                                               "GasDensityKDIORegAddr",
-                                               "GasTempKDIOTag",
-                                               "GasTempKDIOType",
-                                               "GasTempKDIORegAddr",
-                                               "GasPressKDIOTag",
-                                               "GasPressKDIOType",
-                                               "GasPressKDIORegAddr",
-                                               "GasDPKDIOTag",
-                                               "GasDPKDIOType",
-                                               "GasDPKDIORegAddr",
-                                               "GFCRunHoldKDIOTag",
-                                               "GFCRunHoldKDIOType",
-                                               "GFCRunHoldKDIORegAddr",
-                                               "GFCTotalizeHoldKDIOTag",
-                                               "GFCTotalizeHoldKDIOType",
-                                               "GFCTotalizeHoldKDIORegAddr",
-                                               "ResetTotalsKDIOTag",
-                                               "ResetTotalsKDIOType",
-                                               "ResetTotalsKDIORegAddr",
-                                               "StdMassFlowKDIOTag",
-                                               "StdMassFlowKDIOType",
-                                               "StdMassFlowKDIORegAddr",
-                                               "StdVolFlowKDIOtag",
-                                               "StdVolFlowKDIOtype",
-                                               "StdVolFlowKDIORegAddr",
-                                               "GasVolumeKDIOTag",
-                                               "GasVolumeKDIOType",
-                                               "GasVolumeKDIORegAddr",
-                                               "GasMassKDIOTag",
-                                               "GasMassKDIOType",
-                                               "GasMassKDIORegAddr",
-                                               "AGA3StatusKDIOTag",
-                                               "AGA3StatusKDIOType",
-                                               "AGA3StatusKDIORegAddr"};
-    EXPECT_EQ(names, expected);
-}
-
-TEST_F(Sample, configuration_is_in_the_list_of_files_to_load) {
-    Project project = Plant();
-    const auto files = ListFilesToLoad(project);
-    ASSERT_EQ(files.size(), 1U);
-    EXPECT_EQ(files[0].Station, "Lakeside_Delivery");
-    EXPECT_EQ(files[0].Local, PathText(files_.Configuration));
-    EXPECT_EQ(files[0].Target, "/etc/stacfg/kdormaga.ini");
-}
-
-TEST_F(Sample, is_made_anew_only_when_told_and_leaves_nothing_beside) {
-    Project changed = Plant(Access::Write);
-    AddStation(changed, {0, "Extra", "", "", 0});
-    EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "plant", Existing::Refuse); }),
-                HasSubstr("--force makes it anew"));
-    MakeSample(Folder / "plant", Existing::ReplaceSample);
-    Project anew = Plant();
-    EXPECT_FALSE(FindStation(anew, "Extra"));
-    const std::filesystem::directory_iterator files(Folder / "plant");
-    EXPECT_EQ(std::distance(begin(files), end(files)), 2);
-}
-
-TEST_F(Sample, never_takes_the_place_of_another_file) {
-    std::filesystem::create_directory(Folder / "own");
-    MakeSmallProject("own/plant.KPJ");
-    const std::string before = ReadBytes(Folder / "own/plant.KPJ");
-    EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "own", Existing::ReplaceSample); }),
-                HasSubstr("is not the sample"));
-    EXPECT_EQ(ReadBytes(Folder / "own/plant.KPJ"), before);
-    std::filesystem::create_directory(Folder / "ini");
-    WriteBytes(SampleFilesIn(Folder / "ini").Configuration, "mine");
-    EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "ini", Existing::ReplaceSample); }),
-                HasSubstr("is there already"));
-    EXPECT_EQ(ReadBytes(SampleFilesIn(Folder / "ini").Configuration), "mine");
 }
 
 } // namespace gfc::workshop

@@ -141,13 +141,13 @@ constexpr std::array<SampleModule, 16> Lakeside = {{
     {"VLX_PULSE",     "Virtual Module",       "LX", 1101, 2, "FT-60#_PLS LX-60#_SPARE1 LX-60#_SPARE2"},
 }};
 
-// One run with fixed composition; names with letters beyond ASCII, as its builder wrote them.
+// One run with fixed composition, a second one lacks digitals; names with letters beyond ASCII, as its builder wrote
+// them.
 constexpr std::array<SampleModule, 11> Skid = {{
     {"EA-8 Ranura 1", "EA-8 Entrada analógica", "AX",    1, 0, "PIT_1201A PIT_1201B TIT_1201A TIT_1201B "
                                                                "PDT_101A PDT_101B"},
-    {"ED-8 Ranura 2", "ED-8 Entrada digital",   "X",     1, 0, "XV-304_Abierta XV-304_Cerrada "
-                                                               "Puerta_Caseta"},
-    {"SD-4 Ranura 3", "SD-4 Salida digital",    "Y",     1, 0, "XV-304_Orden Baliza_Señal"},
+    {"ED-8 Ranura 2", "ED-8 Entrada digital",   "X",     1, 0, "XV-304_Abierta"},
+    {"SD-4 Ranura 3", "SD-4 Salida digital",    "Y",     1, 0, "Baliza_Señal"},
     {"VX_Órdenes",    "Virtual Module",         "X",   101, 0, "Parar_Cálculo Parar_Totalización "
                                                                "Reposición_Totales"},
     {"VAX_Registro",  "Virtual Module",         "AX",  101, 0, "AX_Registro_{01..32}"},
@@ -159,7 +159,7 @@ constexpr std::array<SampleModule, 11> Skid = {{
     {"VFY_Medición",  "Virtual Module",         "FY", 1001, 0, "Caudal_Ñ Caudal_Másico Volumen_Día "
                                                                "Masa_Día Densidad_PT Densidad_Ref "
                                                                "Z_Línea Z_Ref Fpv Densidad_Relativa "
-                                                               "Incertidumbre FY_Reserva_{01..10}"},
+                                                               "Incertidumbre FY_Reserva_{01..24}"},
     {"VLX_Registro",  "Virtual Module",         "LX", 1001, 0, "LX_Registro_{1..8}"},
     {"VLX_Pulsos",    "Virtual Module",         "LX", 1101, 0, "FT_1201A_Pulsos LX_Reserva_{1..3}"},
 }};
