@@ -154,7 +154,7 @@ bool FileIni::Change(const std::string& file, const Edit& edit) {
     return profile->Save();
 }
 
-FileBatch::FileBatch(FileIni& ini, std::string file)
+FileBatch::FileBatch(const FileIni& ini, std::string file)
     : ini_(ini), file_(std::move(file)), outermost_(ini.OpenBatch(file_) == nullptr) {
     if (!outermost_)
         return;

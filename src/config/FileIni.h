@@ -74,7 +74,7 @@ private:
     bool Change(const std::string& file, const Edit& edit);
 
     platform::Files& files_;
-    std::vector<FileBatch*> batches_;
+    mutable std::vector<FileBatch*> batches_; // one per file at most
 };
 
 // While it lives, the accesses to one file share one read at its start and one replace at its end; reads see
@@ -83,7 +83,7 @@ private:
 // file's existence first put on disk what is pending.
 class FileBatch {
 public:
-    FileBatch(FileIni& ini, std::string file);
+    FileBatch(const FileIni& ini, std::string file);
     ~FileBatch();
     FileBatch(const FileBatch&) = delete;
     FileBatch& operator=(const FileBatch&) = delete;
@@ -94,7 +94,7 @@ private:
     bool Save();
     void Reload();
 
-    FileIni& ini_;
+    const FileIni& ini_;
     std::string file_;
     bool outermost_;
     bool changed_ = false;

@@ -59,6 +59,11 @@ bool IsDetail(std::string_view gasDensitySource) {
     return gasDensitySource == source::AGA8 || gasDensitySource == source::ISO12213_2;
 }
 
+bool IsOrificeAlgorithm(std::string_view flowAlgorithm) {
+    return flowAlgorithm == algorithm::AGA3 || flowAlgorithm == algorithm::Accelabar ||
+           flowAlgorithm == algorithm::SYT6143;
+}
+
 std::string_view StoredAlgorithm(std::string_view shownInWizard) {
     const int index = IndexOf(FlowAlgorithms, &Choice::InWizard, shownInWizard, IndexOfSYT6143);
     return FlowAlgorithms[static_cast<std::size_t>(index)].Stored;

@@ -59,9 +59,13 @@ enum class GasFamily { Densimeter, Detail, Gross };
 [[nodiscard]] bool IsGasModel(std::string_view gasDensitySource);
 [[nodiscard]] bool IsDetail(std::string_view gasDensitySource);
 
+// True for the three algorithms that measure over a differential pressure; an unknown one is not among them.
+[[nodiscard]] bool IsOrificeAlgorithm(std::string_view flowAlgorithm);
+
 // What the wizard stores for the text that its list shows; anything but the first three entries, an empty
 // selection too, stores the last.
 [[nodiscard]] std::string_view StoredAlgorithm(std::string_view shownInWizard);
+// The empty text for a text that the list does not hold.
 [[nodiscard]] std::string_view StoredSource(std::string_view shownInWizard);
 // The entry that the configurator selects for a stored text; an unknown one shows "AGA-7".
 [[nodiscard]] int AlgorithmIndex(std::string_view stored);
