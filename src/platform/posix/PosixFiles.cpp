@@ -1,8 +1,10 @@
 #include "platform/Files.h"
 #include "platform/posix/TemporaryFile.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <utility>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
