@@ -13,8 +13,8 @@ namespace {
 
 // clang-format off
 
-// Five runs of every kind, also with the composition from a chromatograph: at least 220 floats, 10 analogs, 20
-// digitals and 15 longs beside the LOG modules.
+// Five runs of every kind, also with the composition from a chromatograph: at least 220 floats, 10 analogs,
+// 20 digitals and 15 longs beside the LOG modules.
 constexpr std::array<SampleModule, 25> Northgate = {{
     {"AI-8 Slot 1",   "AI-8 Analog Input",    "AX",    1, 0, "PT-301 PT-302 TT-301 TT-302 LT-310 LT-311 "
                                                              "AT-330_H2O AT-331_H2S"},
@@ -76,8 +76,8 @@ constexpr std::array<SampleModule, 9> Eastfield = {{
     {"VLX_LOG",       "Virtual Module",       "LX", 1001, 0, "LXLOG_{1..8}"},
 }};
 
-// Too few floats for the AGA-3 kind, but enough for two runs of AGA-7 with a densimeter or one with a calculated
-// density. Three longs per run are asked for where the runs are chosen, though each run binds one.
+// Too few floats for the AGA-3 kind, but enough for two runs of AGA-7 with a densimeter or one with a
+// calculated density. Three longs per run are asked for where the runs are chosen, though each run binds one.
 constexpr std::array<SampleModule, 10> Quarry = {{
     {"PI-4 Slot 1",   "PI-4 Pulse Input",     "LX",    1, 0, "FT-401_RAW FT-402_RAW PI_SPARE_{1..2}"},
     {"DI-8 Slot 2",   "DI-8 Digital Input",   "X",     1, 0, "ZS-401_OPN ZS-401_CLS"},
@@ -112,7 +112,7 @@ constexpr std::array<SampleModule, 5> Valve = {{
     {"VFX_CALC",      "Virtual Module",       "FX", 1001, 0, "FXCALC_{01..16}"},
 }};
 
-// Two runs of every kind. The first is configured: demo/SampleConfiguration.cpp names registers of this table.
+// Two runs of every kind. The first is configured: SampleConfiguration.cpp names registers of this table.
 constexpr std::array<SampleModule, 16> Lakeside = {{
     {"AI-8 Slot 1",   "AI-8 Analog Input",    "AX",    1, 0, "PT-601 TT-601 PDT-601A PDT-601B PT-602 "
                                                              "TT-602 PDT-602A PDT-602B"},
@@ -141,8 +141,8 @@ constexpr std::array<SampleModule, 16> Lakeside = {{
     {"VLX_PULSE",     "Virtual Module",       "LX", 1101, 2, "FT-60#_PLS LX-60#_SPARE1 LX-60#_SPARE2"},
 }};
 
-// One run with fixed composition, a second one lacks digitals; names with letters beyond ASCII, as its builder wrote
-// them.
+// One run with fixed composition, a second one lacks digitals; names with letters beyond ASCII, as its
+// builder wrote them.
 constexpr std::array<SampleModule, 11> Skid = {{
     {"EA-8 Ranura 1", "EA-8 Entrada analógica", "AX",    1, 0, "PIT_1201A PIT_1201B TIT_1201A TIT_1201B "
                                                                "PDT_101A PDT_101B"},
