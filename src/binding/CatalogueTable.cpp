@@ -60,9 +60,6 @@ bool ChecksFlowingState(C c) {
     return IsDifferential(c) || (IsAGA7(c) && IsGasModel(c));
 }
 
-bool HasCommonPressure(C c) {
-    return c.ExtAtmPress;
-}
 // The Accelabar's atmospheric pressure is deliberately not looked at.
 bool ChecksCommonPressure(C c) {
     return c.ExtAtmPress && (HasOrificePlate(c) || (IsAGA7(c) && !c.Measured));
@@ -114,7 +111,8 @@ constexpr Presence Each        {Always,             Always,               Always
 constexpr Presence Densimeter  {IsMeasured,         IsMeasuredByKnown,    IsMeasured};
 constexpr Presence Flowing     {NeedsFlowingState,  ChecksFlowingState,   NeedsFlowingState};
 constexpr Presence Differential{IsNotAGA7,          IsDifferential,       IsNotAGA7};
-constexpr Presence Atmosphere  {HasCommonPressure,  ChecksCommonPressure, ShowsCommonPressure};
+// Whoever shows the common inputs has decided on them, before the choice need stand in the record.
+constexpr Presence Atmosphere  {Always,             ChecksCommonPressure, ShowsCommonPressure};
 constexpr Presence Diameters   {BindsDiameters,     HasDiameters,         HasDiameters};
 constexpr Presence Correction  {IsSYT,              ChecksCorrection,     ShowsCorrection};
 constexpr Presence Turbine     {IsAGA7,             IsAGA7,               IsAGA7};
