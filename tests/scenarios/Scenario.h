@@ -1,0 +1,29 @@
+#pragma once
+
+#include "support/Story.h"
+#include "support/World.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace gfc::test {
+
+// One way through the whole program, from its start to its end, told once and played on both screens.
+struct Scenario {
+    std::string Name;
+    // The machine, the tool's project and the files, as they are before the program starts.
+    std::function<void(FakeProgram&)> Prepare;
+    std::function<void(Story&)> Tell;
+    // What the program has left behind.
+    std::function<void(FakeProgram&)> After;
+};
+
+[[nodiscard]] std::vector<Scenario> StartUpScenarios();
+[[nodiscard]] std::vector<Scenario> WizardPageScenarios();
+[[nodiscard]] std::vector<Scenario> BindingScenarios();
+[[nodiscard]] std::vector<Scenario> EditorScenarios();
+[[nodiscard]] std::vector<Scenario> CancelScenarios();
+[[nodiscard]] std::vector<Scenario> AllScenarios();
+
+} // namespace gfc::test
