@@ -4,31 +4,6 @@
 
 namespace gfc::test {
 
-std::optional<std::string> FakeFiles::Read(const std::string& path) {
-    ++Reads;
-    const auto found = Content.find(path);
-    return found == Content.end() ? std::nullopt : std::optional(found->second);
-}
-
-bool FakeFiles::Replace(const std::string& path, std::string_view bytes) {
-    ++Replaces;
-    if (Stuck.contains(path))
-        return false;
-    Content[path] = bytes;
-    return true;
-}
-
-bool FakeFiles::Delete(const std::string& path) {
-    return !Stuck.contains(path) && Content.erase(path) > 0;
-}
-
-bool FakeFiles::CopyNew(const std::string& from, const std::string& to) {
-    if (!Content.contains(from) || Content.contains(to) || Stuck.contains(to))
-        return false;
-    Content[to] = Content[from];
-    return true;
-}
-
 bool FakeLauncher::Start(const std::string& program, const std::vector<std::string>& arguments) {
     std::string command = program;
     for (const auto& argument : arguments)

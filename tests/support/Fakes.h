@@ -4,42 +4,11 @@
 #include "project/AddOnLibrary.h"
 
 #include <map>
-#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
 
 namespace gfc::test {
-
-// Files in memory.
-class FakeFiles : public platform::Files {
-public:
-    std::map<std::string, std::string> Content;
-    int Reads = 0;
-    int Replaces = 0;
-    // Paths at which every write or delete fails.
-    std::set<std::string> Stuck;
-
-    std::optional<std::string> Read(const std::string& path) override;
-    bool Replace(const std::string& path, std::string_view bytes) override;
-    bool Exists(const std::string& path) override { return Content.contains(path); }
-    bool Delete(const std::string& path) override;
-    bool CopyNew(const std::string& from, const std::string& to) override;
-};
-
-// A zone of one bias, winter and summer.
-class FakeTimeZone : public services::TimeZone {
-public:
-    int Bias = 0; // minutes to add to local time for GMT
-    services::TimeZoneInformation GetTimeZoneInformation() const override { return {Bias}; }
-    int CurrentBias() const override { return Bias; }
-};
-
-class FakeClock : public services::Clock {
-public:
-    services::Date Now = 45000.5; // 15 March 2023, noon
-    services::Date LocalNow() const override { return Now; }
-};
 
 class FakeSingleInstance : public platform::SingleInstance {
 public:

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "forms/Program.h"
+#include "support/FakeTime.h"
 #include "support/Fakes.h"
 #include "support/HeadlessScreen.h"
+#include "support/MemoryFiles.h"
 
 #include <string>
 
@@ -12,9 +14,9 @@ namespace gfc::test {
 struct FakeProgram {
     explicit FakeProgram(ui::Screen& screen);
 
-    FakeFiles Files;
-    FakeTimeZone TimeZone;
-    FakeClock Clock;
+    MemoryFiles Files;
+    FixedZone TimeZone{0};
+    FixedClock Clock{2023, 3, 15, 12, 0};
     FakeSingleInstance SingleInstance;
     FakeLauncher Launcher;
     FakePaths Paths;

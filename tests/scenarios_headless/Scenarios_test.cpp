@@ -5,16 +5,6 @@
 
 namespace gfc::test {
 
-std::vector<Scenario> AllScenarios() {
-    std::vector<Scenario> all;
-    for (auto* part :
-         {&StartUpScenarios, &WizardPageScenarios, &BindingScenarios, &EditorScenarios, &CancelScenarios}) {
-        auto scenarios = (*part)();
-        all.insert(all.end(), scenarios.begin(), scenarios.end());
-    }
-    return all;
-}
-
 class OnForms : public ::testing::TestWithParam<Scenario> {};
 
 TEST_P(OnForms, plays) {

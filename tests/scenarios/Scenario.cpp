@@ -1,0 +1,14 @@
+#include "scenarios/Scenario.h"
+
+namespace gfc::test {
+
+std::vector<Scenario> AllScenarios() {
+    std::vector<Scenario> all;
+    for (auto* part : {&StartUpScenarios}) {
+        auto scenarios = (*part)();
+        all.insert(all.end(), scenarios.begin(), scenarios.end());
+    }
+    return all;
+}
+
+} // namespace gfc::test
