@@ -114,6 +114,7 @@ private:
     void HidePanes();
     void ShowStations(const std::string& statusText);
     void PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden);
+    void LoadRun(int run);
     void ShowCommon(const std::string& station);
     void ShowRun(const std::string& station, int run);
 

@@ -30,7 +30,7 @@ constexpr std::array<TabHelp, 4> helpOfRunTabs = {{
 
 void GFCPrincipal::ConnectMenu() {
     Config.OnClick = [this] { ApplyMenuState(); };
-    ConfigWiard.OnClick = [this] { TellNotBuilt(); };
+    ConfigWiard.OnClick = [this] { ConfigWiardCommand(program_); };
     for (auto* later : {&ConfigPar, &erun, &dRun, &copiar1, &copiar2, &undo})
         later->OnClick = [this] { TellNotBuilt(); };
     exit.OnClick = [this] { Exit(); };

@@ -1,3 +1,4 @@
+#include "config/ConfigReader.h"
 #include "forms/GFCPrincipal.h"
 #include "forms/StationNodes.h"
 
@@ -178,13 +179,22 @@ void GFCPrincipal::PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden) {
 }
 
 void GFCPrincipal::ShowCommon(const std::string& station) {
+    config::LoadStationConfig(program_.Ini, session_.Station, session_.ConfigFile());
     PlacePane(SSTab1, SSTab2);
     SSTab1.SetTab(0);
     summary_.FillCommon();
     StatusBar1.SetPanelText(1, std::string(node::CommonParameters) + " (" + station + ")");
 }
 
+void GFCPrincipal::LoadRun(int run) {
+    const std::string file = session_.ConfigFile();
+    const config::FileBatch batch(program_.Ini, file);
+    config::LoadStationConfig(program_.Ini, session_.Station, file);
+    config::LoadRun(program_.Ini, session_.Station, file, run);
+}
+
 void GFCPrincipal::ShowRun(const std::string& station, int run) {
+    LoadRun(run);
     PlacePane(SSTab2, SSTab1);
     summary_.Run = run;
     SSTab2.SetTab(0);

@@ -1,7 +1,10 @@
 #include "forms/StationCommands.h"
 
-#include "config/Vocabulary.h"
 #include "forms/GFCPrincipal.h"
+#include "forms/IOReports.h"
+#include "forms/SelectRuns.h"
+#include "forms/StationNodes.h"
+#include "forms/WizardFC.h"
 
 namespace gfc::forms {
 
@@ -28,6 +31,71 @@ void LoadStationTags(Program& program) {
         program.Screen.Ask({.Title = "Flow Gas Computer",
                             .Text = "Error: There are not Tags in Station",
                             .TheIcon = ui::Icon::Critical});
+}
+
+// Entries of the wizard's list of standards.
+constexpr int aga3 = 0;
+constexpr int aga7 = 1;
+
+void ReportShortageOfBoth(Program& program) {
+    ReportIOShortage(program, project::ShortageKind::AGA3Family);
+    ReportIOShortage(program, project::ShortageKind::AGA7);
+}
+
+// Asked for a station without a configuration too.
+bool MayReplaceConfiguration(Program& program) {
+    const auto answer = program.Screen.Ask({.Title = "Flow Gas Computer",
+                                            .Text = "Creating a new configuration for the station.\r\n"
+                                                    "The current configuration will be deleted.\r\n"
+                                                    "Proceed?",
+                                            .TheButtons = ui::Buttons::YesNo});
+    return answer == ui::Answer::Yes;
+}
+
+// The wizard starts on the algorithm that the station carries.
+void PresetWizard(Program& program, int standard) {
+    auto& wizard = program.Forms.Touch<WizardFC>();
+    wizard.cbSourceGas.SetListIndex(0);
+    wizard.CombStandard.SetListIndex(standard);
+    program.Session.EditMode = EditMode::Wizard;
+    program.Session.Station.FlagAGA7 = standard == aga7;
+}
+
+// False if the station carries neither algorithm.
+bool PresetWhatFits(Program& program) {
+    const auto capacity = CapacityOf(program.Session);
+    if (RunCapacity(capacity, 17, 1, 3)) {
+        PresetWizard(program, aga3);
+        return true;
+    }
+    if (!RunCapacity(capacity, 6, 1, 3) || !LongCapacity(capacity, 1))
+        return false;
+    PresetWizard(program, aga7);
+    return true;
+}
+
+void SelectRunsAndGoOn(Program& program) {
+    const bool isAGA7 = program.Session.Station.FlagAGA7;
+    (void)MaximumRuns(program, isAGA7, true);
+    auto& selection = program.Forms.Get<SelectRuns>();
+    selection.FlagAGA7 = isAGA7;
+    selection.ShowModal();
+}
+
+void NewConfiguration(Program& program) {
+    int& activeRuns = program.Session.Station.ActiveRunCount;
+    // Nothing is carried over from an earlier command.
+    activeRuns = 0;
+    if (!OpenStation(program)) {
+        activeRuns = 1;
+        ReportShortageOfBoth(program);
+        activeRuns = 0;
+        return ClearSession(program);
+    }
+    if (PresetWhatFits(program))
+        return SelectRunsAndGoOn(program);
+    ReportShortageOfBoth(program);
+    ClearSession(program);
 }
 
 } // namespace
@@ -58,6 +126,18 @@ void ClearSession(Program& program) {
     auto& window = program.Forms.Get<GFCPrincipal>();
     for (auto* combo : {&window.Combo1, &window.Combo2, &window.Combo3})
         combo->Clear();
+}
+
+void ConfigWiardCommand(Program& program) {
+    if (node::NamesNoStation(program.Session.SelectedNodeText)) {
+        program.Screen.Ask({.Title = "Gas Flow Computer", .Text = "Please select a station..."});
+        return;
+    }
+    if (!MayReplaceConfiguration(program))
+        return;
+    NewConfiguration(program);
+    if (!program.Screen.Ended())
+        program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();
 }
 
 } // namespace gfc::forms
