@@ -1,0 +1,263 @@
+#include "SampleStation.h"
+#include "config/FileIni.h"
+#include "support/MemoryFiles.h"
+#include "support/TempFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace gfc::config {
+namespace {
+
+const std::string File = "/jobs/KDOrmAGA_plant_North.ini";
+const char Own = platform::Separator;
+
+struct FileIniTest : testing::Test {
+    test::MemoryFiles Files;
+    FileIni Ini{Files};
+    std::string& Bytes = Files.Content[File];
+};
+
+TEST(ConfigFilePath, joins_folder_project_and_station) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    EXPECT_EQ(paths.ProjectFolder, std::string(1, Own) + "jobs");
+    EXPECT_EQ(paths.ConfigFilePrefix, paths.ProjectFolder + Own + "KDOrmAGA_");
+    EXPECT_EQ(ConfigFilePath(paths, "plant", "North"),
+              paths.ProjectFolder + Own + "KDOrmAGA_plant_North.ini");
+}
+
+TEST(ConfigFilePath, takes_a_project_path_with_either_separator) {
+    EXPECT_EQ(PathsOf("C:\\Jobs\\Plant.kpj").ProjectFolder, std::string("C:") + Own + "Jobs");
+    EXPECT_EQ(PathsOf("C:/Jobs/Plant.kpj").ProjectFolder, std::string("C:") + Own + "Jobs");
+    EXPECT_EQ(PathsOf("/plant.KPJ").ConfigFilePrefix, std::string(1, Own) + "KDOrmAGA_");
+}
+
+TEST(ConfigFilePath, is_the_projects_own_without_a_station) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    EXPECT_EQ(ConfigFilePath(paths, "plant", ""), paths.ConfigFilePrefix + "plant.ini");
+}
+
+TEST(ConfigFilePath, cuts_the_station_at_its_first_nul) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    EXPECT_EQ(ConfigFilePath(paths, "plant", std::string_view("North\0\0rest", 11)),
+              paths.ConfigFilePrefix + "plant_North.ini");
+}
+
+TEST(ConfigFilePath, never_leads_out_of_the_folder) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    for (const char* name :
+         {"../North", "..\\North", "a/b", "a\\b", "/etc/passwd", "North\n", "North\x01", "a\x7F"})
+        EXPECT_EQ(ConfigFilePath(paths, "plant", name), "") << name;
+    EXPECT_EQ(ConfigFilePath(paths, "../other", "North"), "");
+    EXPECT_EQ(ConfigFilePath(paths, "plant", ".."), paths.ConfigFilePrefix + "plant_...ini")
+        << "a name like any";
+    EXPECT_EQ(ConfigFilePath(paths, "plant", "Nörd 1.2"), paths.ConfigFilePrefix + "plant_Nörd 1.2.ini");
+}
+
+TEST_F(FileIniTest, finds_no_configuration_for_a_name_that_no_file_bears) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    Files.Content["/jobs/KDOrmAGA_plant_../North.ini"] = "";
+    EXPECT_FALSE(ConfigFileExists(Ini, paths, "plant", "../North"));
+}
+
+TEST_F(FileIniTest, takes_a_station_for_configured_by_its_file_alone) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    const std::string south = ConfigFilePath(paths, "plant", "South");
+    EXPECT_FALSE(ConfigFileExists(Ini, paths, "plant", "South"));
+    Files.Content[south] = "";
+    EXPECT_TRUE(ConfigFileExists(Ini, paths, "plant", "South"));
+}
+
+TEST_F(FileIniTest, does_nothing_at_the_empty_path) {
+    EXPECT_EQ(Ini.ReadKey("A", "K", ""), "");
+    EXPECT_FALSE(Ini.WriteKey("A", "K", "1", ""));
+    EXPECT_FALSE(Ini.WriteSection("A", {{"K", "1"}}, ""));
+    EXPECT_FALSE(Ini.FileExists(""));
+    EXPECT_FALSE(Ini.DeleteConfigFile(""));
+    EXPECT_FALSE(Ini.CopyConfigFile(File, ""));
+    EXPECT_FALSE(Ini.CopyConfigFile("", "/jobs/x.ini"));
+    const FileBatch batch(Ini, "");
+    EXPECT_FALSE(Ini.WriteKey("A", "K", "1", ""));
+    EXPECT_EQ(Files.Replaces, 0);
+}
+
+TEST_F(FileIniTest, reads_empty_for_whatever_is_missing) {
+    Bytes = Lines({"[A]", "K=1"});
+    EXPECT_EQ(Ini.ReadKey("A", "L", File), "");
+    EXPECT_EQ(Ini.ReadKey("B", "K", File), "");
+    EXPECT_EQ(Ini.ReadKey("A", "K", "/jobs/none.ini"), "");
+    EXPECT_EQ(Ini.ReadKey("a", "k", File), "1");
+}
+
+TEST_F(FileIniTest, cuts_a_long_value) {
+    Bytes = "[A]\r\nK=" + std::string(254, 'x') + "\r\nL=" + std::string(255, 'y') + "\r\n";
+    EXPECT_EQ(Ini.ReadKey("A", "K", File), std::string(254, 'x'));
+    EXPECT_EQ(Ini.ReadKey("A", "L", File), std::string(254, 'y'));
+}
+
+TEST_F(FileIniTest, counts_the_limit_in_characters_of_the_file) {
+    Bytes = "[A]\r\nK=" + std::string(300, '\xE9') + "\r\n";
+    EXPECT_EQ(Ini.ReadKey("A", "K", File).size(), 254U * 2) << "two bytes each in memory";
+}
+
+TEST_F(FileIniTest, keeps_the_code_page_on_disk_only) {
+    EXPECT_TRUE(Ini.WriteKey("A", "K", "ºC Œ", File));
+    EXPECT_EQ(Bytes, "[A]\r\nK=\xBA"
+                     "C \x8C\r\n");
+    EXPECT_EQ(Ini.ReadKey("A", "K", File), "ºC Œ");
+}
+
+TEST_F(FileIniTest, writes_a_question_mark_for_what_the_code_page_lacks) {
+    EXPECT_TRUE(Ini.WriteKey("A", "K", "a日b", File));
+    EXPECT_TRUE(Ini.WriteSection("B", {{"L", "日é"}}, File));
+    EXPECT_EQ(Bytes, "[A]\r\nK=a?b\r\n[B]\r\nL=?\xE9\r\n");
+}
+
+TEST_F(FileIniTest, lets_no_value_break_a_line) {
+    Ini.WriteKey("A", "K", "1\r\n[B]\r\nEvil=1", File);
+    Ini.WriteKey("A", "L", std::string("2\0rest", 6), File);
+    Ini.WriteSection("C", {{"K", std::string("3\0Evil=1", 8)}, {"L", "4\nEvil=1"}}, File);
+    EXPECT_EQ(Bytes, Lines({"[A]", "K=1", "L=2", "[C]", "K=3", "L=4"}));
+}
+
+TEST_F(FileIniTest, deletes_a_key_without_a_value) {
+    Bytes = Lines({"[A]", "K=1", "L=2"});
+    Ini.WriteKey("a", "k", std::nullopt, File);
+    EXPECT_EQ(Bytes, Lines({"[A]", "L=2"}));
+}
+
+TEST_F(FileIniTest, replaces_a_key_in_its_place_with_the_form_given) {
+    Bytes = Lines({"; made by hand", "[A]", "StdVolFlowKDIOtag=1", "L=2"});
+    Ini.WriteKey("A", "StdVolFlowKDIOTag", "3", File);
+    EXPECT_EQ(Bytes, Lines({"; made by hand", "[A]", "StdVolFlowKDIOTag=3", "L=2"}));
+}
+
+TEST_F(FileIniTest, makes_the_file_that_is_not_there) {
+    const std::string other = "/jobs/new.ini";
+    EXPECT_TRUE(Ini.WriteKey("A", "K", "1", other));
+    EXPECT_EQ(Files.Content[other], Lines({"[A]", "K=1"}));
+}
+
+TEST_F(FileIniTest, leaves_alone_a_file_that_it_cannot_read) {
+    Bytes = Lines({"[A]", "K=1"});
+    Files.Unreadable.insert(File);
+    EXPECT_EQ(Ini.ReadKey("A", "K", File), "");
+    EXPECT_FALSE(Ini.WriteKey("A", "K", "2", File));
+    {
+        const FileBatch batch(Ini, File);
+        EXPECT_EQ(Ini.ReadKey("A", "K", File), "");
+        EXPECT_FALSE(Ini.WriteSection("A", {{"K", "3"}}, File));
+    }
+    EXPECT_EQ(Bytes, Lines({"[A]", "K=1"}));
+}
+
+TEST_F(FileIniTest, refuses_to_copy_over_a_file) {
+    Bytes = "x";
+    EXPECT_FALSE(Ini.CopyConfigFile("/jobs/none.ini", "/jobs/other.ini"));
+    EXPECT_TRUE(Ini.CopyConfigFile(File, "/jobs/other.ini"));
+    Bytes = "y";
+    EXPECT_FALSE(Ini.CopyConfigFile(File, "/jobs/other.ini"));
+    EXPECT_EQ(Files.Content["/jobs/other.ini"], "x");
+}
+
+TEST_F(FileIniTest, deletes_a_file_that_is_there) {
+    EXPECT_TRUE(Ini.DeleteConfigFile(File));
+    EXPECT_FALSE(Ini.DeleteConfigFile(File));
+    EXPECT_FALSE(Ini.FileExists(File));
+}
+
+struct FileBatchTest : FileIniTest {};
+
+TEST_F(FileBatchTest, reads_once_and_replaces_once) {
+    Bytes = Lines({"[A]", "K=1", "L=2"});
+    {
+        const FileBatch batch(Ini, File);
+        EXPECT_EQ(Ini.ReadKey("A", "K", File), "1");
+        Ini.WriteKey("A", "K", "3", File);
+        EXPECT_EQ(Ini.ReadKey("A", "K", File), "3") << "what was written before is seen";
+        Ini.WriteKey("A", "L", std::nullopt, File);
+        Ini.WriteSection("B", {{"M", "4"}}, File);
+        EXPECT_EQ(Bytes, Lines({"[A]", "K=1", "L=2"})) << "nothing on disk yet";
+    }
+    EXPECT_EQ(Bytes, Lines({"[A]", "K=3", "[B]", "M=4"}));
+    EXPECT_EQ(Files.Reads, 1);
+    EXPECT_EQ(Files.Replaces, 1);
+}
+
+TEST_F(FileBatchTest, that_only_reads_touches_nothing) {
+    const std::string none = "/jobs/none.ini";
+    {
+        const FileBatch batch(Ini, none);
+        EXPECT_EQ(Ini.ReadKey("A", "K", none), "");
+    }
+    EXPECT_FALSE(Ini.FileExists(none));
+    EXPECT_EQ(Files.Replaces, 0);
+}
+
+TEST_F(FileBatchTest, within_a_batch_is_part_of_it) {
+    const FileBatch outer(Ini, File);
+    {
+        const FileBatch inner(Ini, File);
+        Ini.WriteKey("A", "K", "1", File);
+    }
+    EXPECT_EQ(Files.Replaces, 0);
+    EXPECT_EQ(Ini.ReadKey("A", "K", File), "1");
+}
+
+TEST_F(FileBatchTest, leaves_other_files_alone) {
+    const FileBatch batch(Ini, File);
+    Ini.WriteKey("A", "K", "1", "/jobs/other.ini");
+    EXPECT_EQ(Files.Content["/jobs/other.ini"], Lines({"[A]", "K=1"}));
+}
+
+TEST_F(FileBatchTest, of_two_files_ends_each_with_its_own) {
+    {
+        const FileBatch one(Ini, File);
+        const FileBatch two(Ini, "/jobs/other.ini");
+        Ini.WriteKey("A", "K", "1", File);
+        Ini.WriteKey("A", "K", "2", "/jobs/other.ini");
+    }
+    EXPECT_EQ(Bytes, Lines({"[A]", "K=1"}));
+    EXPECT_EQ(Files.Content["/jobs/other.ini"], Lines({"[A]", "K=2"}));
+}
+
+TEST_F(FileBatchTest, puts_on_disk_what_is_pending_before_a_copy) {
+    const FileBatch batch(Ini, File);
+    Ini.WriteKey("A", "K", "1", File);
+    EXPECT_TRUE(Ini.CopyConfigFile(File, "/jobs/copy.ini"));
+    EXPECT_EQ(Files.Content["/jobs/copy.ini"], Lines({"[A]", "K=1"}));
+}
+
+TEST_F(FileBatchTest, forgets_a_file_that_was_deleted) {
+    Bytes = Lines({"[A]", "K=1"});
+    {
+        const FileBatch batch(Ini, File);
+        Ini.WriteKey("A", "K", "2", File);
+        EXPECT_TRUE(Ini.DeleteConfigFile(File));
+        EXPECT_EQ(Ini.ReadKey("A", "K", File), "");
+    }
+    EXPECT_FALSE(Files.Exists(File));
+}
+
+TEST(FileIniOnDisk, gives_the_same_bytes_one_by_one_and_in_a_batch) {
+    const test::TempFolder folder;
+    const auto files = platform::MakeFiles();
+    FileIni ini(*files);
+    const auto work = [&](const std::string& file) {
+        ini.WriteSection("A", {{"K", "1"}, {"L", ""}}, file);
+        ini.WriteKey("B", "M", "é", file);
+        ini.WriteKey("A", "k", "2", file);
+        ini.WriteKey("A", "L", std::nullopt, file);
+        ini.WriteKey("A", "N", "3", file);
+    };
+    work(folder.Path("single.ini"));
+    {
+        const FileBatch batch(ini, folder.Path("batch.ini"));
+        work(folder.Path("batch.ini"));
+    }
+    EXPECT_EQ(folder.Get("single.ini"), "[A]\r\nk=2\r\nN=3\r\n[B]\r\nM=\xE9\r\n");
+    EXPECT_EQ(folder.Get("batch.ini"), folder.Get("single.ini"));
+    EXPECT_EQ(folder.Count(), 2U) << "nothing is left beside the files";
+}
+
+} // namespace
+} // namespace gfc::config
