@@ -1,0 +1,34 @@
+#include "app/Application.h"
+#include "qt/Icons.h"
+#include "qt/QtScreen.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <cstdlib>
+
+namespace {
+
+void SetUp(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setOrganizationName(QStringLiteral("Orm"));
+    QApplication::setApplicationName(QStringLiteral("gfc-configurator"));
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setWindowIcon(gfc::qt::IconNamed("App"));
+    // The screen says when the program is over: between two windows of a chain there is none for a moment.
+    application.setQuitOnLastWindowClosed(false);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    SetUp(application);
+    gfc::platform::RealMachine machine;
+    const gfc::platform::Machine seams = machine.Seams();
+    gfc::qt::QtScreen screen([&seams](const std::string& path, gfc::ui::WindowState) {
+        return seams.Launcher.OpenTextFile(path);
+    });
+    gfc::app::Application program(seams, screen);
+    return program.Start(gfc::platform::LoadLibraryAt) ? screen.Run() : EXIT_FAILURE;
+}

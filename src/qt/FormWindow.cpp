@@ -1,0 +1,304 @@
+#include "qt/FormWindow.h"
+
+#include "qt/Designs.h"
+#include "qt/Icons.h"
+#include "qt/Renderer.h"
+#include "qt/Texts.h"
+#include "ui/Buttons.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace gfc::qt {
+
+namespace {
+
+void SetUpDesign(const std::string& form, QWidget& content) {
+    const auto designs = Designs();
+    const auto found = std::find_if(designs.begin(), designs.end(),
+                                    [&form](const Design& design) { return design.Form == form; });
+    if (found != designs.end())
+        found->SetUp(content);
+}
+
+} // namespace
+
+FormWindow::FormWindow(ui::Form& form) : form_(&form), gate_(std::make_unique<FocusGate>(*this, form)) {
+    SetUpContent();
+    Bind();
+    NameForReaders();
+}
+
+FormWindow::~FormWindow() {
+    Release();
+}
+
+void FormWindow::SetUpContent() {
+    area_ = new QScrollArea(this);
+    area_->setObjectName("layoutArea");
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setWidgetResizable(true);
+    area_->setFocusPolicy(Qt::NoFocus);
+    content_ = new QWidget(area_);
+    SetUpDesign(form_->Name(), *content_);
+    content_->setObjectName("layoutContent");
+    area_->setWidget(content_);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(area_);
+    setObjectName(ToQt(form_->Name()));
+    setWindowIcon(IconNamed("App"));
+}
+
+void FormWindow::Bind() {
+    for (ui::Control* control : form_->Controls())
+        BindControl(*control);
+    RefreshAll();
+    form_->SetObserver(this);
+    FormChanged();
+    // Tab goes through the controls in the order of the form.
+    QWidget* before = nullptr;
+    for (ui::Control* control : form_->Controls()) {
+        Renderer* renderer = RendererOf(control);
+        QWidget* widget = renderer == nullptr ? nullptr : renderer->FocusWidget();
+        if (widget == nullptr)
+            continue;
+        if (before != nullptr)
+            setTabOrder(before, widget);
+        before = widget;
+    }
+    content_->installEventFilter(this);
+}
+
+void FormWindow::BindControl(ui::Control& control) {
+    auto renderer = MakeRenderer(*this, control, WidgetNamed(control.Name()));
+    if (renderer == nullptr) {
+        qWarning("%s has no fitting widget for %s", form_->Name().c_str(), control.Name().c_str());
+        return;
+    }
+    gate_->Watch(renderer->FocusWidget(), renderer->MouseWidget(), control);
+    renderers_[&control] = std::move(renderer);
+}
+
+// A control without an accessible name of its own bears its caption, or that of the label beside it.
+void FormWindow::NameForReaders() {
+    setAccessibleName(windowTitle());
+    for (const auto& [control, renderer] : renderers_) {
+        QWidget* widget = WidgetNamed(control->Name());
+        if (widget != nullptr && widget->accessibleName().isEmpty())
+            widget->setAccessibleName(WithoutMnemonics(ToQt(control->Caption())));
+    }
+    for (const QLabel* label : content_->findChildren<QLabel*>())
+        if (QWidget* named = label->buddy(); named != nullptr && named->accessibleName().isEmpty())
+            named->setAccessibleName(WithoutMnemonics(label->text()));
+}
+
+void FormWindow::Release() {
+    if (form_ == nullptr)
+        return;
+    for (const auto& [control, renderer] : renderers_)
+        renderer->Release();
+    gate_->Release();
+    form_->SetObserver(nullptr);
+    form_ = nullptr;
+}
+
+Renderer* FormWindow::RendererOf(const ui::Control* control) const {
+    const auto found = renderers_.find(control);
+    return found == renderers_.end() ? nullptr : found->second.get();
+}
+
+QWidget* FormWindow::WidgetNamed(const std::string& name) const {
+    return content_->findChild<QWidget*>(ToQt(name));
+}
+
+QMenuBar& FormWindow::MenuBar() {
+    if (menuBar_ == nullptr) {
+        menuBar_ = new QMenuBar(this);
+        menuBar_->setObjectName("layoutMenuBar");
+        layout()->setMenuBar(menuBar_);
+    }
+    return *menuBar_;
+}
+
+void FormWindow::Act(Renderer& renderer, const std::function<void()>& act) {
+    if (form_ == nullptr || IsWriting())
+        return;
+    const auto alive = form_->KeepAlive();
+    act();
+    if (form_ == nullptr)
+        return;
+    const Writing writing(*this);
+    renderer.Refresh();
+}
+
+void FormWindow::RefreshAll() {
+    const Writing writing(*this);
+    for (const auto& [control, renderer] : renderers_)
+        renderer->Refresh();
+}
+
+void FormWindow::ControlChanged(ui::Control& control) {
+    const Writing writing(*this);
+    if (Renderer* renderer = RendererOf(&control); renderer != nullptr)
+        renderer->Refresh();
+}
+
+void FormWindow::FormChanged() {
+    const Writing writing(*this);
+    setWindowTitle(ToQt(form_->Caption()));
+    const auto flags = FlagsFor(windowModality());
+    if (isVisible() && flags != windowFlags()) {
+        setWindowFlags(flags);
+        show();
+    }
+    if (isEnabled() == form_->Enabled())
+        return;
+    // A disabled window loses its focus, which must be where it was once the window is enabled again.
+    if (!form_->Enabled())
+        focusBeforeDisabling_ = focusWidget();
+    setEnabled(form_->Enabled());
+    if (form_->Enabled() && focusBeforeDisabling_ != nullptr)
+        focusBeforeDisabling_->setFocus(Qt::OtherFocusReason);
+}
+
+void FormWindow::FocusMoved(ui::Control& control) {
+    gate_->Settled();
+    const Writing writing(*this);
+    Renderer* renderer = RendererOf(&control);
+    QWidget* widget = renderer == nullptr ? nullptr : renderer->FocusWidget();
+    focusBeforeDisabling_ = widget;
+    if (widget != nullptr && !widget->hasFocus())
+        widget->setFocus(Qt::OtherFocusReason);
+}
+
+void FormWindow::TakeFocus() {
+    activateWindow();
+    if (form_ != nullptr && form_->FocusedControl() != nullptr)
+        FocusMoved(*form_->FocusedControl());
+}
+
+Qt::WindowFlags FormWindow::FlagsFor(Qt::WindowModality modality) const {
+    if (content_->property("frameless").toBool())
+        return Qt::SplashScreen | Qt::FramelessWindowHint;
+    const Qt::WindowFlags kind = modality == Qt::NonModal ? Qt::Window : Qt::Dialog;
+    const Qt::WindowFlags title = Qt::CustomizeWindowHint | Qt::WindowTitleHint;
+    if (!form_->HasCloseCommand())
+        return kind | title;
+    const Qt::WindowFlags close = title | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    return modality == Qt::NonModal ? kind | close | Qt::WindowMinMaxButtonsHint : kind | close;
+}
+
+void FormWindow::ShowAs(Qt::WindowModality modality, QWidget* owner) {
+    if (form_ == nullptr)
+        return;
+    {
+        const Writing writing(*this);
+        hide();
+        setWindowFlags(FlagsFor(modality));
+        setWindowModality(modality);
+        if (!sized_)
+            FitToScreen();
+        PutOver(owner);
+        show();
+        raise();
+    }
+    TakeFocus();
+}
+
+void FormWindow::FitToScreen() {
+    sized_ = true;
+    const QSize room = screen()->availableGeometry().size() - QSize(20, 50);
+    const QSize bar = menuBar_ == nullptr ? QSize() : QSize(0, menuBar_->sizeHint().height());
+    const bool given = content_->testAttribute(Qt::WA_Resized);
+    const QSize asked = content_->sizeHint().expandedTo(content_->minimumSizeHint());
+    const QSize wanted = given ? content_->size().expandedTo(content_->minimumSizeHint()) : asked;
+    resize((wanted + bar).boundedTo(room));
+}
+
+// What has come to view must not end in scroll bars while there is room on the screen.
+void FormWindow::GrowToContent() {
+    const QSize room = screen()->availableGeometry().size() - QSize(20, 50);
+    const QSize lacking = content_->minimumSizeHint() - area_->viewport()->size();
+    const QSize wanted = size() + lacking.expandedTo(QSize(0, 0));
+    if (sized_ && wanted != size())
+        resize(wanted.boundedTo(room.expandedTo(size())));
+}
+
+void FormWindow::PutOver(const QWidget* owner) {
+    (void)winId();
+    if (owner == nullptr || owner->windowHandle() == nullptr) {
+        windowHandle()->setTransientParent(nullptr);
+        move(screen()->availableGeometry().center() - rect().center());
+        return;
+    }
+    windowHandle()->setTransientParent(owner->windowHandle());
+    const QRect room = screen()->availableGeometry();
+    const QPoint corner = owner->geometry().center() - rect().center();
+    const QPoint last = room.bottomRight() - rect().bottomRight();
+    move(std::max(room.left(), std::min(corner.x(), last.x())),
+         std::max(room.top(), std::min(corner.y(), last.y())));
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == content_ && event->type() == QEvent::LayoutRequest)
+        GrowToContent();
+    return QWidget::eventFilter(watched, event);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    // The form says whether the window goes; where it has no close command, nothing a person does closes it.
+    event->ignore();
+    if (form_ == nullptr)
+        return;
+    const auto alive = form_->KeepAlive();
+    (void)form_->PersonCloses();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_F1:
+        return event->setAccepted(PressKey(ui::Key::F1));
+    case Qt::Key_Escape:
+        return event->setAccepted(PressKey(ui::Key::Escape));
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+        return event->setAccepted(PressKey(ui::Key::Enter));
+    default:
+        return QWidget::keyPressEvent(event);
+    }
+}
+
+bool FormWindow::PressKey(ui::Key key) {
+    if (form_ == nullptr)
+        return false;
+    const auto alive = form_->KeepAlive();
+    if (form_->PersonPresses(key) || form_ == nullptr)
+        return true;
+    if (key == ui::Key::Escape)
+        PressButton(form_->CancelButton());
+    // The button that has the focus comes before the one that Enter presses elsewhere.
+    if (auto* focused = dynamic_cast<QPushButton*>(focusWidget());
+        key == ui::Key::Enter && focused != nullptr)
+        focused->click();
+    else if (key == ui::Key::Enter)
+        PressButton(form_->DefaultButton());
+    return true;
+}
+
+void FormWindow::PressButton(ui::CommandButton* button) {
+    Renderer* renderer = button == nullptr ? nullptr : RendererOf(button);
+    if (renderer != nullptr)
+        Act(*renderer, [button] { button->PersonClicks(); });
+}
+
+} // namespace gfc::qt

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "qt/FocusGate.h"
+#include "ui/Form.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <map>
+#include <memory>
+
+class QMenuBar;
+class QScrollArea;
+
+namespace gfc::qt {
+
+class Renderer;
+
+// The window of one form. It is bound to the form from its making until Release; the form may go before the
+// window, which lives until the event that it is in has returned.
+class FormWindow : public QWidget, private ui::FormObserver {
+public:
+    explicit FormWindow(ui::Form& form);
+    ~FormWindow() override;
+
+    // Null once released.
+    [[nodiscard]] ui::Form* Form() const { return form_; }
+    void Release();
+
+    // Shows it as a dialog that blocks the others, or as a window among them; over its owner, if it has one.
+    void ShowAs(Qt::WindowModality modality, QWidget* owner);
+    // The window is the active one: the focus stands where the form has it.
+    void TakeFocus();
+
+    // Carries out what a person did to a control, unless the window itself is being written to. Afterwards
+    // the widget shows what the control holds.
+    void Act(Renderer& renderer, const std::function<void()>& act);
+    // Writes all controls to their widgets.
+    void RefreshAll();
+
+    [[nodiscard]] QWidget* WidgetNamed(const std::string& name) const;
+    [[nodiscard]] Renderer* RendererOf(const ui::Control* control) const;
+    // Made at first use.
+    [[nodiscard]] QMenuBar& MenuBar();
+
+    // While one lives, what widgets report is the window's own doing and goes to nobody.
+    class Writing {
+    public:
+        explicit Writing(FormWindow& window) : window_(window) { ++window_.writing_; }
+        ~Writing() { --window_.writing_; }
+        Writing(const Writing&) = delete;
+        Writing& operator=(const Writing&) = delete;
+
+    private:
+        FormWindow& window_;
+    };
+    [[nodiscard]] bool IsWriting() const { return writing_ > 0; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void ControlChanged(ui::Control& control) override;
+    void FormChanged() override;
+    void FocusMoved(ui::Control& control) override;
+
+    void SetUpContent();
+    void Bind();
+    void BindControl(ui::Control& control);
+    void NameForReaders();
+    void FitToScreen();
+    void GrowToContent();
+    void PutOver(const QWidget* owner);
+    [[nodiscard]] Qt::WindowFlags FlagsFor(Qt::WindowModality modality) const;
+    bool PressKey(ui::Key key);
+    void PressButton(ui::CommandButton* button);
+
+    ui::Form* form_;
+    QScrollArea* area_ = nullptr;
+    QWidget* content_ = nullptr;
+    QMenuBar* menuBar_ = nullptr;
+    std::map<const ui::Control*, std::unique_ptr<Renderer>> renderers_;
+    std::unique_ptr<FocusGate> gate_;
+    QPointer<QWidget> focusBeforeDisabling_;
+    int writing_ = 0;
+    bool sized_ = false;
+};
+
+} // namespace gfc::qt

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "ui/Screen.h"
+
+#include <functional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+class QDialog;
+class QEventLoop;
+class QWidget;
+
+namespace gfc::qt {
+
+class FormWindow;
+
+// The windows of the program. A modal form runs an event loop of its own inside the event that opened it, so
+// that a chain of forms reads as the flow reads.
+class QtScreen : public ui::Screen {
+public:
+    // Opens a text file in the machine's viewer; false if there is none. Then, and without a viewer, a window
+    // of the program's own shows it.
+    using Viewer = std::function<bool(const std::string& path, ui::WindowState state)>;
+    explicit QtScreen(Viewer viewer = {});
+    ~QtScreen() override;
+    QtScreen(const QtScreen&) = delete;
+    QtScreen& operator=(const QtScreen&) = delete;
+
+    // The main loop: returns the exit code once no form is shown or the program has ended.
+    int Run();
+
+    void Appear(ui::Form& form) override;
+    void RunModal(ui::Form& form) override;
+    void Disappear(ui::Form& form) override;
+    void Discard(ui::Form& form) override;
+    ui::Answer Ask(const ui::Box& box) override;
+    std::optional<std::string> ChooseFile(const ui::FileChoice& choice) override;
+    std::string AskText(const std::string& title, const std::string& prompt) override;
+    void PopUp(ui::MenuEntry& menu) override;
+    void OpenHelp(const std::string& file, int context) override;
+    bool ViewText(const std::string& path, ui::WindowState state) override;
+    void DoEvents() override;
+    void WaitAMoment() override;
+    void EndProgram(int exitCode) override;
+    [[nodiscard]] bool Ended() const override { return ended_; }
+
+    // Null if that form has no window.
+    [[nodiscard]] FormWindow* WindowOf(const ui::Form& form) const;
+
+private:
+    struct ModalLoop {
+        ui::Form* Form;
+        QEventLoop* Loop;
+    };
+
+    FormWindow& WindowFor(ui::Form& form);
+    void ShowWindow(ui::Form& form, bool modal);
+    void LoopWhileShown(ui::Form& form);
+    void ActivateTop();
+    // The window that a new one stands over; null if there is none.
+    [[nodiscard]] QWidget* TopWindow() const;
+    [[nodiscard]] bool IsModal(const ui::Form& form) const;
+    int Execute(QDialog& dialog);
+
+    Viewer viewer_;
+    std::unordered_map<const ui::Form*, FormWindow*> windows_;
+    std::vector<ui::Form*> shown_; // the one shown last stands at the end
+    std::vector<ModalLoop> loops_;
+    QEventLoop* mainLoop_ = nullptr;
+    int exitCode_ = 0;
+    bool ended_ = false;
+};
+
+} // namespace gfc::qt

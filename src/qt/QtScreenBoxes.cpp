@@ -1,0 +1,129 @@
+#include "qt/FormWindow.h"
+#include "qt/HelpWindow.h"
+#include "qt/Icons.h"
+#include "qt/QtScreen.h"
+#include "qt/TextWindow.h"
+#include "qt/Texts.h"
+#include "qt/render/MenuEntryRenderer.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCursor>
+#include <QDir>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QWindow>
+
+#include <array>
+
+namespace gfc::qt {
+
+namespace {
+
+constexpr std::array<QMessageBox::Icon, 5> icons{QMessageBox::NoIcon, QMessageBox::Information,
+                                                 QMessageBox::Question, QMessageBox::Warning,
+                                                 QMessageBox::Critical};
+
+// The help button opens the help and leaves the box as it is.
+void AddHelp(QMessageBox& message, const std::function<void()>& openHelp) {
+    QAbstractButton* help = message.addButton(QMessageBox::Help);
+    help->disconnect();
+    QObject::connect(help, &QAbstractButton::clicked, &message, openHelp);
+    auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &message);
+    QObject::connect(key, &QShortcut::activated, &message, openHelp);
+}
+
+void SetUpButtons(QMessageBox& message, ui::Buttons buttons) {
+    const bool yesNo = buttons == ui::Buttons::YesNo;
+    message.setStandardButtons(yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+    message.setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
+    // What closes the box without an answer is its last button.
+    message.setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Ok);
+}
+
+ui::Answer AnswerOf(int button, ui::Buttons buttons) {
+    if (buttons == ui::Buttons::Ok)
+        return ui::Answer::Ok;
+    return button == QMessageBox::Yes ? ui::Answer::Yes : ui::Answer::No;
+}
+
+} // namespace
+
+// Boxes stand over the top window without belonging to it: that one may go while the box is open.
+int QtScreen::Execute(QDialog& dialog) {
+    QWidget* owner = TopWindow();
+    dialog.setWindowIcon(IconNamed("App"));
+    dialog.setWindowModality(Qt::ApplicationModal);
+    (void)dialog.winId();
+    if (owner != nullptr && owner->windowHandle() != nullptr) {
+        dialog.windowHandle()->setTransientParent(owner->windowHandle());
+        dialog.adjustSize();
+        dialog.move(owner->geometry().center() - dialog.rect().center());
+    }
+    return dialog.exec();
+}
+
+ui::Answer QtScreen::Ask(const ui::Box& box) {
+    if (ended_)
+        return AnswerOf(QMessageBox::NoButton, box.TheButtons);
+    QMessageBox message;
+    message.setTextFormat(Qt::PlainText);
+    message.setWindowTitle(ToQt(box.Title));
+    message.setText(LinesOf(box.Text));
+    message.setIcon(icons.at(static_cast<std::size_t>(box.TheIcon)));
+    SetUpButtons(message, box.TheButtons);
+    if (box.HelpContext != 0)
+        AddHelp(message, [this, &box] { OpenHelp(box.HelpFile, box.HelpContext); });
+    return AnswerOf(Execute(message), box.TheButtons);
+}
+
+std::optional<std::string> QtScreen::ChooseFile(const ui::FileChoice& choice) {
+    if (ended_)
+        return std::nullopt;
+    QFileDialog dialog;
+    const QString name = ToQt(choice.FilterName);
+    const bool namesPattern = name.contains(QLatin1Char('('));
+    dialog.setWindowTitle(ToQt(choice.Title));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilter(namesPattern ? name : name + " (" + ToQt(choice.Pattern) + ")");
+    if (Execute(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().first()));
+}
+
+std::string QtScreen::AskText(const std::string& title, const std::string& prompt) {
+    if (ended_)
+        return {};
+    QInputDialog dialog;
+    dialog.setInputMode(QInputDialog::TextInput);
+    dialog.setWindowTitle(ToQt(title));
+    dialog.setLabelText(LinesOf(prompt));
+    return Execute(dialog) == QDialog::Accepted ? FromQt(dialog.textValue()) : std::string();
+}
+
+// Not waited for: what is chosen there runs after the event that opened it.
+void QtScreen::PopUp(ui::MenuEntry& menu) {
+    const FormWindow* window = WindowOf(menu.Owner());
+    const auto* entry =
+        window == nullptr ? nullptr : dynamic_cast<MenuEntryRenderer*>(window->RendererOf(&menu));
+    if (entry != nullptr && entry->Menu() != nullptr && !ended_)
+        entry->Menu()->popup(QCursor::pos());
+}
+
+void QtScreen::OpenHelp(const std::string& file, int context) {
+    // The help is looked for beside the program, and whatever the helper looks for is found there too.
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+    if (!ended_ && !OpenMachineHelp(file, context))
+        ShowHelpWindow(file, context, TopWindow());
+}
+
+bool QtScreen::ViewText(const std::string& path, ui::WindowState state) {
+    if (ended_)
+        return false;
+    return (viewer_ && viewer_(path, state)) || ShowTextWindow(path, state, TopWindow());
+}
+
+} // namespace gfc::qt

@@ -1,0 +1,144 @@
+#include "ui/ListView.h"
+
+#include "qt/render/Renderers.h"
+#include "qt/render/RowsModel.h"
+#include "qt/render/WidgetRenderer.h"
+
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QTableView>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace gfc::qt {
+
+namespace {
+
+// Columns are as wide as what stands in the first rows asks for; no list is measured to its end.
+constexpr int measuredRows = 200;
+
+class ListViewRenderer final : public WidgetRenderer<ui::ListView, QTableView>, private ui::RowsObserver {
+public:
+    ListViewRenderer(FormWindow& window, ui::ListView& control, QTableView& widget)
+        : WidgetRenderer(window, control, widget), model_(control) {
+        SetUpView();
+        control.SetRowsObserver(this);
+        widget.viewport()->installEventFilter(this);
+        QObject::connect(&widget, &QTableView::clicked, this,
+                         [this](const QModelIndex& at) { Click(at.row() + 1); });
+        QObject::connect(widget.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                         [this](const QModelIndex& at) { MoveByKey(at.row() + 1); });
+    }
+    ~ListViewRenderer() override { widget_.setModel(nullptr); }
+
+    void Release() override {
+        control_.SetRowsObserver(nullptr);
+        const FormWindow::Writing writing(window_);
+        model_.Release();
+    }
+
+    [[nodiscard]] QWidget* MouseWidget() const override { return widget_.viewport(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
+            mouseDown_ = true;
+        else if (event->type() == QEvent::MouseButtonRelease)
+            QTimer::singleShot(0, this, [this] { mouseDown_ = false; });
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void SetUpView() {
+        widget_.setModel(&model_);
+        widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
+        widget_.setSelectionMode(QAbstractItemView::SingleSelection);
+        widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+        widget_.setShowGrid(false);
+        widget_.setWordWrap(false);
+        widget_.setTabKeyNavigation(false);
+        widget_.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+        widget_.horizontalHeader()->setHighlightSections(false);
+        widget_.horizontalHeader()->setStretchLastSection(true);
+        QHeaderView& rows = *widget_.verticalHeader();
+        rows.hide();
+        rows.setSectionResizeMode(QHeaderView::Fixed);
+        rows.setDefaultSectionSize(widget_.fontMetrics().height() + 6);
+    }
+
+    void Click(int row) {
+        Act([this, row] { (void)control_.PersonClicksRow(row); });
+    }
+
+    // Once the view's own event has ended: the click may well empty the list.
+    void MoveByKey(int row) {
+        if (mouseDown_ || window_.IsWriting() || row < 1)
+            return;
+        QTimer::singleShot(0, this, [this, row] {
+            if (window_.Form() != nullptr)
+                Click(row);
+        });
+    }
+
+    void RefreshContent() override {
+        const int selected = control_.SelectedRow();
+        const QModelIndex current = widget_.currentIndex();
+        if (selected == (current.isValid() ? current.row() + 1 : 0) &&
+            widget_.selectionModel()->hasSelection() == (selected > 0))
+            return;
+        if (selected > 0)
+            widget_.selectRow(selected - 1);
+        else
+            widget_.setCurrentIndex({}), widget_.clearSelection();
+    }
+
+    void RowsReset() override {
+        const FormWindow::Writing writing(window_);
+        model_.Reset();
+        SetWidths();
+        RefreshContent();
+    }
+    void RowsAdded(int first, int last) override {
+        const FormWindow::Writing writing(window_);
+        model_.Added(first, last);
+        if (first <= measuredRows)
+            SetWidths();
+    }
+    void RowsRemoved(int first, int last) override {
+        const FormWindow::Writing writing(window_);
+        model_.Removed(first, last);
+        RefreshContent();
+    }
+    void RowsChanged(int first, int last) override { model_.Altered(first, last); }
+    void SelectionChanged() override {
+        const FormWindow::Writing writing(window_);
+        RefreshContent();
+    }
+
+    void SetWidths() {
+        const auto& columns = control_.Columns();
+        for (int i = 0; i < static_cast<int>(columns.size()); ++i)
+            widget_.setColumnWidth(i, WidthOf(i, columns[static_cast<std::size_t>(i)]));
+    }
+
+    [[nodiscard]] int WidthOf(int number, const ui::ListView::Column& column) const {
+        const QFontMetrics metrics = widget_.fontMetrics();
+        const int edge = 3 * metrics.averageCharWidth();
+        const int heading = metrics.horizontalAdvance(ToQt(column.Heading));
+        int width = std::max(heading, column.Width * metrics.averageCharWidth());
+        for (int row = 1; column.Width == 0 && row <= std::min(control_.Count(), measuredRows); ++row)
+            width = std::max(width, metrics.horizontalAdvance(ToQt(control_.Cell(row, number))));
+        return width + edge;
+    }
+
+    RowsModel model_;
+    bool mouseDown_ = false;
+};
+
+} // namespace
+
+RendererPtr RenderListView(FormWindow& window, ui::Control& control, QWidget* widget) {
+    return Fitting<ListViewRenderer, ui::ListView, QTableView>(window, control, widget);
+}
+
+} // namespace gfc::qt

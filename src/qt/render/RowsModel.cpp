@@ -1,0 +1,62 @@
+#include "qt/render/RowsModel.h"
+
+#include "qt/Texts.h"
+
+namespace gfc::qt {
+
+int RowsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+int RowsModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : columns_;
+}
+
+QVariant RowsModel::data(const QModelIndex& index, int role) const {
+    if (list_ == nullptr || !index.isValid() || index.row() >= list_->Count())
+        return {};
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+        return {};
+    return ToQt(list_->Cell(index.row() + 1, index.column()));
+}
+
+QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (list_ == nullptr || orientation != Qt::Horizontal || section >= columns_)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole)
+        return {};
+    return ToQt(list_->Columns()[static_cast<std::size_t>(section)].Heading);
+}
+
+void RowsModel::Reset() {
+    beginResetModel();
+    rows_ = list_ == nullptr ? 0 : list_->Count();
+    columns_ = list_ == nullptr ? 0 : static_cast<int>(list_->Columns().size());
+    endResetModel();
+}
+
+void RowsModel::Added(int first, int last) {
+    beginInsertRows({}, first - 1, last - 1);
+    rows_ += last - first + 1;
+    endInsertRows();
+}
+
+void RowsModel::Removed(int first, int last) {
+    beginRemoveRows({}, first - 1, last - 1);
+    rows_ -= last - first + 1;
+    endRemoveRows();
+}
+
+void RowsModel::Altered(int first, int last) {
+    if (rows_ > 0 && columns_ > 0)
+        Q_EMIT dataChanged(index(first - 1, 0), index(last - 1, columns_ - 1));
+}
+
+void RowsModel::Release() {
+    list_ = nullptr;
+    Reset();
+}
+
+} // namespace gfc::qt

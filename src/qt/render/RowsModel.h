@@ -1,0 +1,34 @@
+#pragma once
+
+#include "ui/ListView.h"
+
+#include <QAbstractTableModel>
+
+namespace gfc::qt {
+
+// A list's rows as the table view reads them: straight from the control, nothing is copied. The control tells
+// of a change after it has made it, so the number of rows that the view knows of is kept here.
+class RowsModel final : public QAbstractTableModel {
+public:
+    explicit RowsModel(const ui::ListView& list) : list_(&list) { Reset(); }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    // Rows are counted from 1, as in the control.
+    void Reset();
+    void Added(int first, int last);
+    void Removed(int first, int last);
+    void Altered(int first, int last);
+    // The control has gone: there is nothing to read any more.
+    void Release();
+
+private:
+    const ui::ListView* list_;
+    int rows_ = 0;
+    int columns_ = 0;
+};
+
+} // namespace gfc::qt
