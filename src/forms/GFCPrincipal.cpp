@@ -30,6 +30,9 @@ GFCPrincipal::GFCPrincipal(Program& program)
     : ProgramForm(program, "GFCPrincipal", "Gas Flow Computer Configurator") {
     for (auto* combo : {&Combo1, &Combo2, &Combo3})
         combo->SetVisible(false);
+    // Captions of what a summary shows; they take no room until one needs them.
+    for (auto* label : {&Label1, &Label3, &Label4})
+        label->SetVisible(false);
     ConnectMenu();
     ConnectPanes();
 }
