@@ -1,0 +1,9 @@
+#pragma once
+
+namespace gfc::test {
+
+// Lets windows live in memory, on a screen of 1366 x 768 points at that scale, unless the environment names a
+// platform. To be called before the application is made.
+void UseOffscreenPlatform(int scale = 1);
+
+} // namespace gfc::test
