@@ -124,7 +124,7 @@ TEST(TagRunsContinue, leaves_fields_alone_that_the_choices_do_not_have) {
 
 TEST(TagRunsContinue, stores_local_time_as_GMT_without_leading_zeros) {
     TagRunsWorld world;
-    world.TimeZone.Bias = -120;
+    world.TimeZone.Current = -120;
     world.AutoAssign();
     world.TheStory.Select("TagRuns", "ListHour", 9)
         .Select("TagRuns", "ListMinx10", 0)
@@ -137,7 +137,7 @@ TEST(TagRunsContinue, stores_local_time_as_GMT_without_leading_zeros) {
 
 TEST(TagRunsContinue, stores_GMT_as_entered_and_shows_it_as_local_time_afterwards) {
     TagRunsWorld world;
-    world.TimeZone.Bias = -120;
+    world.TimeZone.Current = -120;
     world.AutoAssign();
     world.TheStory.Click("TagRuns", "OptionGMT")
         .Select("TagRuns", "ListHour", 20)

@@ -245,7 +245,7 @@ TEST(TagRunsLoad, names_the_units_of_density_and_meter_factor) {
 
 TEST(TagRunsLoad, shows_the_present_local_time_for_a_run_without_one) {
     TagRunsWorld world;
-    world.TimeZone.Bias = 300;
+    world.TimeZone.Current = 300;
     world.Clock.Now = 45000.0 + 14.0 / 24 + 37.0 / 1440;
     world.TheStory.SeeText("TagRuns", "ListHour", "14")
         .SeeText("TagRuns", "ListMinx10", "3")
@@ -258,7 +258,7 @@ TEST(TagRunsLoad, shows_the_present_local_time_for_a_run_without_one) {
 
 TEST(TagRunsLoad, shows_a_stored_time_in_local_time) {
     TagRunsWorld world;
-    world.TimeZone.Bias = -120;
+    world.TimeZone.Current = -120;
     world.Station.Runs.IO[0].ContractHour = "21";
     world.Station.Runs.IO[0].ContractMin = "30";
     world.TheStory.SeeText("TagRuns", "ListHour", "23")
