@@ -13,11 +13,11 @@ namespace {
 // clang-format off
 constexpr std::array<MechanicalSystem, 5> systems{{
     // name                      captions                 temp.    set by the button        shown at load
-    {config::units::US,          "in", "ºF", "in/in ºF",  "68.00", "0.57811",  "2.90039",   "0.57811", "2.90039"},
-    {config::units::USdegC,      "in", "ºC", "in/in ºF",  "20.00", "0.57811",  "2.90039",   "0.57811", "2.90039"},
-    {config::units::Metric,      "mm", "ºC", "mm/mm ºC",  "20.00", "193.675",  "363.513",   "193.675", "363.513"},
-    {config::units::MetricDegF,  "mm", "ºF", "mm/mm ºC",  "68.00", "193.675",  "363.513",   "193.675", "363.513"},
-    {config::units::PracticalSI, "mm", "ºC", "mm/mm ºC",  "20.00", "0.193675", "0.363513",  "193.675", "363.513"},
+    {config::units::US,          "in", "ºF", "in/in ºF", "68.00", "0.57811", "2.90039", "0.57811", "2.90039"},
+    {config::units::USdegC,      "in", "ºC", "in/in ºF", "20.00", "0.57811", "2.90039", "0.57811", "2.90039"},
+    {config::units::Metric,      "mm", "ºC", "mm/mm ºC", "20.00", "193.675", "363.513", "193.675", "363.513"},
+    {config::units::MetricDegF,  "mm", "ºF", "mm/mm ºC", "68.00", "193.675", "363.513", "193.675", "363.513"},
+    {config::units::PracticalSI, "mm", "ºC", "mm/mm ºC", "20.00", "0.193675", "0.363513", "193.675", "363.513"},
 }};
 // clang-format on
 
