@@ -40,6 +40,19 @@ TEST(EqualNoCase, folds_as_the_files_do) {
         }
 }
 
+TEST(FoldCase, is_the_same_for_texts_that_differ_in_case_alone) {
+    EXPECT_EQ(FoldCase("TÉmP Ÿ"), FoldCase("tÉMp ÿ"));
+    EXPECT_NE(FoldCase("Ж"), FoldCase("ж")) << "outside the page";
+    EXPECT_NE(FoldCase("\xE9"), FoldCase("é")) << "a byte that is no character";
+    EXPECT_EQ(FoldCase(""), "");
+    for (int a = 0; a < 256; ++a)
+        for (int b = 0; b < 256; ++b) {
+            const std::string left(FromCodePage(std::string(1, static_cast<char>(a))));
+            const std::string right(FromCodePage(std::string(1, static_cast<char>(b))));
+            ASSERT_EQ(FoldCase(left) == FoldCase(right), EqualNoCase(left, right)) << a << ' ' << b;
+        }
+}
+
 TEST(TrimFixedString, cuts_at_the_first_nul) {
     EXPECT_EQ(TrimFixedString(std::string("North\0\0South\0", 13)), "North");
     EXPECT_EQ(TrimFixedString(std::string("\0x", 2)), "");
