@@ -104,7 +104,7 @@ void Exit(Story& story) {
 void OpenWizard(Story& story, const std::string& station) {
     story.ClickNode("GFCPrincipal", "TreeGFC", "All Stations\\" + station)
         .Menu("GFCPrincipal", "ConfigWiard")
-        .Box("Flow Gas Computer", "", ui::Icon::Question, ui::Answer::Yes);
+        .Box("Flow Gas Computer", "", ui::Icon::None, ui::Answer::Yes);
 }
 
 void SelectRuns(Story& story, const std::vector<int>& runs) {
@@ -125,6 +125,9 @@ void WalkPages(Story& story, const Choices& choices) {
     if (choices.Chromatograph)
         story.Click("WizardFC", "OptCromatografo");
     story.Click("WizardFC", "finalizar");
+    // The pass opens with a window of its own, before the first announcement.
+    story.SeeText("Step", "Label1", "Press  'Continue' to configure the individual parameters")
+        .Click("Step", "Command1");
 }
 
 void Continue(Story& story, const std::string& announced, const std::string& step) {
