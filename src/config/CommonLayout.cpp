@@ -1,5 +1,6 @@
 #include "config/CommonLayout.h"
 
+#include "config/Overload.h"
 #include "config/Vocabulary.h"
 
 #include <array>
@@ -7,71 +8,68 @@
 namespace gfc::config {
 namespace {
 
+using enum CommonSection;
+using Config = StationConfig;
+using Working = WorkingModules;
+
 // Deliberate: the base conditions stand in two sections and the writers take both from StandardT and
 // StandardP; a full write calls the gas compressible, whatever the model says; the doubled run keys, which
 // say that a run was configured, are asked for one by one where they matter.
 // clang-format off
 constexpr std::array<CommonRow, 44> Rows = {{
-    {CommonSection::General,  "Package",               Literal{"kdormaga"},                 NotRead{}},
-    {CommonSection::General,  "Project",               &StationConfig::ProjectFile,         NotRead{}},
-    {CommonSection::General,  "OrmStation",            &StationConfig::CurrentStation,      NotRead{}},
-    {CommonSection::General,  "UserID",                &StationConfig::UserId,              NotRead{}},
+    {General,  "Package",               Literal{"kdormaga"},          NotRead{}},
+    {General,  "Project",               &Config::ProjectFile,         NotRead{}},
+    {General,  "OrmStation",            &Config::CurrentStation,      NotRead{}},
+    {General,  "UserID",                &Config::UserId,              NotRead{}},
 
-    {CommonSection::Station,  "EnableDataTraces",      &StationConfig::EnableDataTraces,    &StationConfig::EnableDataTraces},
-    {CommonSection::Station,  "DeviceDataTraces",      &StationConfig::DeviceDataTraces,    &StationConfig::DeviceDataTraces},
-    {CommonSection::Station,  "NumberTraces",          &StationConfig::NumberTraces,        &StationConfig::NumberTraces},
+    {Station,  "EnableDataTraces",      &Config::EnableDataTraces,    &Config::EnableDataTraces},
+    {Station,  "DeviceDataTraces",      &Config::DeviceDataTraces,    &Config::DeviceDataTraces},
+    {Station,  "NumberTraces",          &Config::NumberTraces,        &Config::NumberTraces},
 
-    {CommonSection::FlowRuns, "Run1",                  FlagInRunList{0},                    FlagInRun{0}},
-    {CommonSection::FlowRuns, "Run2",                  FlagInRunList{1},                    FlagInRun{1}},
-    {CommonSection::FlowRuns, "Run3",                  FlagInRunList{2},                    FlagInRun{2}},
-    {CommonSection::FlowRuns, "Run4",                  FlagInRunList{3},                    FlagInRun{3}},
-    {CommonSection::FlowRuns, "Run5",                  FlagInRunList{4},                    FlagInRun{4}},
-    {CommonSection::FlowRuns, "FlowAlgorithm",         &StationConfig::FlowAlgorithm,       &StationConfig::FlowAlgorithm},
-    {CommonSection::FlowRuns, "GasDensitySource",      &StationConfig::GasDensitySource,    &StationConfig::GasDensitySource},
-    {CommonSection::FlowRuns, "GasDensityStandardT",   &StationConfig::StandardT,           &StationConfig::GasDensityStandardT},
-    {CommonSection::FlowRuns, "GasDensityStandardP",   &StationConfig::StandardP,           &StationConfig::GasDensityStandardP},
-    {CommonSection::FlowRuns, "SystemUnits",           &StationConfig::SystemUnits,         &StationConfig::SystemUnits},
-    {CommonSection::FlowRuns, "WrkFloatModName",       &WorkingModules::WrkFloatModName,    &WorkingModules::WrkFloatModName},
-    {CommonSection::FlowRuns, "WrkFloatRegAddr",       &WorkingModules::WrkFloatRegAddr,    &WorkingModules::WrkFloatRegAddr},
-    {CommonSection::FlowRuns, "WrkFloatRegType",       &WorkingModules::WrkFloatRegType,    &WorkingModules::WrkFloatRegType},
-    {CommonSection::FlowRuns, "WrkIntLongModName",     &WorkingModules::WrkIntLongModName,  &WorkingModules::WrkIntLongModName},
-    {CommonSection::FlowRuns, "WrkIntLongRegAddr",     &WorkingModules::WrkIntLongRegAddr,  &WorkingModules::WrkIntLongRegAddr},
-    {CommonSection::FlowRuns, "WrkIntLongRegType",     &WorkingModules::WrkIntLongRegType,  &WorkingModules::WrkIntLongRegType},
-    {CommonSection::FlowRuns, "WrkAnalogModName",      &WorkingModules::WrkAnalogModName,   &WorkingModules::WrkAnalogModName},
-    {CommonSection::FlowRuns, "WrkAnalogRegAddr",      &WorkingModules::WrkAnalogRegAddr,   &WorkingModules::WrkAnalogRegAddr},
-    {CommonSection::FlowRuns, "WrkAnalogRegType",      &WorkingModules::WrkAnalogRegType,   &WorkingModules::WrkAnalogRegType},
-    {CommonSection::FlowRuns, "Run11",                 FlagInRunList{0},                    NotRead{}},
-    {CommonSection::FlowRuns, "Run22",                 FlagInRunList{1},                    NotRead{}},
-    {CommonSection::FlowRuns, "Run33",                 FlagInRunList{2},                    NotRead{}},
-    {CommonSection::FlowRuns, "Run44",                 FlagInRunList{3},                    NotRead{}},
-    {CommonSection::FlowRuns, "Run55",                 FlagInRunList{4},                    NotRead{}},
+    {FlowRuns, "Run1",                  FlagInRunList{0},             FlagInRun{0}},
+    {FlowRuns, "Run2",                  FlagInRunList{1},             FlagInRun{1}},
+    {FlowRuns, "Run3",                  FlagInRunList{2},             FlagInRun{2}},
+    {FlowRuns, "Run4",                  FlagInRunList{3},             FlagInRun{3}},
+    {FlowRuns, "Run5",                  FlagInRunList{4},             FlagInRun{4}},
+    {FlowRuns, "FlowAlgorithm",         &Config::FlowAlgorithm,       &Config::FlowAlgorithm},
+    {FlowRuns, "GasDensitySource",      &Config::GasDensitySource,    &Config::GasDensitySource},
+    {FlowRuns, "GasDensityStandardT",   &Config::StandardT,           &Config::GasDensityStandardT},
+    {FlowRuns, "GasDensityStandardP",   &Config::StandardP,           &Config::GasDensityStandardP},
+    {FlowRuns, "SystemUnits",           &Config::SystemUnits,         &Config::SystemUnits},
+    {FlowRuns, "WrkFloatModName",       &Working::WrkFloatModName,    &Working::WrkFloatModName},
+    {FlowRuns, "WrkFloatRegAddr",       &Working::WrkFloatRegAddr,    &Working::WrkFloatRegAddr},
+    {FlowRuns, "WrkFloatRegType",       &Working::WrkFloatRegType,    &Working::WrkFloatRegType},
+    {FlowRuns, "WrkIntLongModName",     &Working::WrkIntLongModName,  &Working::WrkIntLongModName},
+    {FlowRuns, "WrkIntLongRegAddr",     &Working::WrkIntLongRegAddr,  &Working::WrkIntLongRegAddr},
+    {FlowRuns, "WrkIntLongRegType",     &Working::WrkIntLongRegType,  &Working::WrkIntLongRegType},
+    {FlowRuns, "WrkAnalogModName",      &Working::WrkAnalogModName,   &Working::WrkAnalogModName},
+    {FlowRuns, "WrkAnalogRegAddr",      &Working::WrkAnalogRegAddr,   &Working::WrkAnalogRegAddr},
+    {FlowRuns, "WrkAnalogRegType",      &Working::WrkAnalogRegType,   &Working::WrkAnalogRegType},
+    {FlowRuns, "Run11",                 FlagInRunList{0},             NotRead{}},
+    {FlowRuns, "Run22",                 FlagInRunList{1},             NotRead{}},
+    {FlowRuns, "Run33",                 FlagInRunList{2},             NotRead{}},
+    {FlowRuns, "Run44",                 FlagInRunList{3},             NotRead{}},
+    {FlowRuns, "Run55",                 FlagInRunList{4},             NotRead{}},
 
-    {CommonSection::Flow,     "StandardT",             &StationConfig::StandardT,           &StationConfig::StandardT},
-    {CommonSection::Flow,     "StandardP",             &StationConfig::StandardP,           &StationConfig::StandardP},
-    {CommonSection::Flow,     "FlowingViscosity",      &StationConfig::FlowingViscosity,    &StationConfig::FlowingViscosity},
-    {CommonSection::Flow,     "IsentropicCoeff",       &StationConfig::IsentropicCoeff,     &StationConfig::IsentropicCoeff},
-    {CommonSection::Flow,     "Compressible",          Literal{Yes},                        &StationConfig::Compressible},
-    {CommonSection::Flow,     "PressType",             &StationConfig::PressType,           &StationConfig::PressType},
-    {CommonSection::Flow,     "ExtAtmPress",           &StationConfig::ExtAtmPress,         &StationConfig::ExtAtmPress},
-    {CommonSection::Flow,     "AtmPress",              &StationConfig::AtmPress,            &StationConfig::AtmPress},
-    {CommonSection::Flow,     "CommonPaKDIORegAddr",   BindingPart::RegAddr,                BindingPart::RegAddr},
-    {CommonSection::Flow,     "CommonPaKDIOTag",       BindingPart::Tag,                    BindingPart::Tag},
-    {CommonSection::Flow,     "CommonPaKDIOType",      BindingPart::Type,                   BindingPart::Type},
+    {Flow,     "StandardT",             &Config::StandardT,           &Config::StandardT},
+    {Flow,     "StandardP",             &Config::StandardP,           &Config::StandardP},
+    {Flow,     "FlowingViscosity",      &Config::FlowingViscosity,    &Config::FlowingViscosity},
+    {Flow,     "IsentropicCoeff",       &Config::IsentropicCoeff,     &Config::IsentropicCoeff},
+    {Flow,     "Compressible",          Literal{Yes},                 &Config::Compressible},
+    {Flow,     "PressType",             &Config::PressType,           &Config::PressType},
+    {Flow,     "ExtAtmPress",           &Config::ExtAtmPress,         &Config::ExtAtmPress},
+    {Flow,     "AtmPress",              &Config::AtmPress,            &Config::AtmPress},
+    {Flow,     "CommonPaKDIORegAddr",   BindingPart::RegAddr,         BindingPart::RegAddr},
+    {Flow,     "CommonPaKDIOTag",       BindingPart::Tag,             BindingPart::Tag},
+    {Flow,     "CommonPaKDIOType",      BindingPart::Type,            BindingPart::Type},
 
-    {CommonSection::Gas,      "AGA8Method",            &StationConfig::AGA8Method,          &StationConfig::AGA8Method},
-    {CommonSection::Gas,      "AGA8CalInput",          &StationConfig::AGA8CalInput,        &StationConfig::AGA8CalInput},
+    {Gas,      "AGA8Method",            &Config::AGA8Method,          &Config::AGA8Method},
+    {Gas,      "AGA8CalInput",          &Config::AGA8CalInput,        &Config::AGA8CalInput},
 }};
 // clang-format on
 
 constexpr std::string_view OrificeSection = "AGA3";
 constexpr std::string_view PulseSection = "AGA7";
-
-template <class... Fs>
-struct Overload : Fs... {
-    using Fs::operator()...;
-};
-template <class... Fs>
-Overload(Fs...) -> Overload<Fs...>;
 
 } // namespace
 

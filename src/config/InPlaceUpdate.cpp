@@ -36,45 +36,46 @@ struct SavedKey {
     CommonField Value;
 };
 
+using enum CommonSection;
 using Config = StationConfig;
 using Working = WorkingModules;
 
-// The configurator's save, before and after the copies in the runs. The order counts where a key is new in
-// the file.
+// The configurator's save, before and after the copies in the runs. WrkAnalogModNAme stands deliberately in
+// this form here. The order counts where a key is new in the file.
 // clang-format off
 constexpr std::array SavedBeforeRuns = std::to_array<SavedKey>({
-    {CommonSection::Station,  "NumberTraces",        &Config::NumberTraces},
-    {CommonSection::Station,  "EnableDataTraces",    &Config::EnableDataTraces},
-    {CommonSection::Station,  "DeviceDataTraces",    &Config::DeviceDataTraces},
-    {CommonSection::General,  "UserID",              &Config::UserId},
-    {CommonSection::FlowRuns, "FlowAlgorithm",       &Config::FlowAlgorithm},
-    {CommonSection::FlowRuns, "GasDensityStandardT", &Config::StandardT},
-    {CommonSection::FlowRuns, "GasDensityStandardP", &Config::StandardP},
-    {CommonSection::FlowRuns, "GasDensitySource",    &Config::GasDensitySource},
-    {CommonSection::Flow,     "StandardT",           &Config::StandardT},
-    {CommonSection::Flow,     "StandardP",           &Config::StandardP},
+    {Station,  "NumberTraces",        &Config::NumberTraces},
+    {Station,  "EnableDataTraces",    &Config::EnableDataTraces},
+    {Station,  "DeviceDataTraces",    &Config::DeviceDataTraces},
+    {General,  "UserID",              &Config::UserId},
+    {FlowRuns, "FlowAlgorithm",       &Config::FlowAlgorithm},
+    {FlowRuns, "GasDensityStandardT", &Config::StandardT},
+    {FlowRuns, "GasDensityStandardP", &Config::StandardP},
+    {FlowRuns, "GasDensitySource",    &Config::GasDensitySource},
+    {Flow,     "StandardT",           &Config::StandardT},
+    {Flow,     "StandardP",           &Config::StandardP},
 });
 
 constexpr std::array SavedAfterRuns = std::to_array<SavedKey>({
-    {CommonSection::Flow,     "Compressible",        &Config::Compressible}, // as chosen, unlike in a full write
-    {CommonSection::Flow,     "FlowingViscosity",    &Config::FlowingViscosity},
-    {CommonSection::Flow,     "IsentropicCoeff",     &Config::IsentropicCoeff},
-    {CommonSection::Flow,     "PressType",           &Config::PressType},
-    {CommonSection::Flow,     "ExtAtmPress",         &Config::ExtAtmPress},
-    {CommonSection::Flow,     "AtmPress",            &Config::AtmPress},
-    {CommonSection::Flow,     "CommonPaKDIOTag",     BindingPart::Tag},
-    {CommonSection::Flow,     "CommonPaKDIOType",    BindingPart::Type},
-    {CommonSection::Flow,     "CommonPaKDIORegAddr", BindingPart::RegAddr},
-    {CommonSection::FlowRuns, "SystemUnits",         &Config::SystemUnits},
-    {CommonSection::FlowRuns, "WrkFloatModName",     &Working::WrkFloatModName},
-    {CommonSection::FlowRuns, "WrkFloatRegAddr",     &Working::WrkFloatRegAddr},
-    {CommonSection::FlowRuns, "WrkFloatRegType",     &Working::WrkFloatRegType},
-    {CommonSection::FlowRuns, "WrkIntLongModName",   &Working::WrkIntLongModName},
-    {CommonSection::FlowRuns, "WrkIntLongRegAddr",   &Working::WrkIntLongRegAddr},
-    {CommonSection::FlowRuns, "WrkIntLongRegType",   &Working::WrkIntLongRegType},
-    {CommonSection::FlowRuns, "WrkAnalogModNAme",    &Working::WrkAnalogModName}, // deliberately in this form here
-    {CommonSection::FlowRuns, "WrkAnalogRegAddr",    &Working::WrkAnalogRegAddr},
-    {CommonSection::FlowRuns, "WrkAnalogRegType",    &Working::WrkAnalogRegType},
+    {Flow,     "Compressible",        &Config::Compressible}, // as chosen, unlike in a full write
+    {Flow,     "FlowingViscosity",    &Config::FlowingViscosity},
+    {Flow,     "IsentropicCoeff",     &Config::IsentropicCoeff},
+    {Flow,     "PressType",           &Config::PressType},
+    {Flow,     "ExtAtmPress",         &Config::ExtAtmPress},
+    {Flow,     "AtmPress",            &Config::AtmPress},
+    {Flow,     "CommonPaKDIOTag",     BindingPart::Tag},
+    {Flow,     "CommonPaKDIOType",    BindingPart::Type},
+    {Flow,     "CommonPaKDIORegAddr", BindingPart::RegAddr},
+    {FlowRuns, "SystemUnits",         &Config::SystemUnits},
+    {FlowRuns, "WrkFloatModName",     &Working::WrkFloatModName},
+    {FlowRuns, "WrkFloatRegAddr",     &Working::WrkFloatRegAddr},
+    {FlowRuns, "WrkFloatRegType",     &Working::WrkFloatRegType},
+    {FlowRuns, "WrkIntLongModName",   &Working::WrkIntLongModName},
+    {FlowRuns, "WrkIntLongRegAddr",   &Working::WrkIntLongRegAddr},
+    {FlowRuns, "WrkIntLongRegType",   &Working::WrkIntLongRegType},
+    {FlowRuns, "WrkAnalogModNAme",    &Working::WrkAnalogModName},
+    {FlowRuns, "WrkAnalogRegAddr",    &Working::WrkAnalogRegAddr},
+    {FlowRuns, "WrkAnalogRegType",    &Working::WrkAnalogRegType},
 });
 
 // The copies in each configured run. The atmospheric pressure binding is deliberately written whether it is in use or

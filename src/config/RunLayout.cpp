@@ -1,5 +1,6 @@
 #include "config/RunLayout.h"
 
+#include "config/Overload.h"
 #include "config/Vocabulary.h"
 #include "services/Text.h"
 
@@ -79,12 +80,16 @@ bool Always(const Choices&) {
     return true;
 }
 
+bool IsPlainOrifice(const Choices& c) {
+    return c.Algorithm == algorithm::AGA3 || c.Algorithm == algorithm::SYT6143;
+}
+
 // clang-format off
 constexpr std::array<Rule, 21> Rules = {{
     {'A', Always},
     {'B', [](const Choices& c) { return c.Algorithm != algorithm::AGA7; }},
     {'C', [](const Choices& c) { return c.Algorithm == algorithm::Accelabar; }},
-    {'D', [](const Choices& c) { return c.Algorithm == algorithm::AGA3 || c.Algorithm == algorithm::SYT6143; }},
+    {'D', IsPlainOrifice},
     {'E', Always},
     {'F', Always},
     {'G', [](const Choices& c) { return c.Source == source::Measured; }},
@@ -104,13 +109,6 @@ constexpr std::array<Rule, 21> Rules = {{
     {'U', [](const Choices& c) { return c.GasModel(); }},
 }};
 // clang-format on
-
-template <class... Fs>
-struct Overload : Fs... {
-    using Fs::operator()...;
-};
-template <class... Fs>
-Overload(Fs...) -> Overload<Fs...>;
 
 } // namespace
 

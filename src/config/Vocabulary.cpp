@@ -18,7 +18,7 @@ const std::array<Choice, 5> GasDensitySources = {{
     {source::AGA8,         "AGA-8",             "AGA-8"},
     {source::SGERG88,      "SGERG-88",          "SGERG-88"},
     {source::ISO12213_2,   "ISO 12213-2 1997",  "ISO 12213-2 1997"},
-    {source::ISO12213_3,   "ISO 12213-3 1997 ", "ISO 12213-3 1997"}, // the wizard's blank is part of the entry
+    {source::ISO12213_3,   "ISO 12213-3 1997 ", "ISO 12213-3 1997"}, // the blank is part of the entry
 }};
 
 const std::array<Choice, 5> UnitSystems = {{

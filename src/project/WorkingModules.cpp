@@ -8,13 +8,14 @@
 namespace gfc::project {
 namespace {
 
-using Candidates = WorkingModuleCandidates;
+using Inventory = TagInventory;
+using Found = WorkingModuleCandidates;
 
 struct KindRow {
-    TagList TagInventory::*Tags;
-    std::vector<std::string> Candidates::*Names;
-    int Candidates::*Count;
-    std::vector<Candidate> Candidates::*List;
+    TagList Inventory::*Tags;
+    std::vector<std::string> Found::*Names;
+    int Found::*Count;
+    std::vector<Candidate> Found::*List;
     int MinimumRegisters;
 };
 
@@ -25,12 +26,12 @@ constexpr int FloatRegisters = 128;
 // The two directions of each kind stand next to each other, the input first.
 // clang-format off
 constexpr std::array<KindRow, 6> Kinds = {{
-    {&TagInventory::VirtLX, &Candidates::NamesLX, &Candidates::NLX, &Candidates::LongCandidates,   LongRegisters},
-    {&TagInventory::VirtLY, &Candidates::NamesLY, &Candidates::NLY, &Candidates::LongCandidates,   LongRegisters},
-    {&TagInventory::VirtAX, &Candidates::NamesAX, &Candidates::NAX, &Candidates::AnalogCandidates, AnalogRegisters},
-    {&TagInventory::VirtAY, &Candidates::NamesAY, &Candidates::NAY, &Candidates::AnalogCandidates, AnalogRegisters},
-    {&TagInventory::VirtFX, &Candidates::NamesFX, &Candidates::NFX, &Candidates::FloatCandidates,  FloatRegisters},
-    {&TagInventory::VirtFY, &Candidates::NamesFY, &Candidates::NFY, &Candidates::FloatCandidates,  FloatRegisters},
+    {&Inventory::VirtLX, &Found::NamesLX, &Found::NLX, &Found::LongCandidates,   LongRegisters},
+    {&Inventory::VirtLY, &Found::NamesLY, &Found::NLY, &Found::LongCandidates,   LongRegisters},
+    {&Inventory::VirtAX, &Found::NamesAX, &Found::NAX, &Found::AnalogCandidates, AnalogRegisters},
+    {&Inventory::VirtAY, &Found::NamesAY, &Found::NAY, &Found::AnalogCandidates, AnalogRegisters},
+    {&Inventory::VirtFX, &Found::NamesFX, &Found::NFX, &Found::FloatCandidates,  FloatRegisters},
+    {&Inventory::VirtFY, &Found::NamesFY, &Found::NFY, &Found::FloatCandidates,  FloatRegisters},
 }};
 // clang-format on
 
@@ -73,7 +74,7 @@ bool EachKindHasOne(const Has& has) {
 
 // Counts that an earlier station left make a list longer than what is found for it: the rest stays empty
 // records.
-void FillLists(const std::array<std::vector<Candidate>, Kinds.size()>& large, Candidates& candidates) {
+void FillLists(const std::array<std::vector<Candidate>, Kinds.size()>& large, Found& candidates) {
     for (std::size_t i = 0; i < Kinds.size(); i += 2) {
         auto& list = candidates.*Kinds[i].List;
         const auto size =
@@ -93,7 +94,6 @@ struct RegisterRow {
     std::string config::WorkingModules::*RegType;
 };
 
-using Inventory = TagInventory;
 using Working = config::WorkingModules;
 
 // clang-format off
