@@ -40,8 +40,8 @@ using enum CommonSection;
 using Config = StationConfig;
 using Working = WorkingModules;
 
-// The configurator's save, before and after the copies in the runs. The order counts where a key is new in the file;
-// WrkAnalogModNAme stands in this form deliberately.
+// The configurator's save, before and after the copies in the runs. The order counts where a key is new in
+// the file; WrkAnalogModNAme stands in this form deliberately.
 // clang-format off
 constexpr std::array SavedBeforeRuns = std::to_array<SavedKey>({
     {Station,  "NumberTraces",        &Config::NumberTraces},
