@@ -89,7 +89,6 @@ struct RegisterRow {
     std::string WorkingModuleNames::*Name;
     TagList TagInventory::*PhysicalInput;
     TagList TagInventory::*VirtualInput;
-    TagList TagInventory::*VirtualOutput;
     std::string config::WorkingModules::*RegAddr;
     std::string config::WorkingModules::*RegType;
 };
@@ -98,11 +97,11 @@ using Working = config::WorkingModules;
 
 // clang-format off
 constexpr std::array<RegisterRow, 3> RegisterRows = {{
-    {&WorkingModuleNames::Analog, &Inventory::PhysAX, &Inventory::VirtAX, &Inventory::VirtAY,
+    {&WorkingModuleNames::Analog, &Inventory::PhysAX, &Inventory::VirtAX,
      &Working::WrkAnalogRegAddr,  &Working::WrkAnalogRegType},
-    {&WorkingModuleNames::Long,   &Inventory::PhysLX, &Inventory::VirtLX, &Inventory::VirtLY,
+    {&WorkingModuleNames::Long,   &Inventory::PhysLX, &Inventory::VirtLX,
      &Working::WrkIntLongRegAddr, &Working::WrkIntLongRegType},
-    {&WorkingModuleNames::Float,  &Inventory::PhysFX, &Inventory::VirtFX, &Inventory::VirtFY,
+    {&WorkingModuleNames::Float,  &Inventory::PhysFX, &Inventory::VirtFX,
      &Working::WrkFloatRegAddr,   &Working::WrkFloatRegType},
 }};
 // clang-format on
@@ -139,12 +138,11 @@ void ResolveWorkingModuleRegisters(const TagInventory& inventory, const WorkingM
                                    config::WorkingModules& working) {
     for (const RegisterRow& row : RegisterRows) {
         const std::string& module = names.*row.Name;
-        // The second input list is searched in any case, and a match there counts more.
+        // The second input list is searched in any case, and a match there counts more. A module of outputs is
+        // deliberately not looked for: what stood there stays.
         const Tag* tag = FirstOfModule(inventory.*row.PhysicalInput, module);
         if (const Tag* inVirtual = FirstOfModule(inventory.*row.VirtualInput, module))
             tag = inVirtual;
-        if (tag == nullptr) // an output module is a candidate too, and has no tag among the inputs
-            tag = FirstOfModule(inventory.*row.VirtualOutput, module);
         if (tag == nullptr)
             continue;
         working.*row.RegAddr = std::to_string(tag->RegAddr);

@@ -149,11 +149,11 @@ TEST_F(Resolve, lets_the_second_list_overwrite_the_first) {
     EXPECT_EQ(Working.WrkFloatRegAddr, "7");
 }
 
-TEST_F(Resolve, finds_a_module_of_outputs) {
+TEST_F(Resolve, does_not_look_for_a_module_of_outputs) {
     const TagList tags{{"o", 9, "AY", "VA", "Virtual"}};
     ResolveWorkingModuleRegisters(InventoryOf(tags), Names, Working);
-    EXPECT_EQ(Working.WrkAnalogRegAddr, "9");
-    EXPECT_EQ(Working.WrkAnalogRegType, "AY");
+    EXPECT_EQ(Working.WrkAnalogRegAddr, "oldAA");
+    EXPECT_EQ(Working.WrkAnalogRegType, "oldAT");
 }
 
 } // namespace
