@@ -50,6 +50,9 @@ void FormWindow::SetUpContent() {
     area_->setFocusPolicy(Qt::NoFocus);
     content_ = new QWidget(area_);
     SetUpDesign(form_->Name(), *content_);
+    // Taken now: the area resizes what it is given.
+    if (content_->testAttribute(Qt::WA_Resized))
+        designed_ = content_->size();
     content_->setObjectName("layoutContent");
     area_->setWidget(content_);
     auto* whole = new QVBoxLayout(this);
@@ -219,9 +222,11 @@ void FormWindow::FitToScreen() {
     sized_ = true;
     const QSize room = screen()->availableGeometry().size() - QSize(20, 50);
     const QSize bar = menuBar_ == nullptr ? QSize() : QSize(0, menuBar_->sizeHint().height());
-    const bool given = content_->testAttribute(Qt::WA_Resized);
-    const QSize asked = content_->sizeHint().expandedTo(content_->minimumSizeHint());
-    const QSize wanted = given ? content_->size().expandedTo(content_->minimumSizeHint()) : asked;
+    // What is hidden already still counts in the hints of nested layouts.
+    if (content_->layout() != nullptr)
+        content_->layout()->activate();
+    const QSize wanted = (designed_.isValid() ? designed_ : content_->sizeHint())
+                             .expandedTo(content_->minimumSizeHint());
     resize((wanted + bar).boundedTo(room));
 }
 

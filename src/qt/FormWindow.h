@@ -85,6 +85,7 @@ private:
     std::unique_ptr<FocusGate> gate_;
     QPointer<QWidget> focusBeforeDisabling_;
     int writing_ = 0;
+    QSize designed_; // the size that the design gives; not valid if it gives none
     bool sized_ = false;
 };
 
