@@ -11,11 +11,6 @@ constexpr const char* Form = "WizardFC";
 constexpr int AGA3 = 0, AGA7 = 1, Accelabar = 2, GBT = 3;
 constexpr int Densimeter = 0, AGA8 = 1, SGERG88 = 2, ISO2 = 3, ISO3 = 4;
 
-void Play(WizardWorld& world) {
-    world.ThenQuit();
-    world.Program.Forms.Get<forms::WizardFC>().ShowModal();
-}
-
 void Say(WizardWorld& world, bool isAGA7) {
     const auto kind = isAGA7 ? project::ShortageKind::AGA7 : project::ShortageKind::AGA3Family;
     world.TheStory.Box(isAGA7 ? ShortageOfAGA7 : ShortageOfAGA3,
@@ -176,7 +171,7 @@ TEST(WizardGates, a_turbine_that_does_not_fit_becomes_aga3) {
         EXPECT_TRUE(world.Wizard.Text1.Enabled());
         EXPECT_TRUE(world.Wizard.Text2.Enabled());
     });
-    Play(world);
+    world.PlayPages();
 }
 
 TEST(WizardGates, any_other_standard_that_does_not_fit_becomes_a_turbine) {
@@ -191,7 +186,7 @@ TEST(WizardGates, any_other_standard_that_does_not_fit_becomes_a_turbine) {
                 EXPECT_FALSE(world.Wizard.Text1.Enabled());
                 EXPECT_FALSE(world.Wizard.Text2.Enabled());
             });
-        Play(world);
+        world.PlayPages();
     }
 }
 
@@ -205,7 +200,7 @@ TEST(WizardGates, a_gas_model_that_does_not_fit_becomes_the_densimeter) {
                 EXPECT_FALSE(world.Wizard.FrCompGas.Visible());
                 EXPECT_TRUE(world.Wizard.OptCromatografo.Enabled());
             });
-            Play(world);
+            world.PlayPages();
         }
 }
 
@@ -219,7 +214,7 @@ TEST(WizardGates, where_no_standard_fits_the_turbine_is_reported_then_aga3_and_s
     world.TheStory.SeeText(Form, "CombStandard", "AGA-3 1992").Check([&](Driver&) {
         EXPECT_FALSE(world.Station.FlagAGA7);
     });
-    Play(world);
+    world.PlayPages();
     EXPECT_EQ(world.Screen.BoxesShown.size(), 3U);
 }
 
@@ -232,7 +227,7 @@ TEST(WizardGates, where_no_standard_fits_the_others_are_reported_then_the_turbin
         world.TheStory.SeeText(Form, "CombStandard", "AGA-7").Check([&](Driver&) {
             EXPECT_TRUE(world.Station.FlagAGA7);
         });
-        Play(world);
+        world.PlayPages();
         EXPECT_EQ(world.Screen.BoxesShown.size(), 3U);
     }
 }
@@ -246,7 +241,7 @@ TEST(WizardGates, where_no_standard_fits_a_gas_model_ends_alike) {
     Say(world, false);
     Say(world, true);
     world.TheStory.SeeText(Form, "CombStandard", "AGA-7");
-    Play(world);
+    world.PlayPages();
 }
 
 TEST(WizardGates, where_no_source_fits_the_densimeter_is_reported_then_aga8_and_stays) {
@@ -256,7 +251,7 @@ TEST(WizardGates, where_no_source_fits_the_densimeter_is_reported_then_aga8_and_
         Say(world, standard == AGA7);
         Say(world, standard == AGA7);
         world.TheStory.SeeText(Form, "cbSourceGas", "AGA-8");
-        Play(world);
+        world.PlayPages();
         EXPECT_EQ(world.Screen.BoxesShown.size(), 3U);
     }
 }
@@ -269,7 +264,7 @@ TEST(WizardGates, where_no_source_fits_the_gas_models_are_reported_then_the_dens
             Say(world, standard == AGA7);
             Say(world, standard == AGA7);
             world.TheStory.SeeText(Form, "cbSourceGas", "Densimeter");
-            Play(world);
+            world.PlayPages();
             EXPECT_EQ(world.Screen.BoxesShown.size(), 3U);
         }
 }
@@ -281,7 +276,7 @@ TEST(WizardGates, choosing_again_what_does_not_fit_reports_again) {
         Say(world, true);
         Say(world, false);
     }
-    Play(world);
+    world.PlayPages();
 }
 
 TEST(WizardGates, whatever_is_chosen_where_all_fits_stays) {
@@ -294,7 +289,7 @@ TEST(WizardGates, whatever_is_chosen_where_all_fits_stays) {
                     EXPECT_EQ(world.Wizard.CombStandard.ListIndex(), standard);
                     EXPECT_EQ(world.Wizard.cbSourceGas.ListIndex(), source);
                 });
-    Play(world);
+    world.PlayPages();
 }
 
 } // namespace

@@ -104,8 +104,7 @@ TEST(WizardPass, three_runs_with_a_densimeter_are_announced_as_nine_steps) {
     world.ThePass.Open(world.TheStory);
     world.TheStory.SeeText("Step", "Label2", "Step 1 of 9");
     world.ThePass.Through(world.TheStory);
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, keeps_each_runs_meter_at_its_place_among_the_active_runs) {
@@ -119,8 +118,7 @@ TEST(WizardPass, keeps_each_runs_meter_at_its_place_among_the_active_runs) {
         EXPECT_EQ(mechanical[1].OrificeDia, "1.5"); // run 5
         EXPECT_EQ(mechanical[4].OrificeDia, "");
     });
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, keeps_each_runs_composition_apart) {
@@ -138,8 +136,7 @@ TEST(WizardPass, keeps_each_runs_composition_apart) {
         EXPECT_EQ(gas[1][config::GasSlot::GC_Ar].Tag, "0.000000");
         EXPECT_EQ(gas[1][config::GasSlot::XH2].Tag, "");
     });
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, keeps_each_runs_gross_properties_apart) {
@@ -156,8 +153,7 @@ TEST(WizardPass, keeps_each_runs_gross_properties_apart) {
         EXPECT_EQ(gas[1][config::GasSlot::XCO2].Tag, "0.006");
         EXPECT_EQ(gas[1][config::GasSlot::XH2].Tag, "0.000");
     });
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, forgets_a_common_pressure_of_an_earlier_configuration) {
@@ -166,8 +162,7 @@ TEST(WizardPass, forgets_a_common_pressure_of_an_earlier_configuration) {
     world.ThePass.Open(world.TheStory);
     world.TheStory.Check([&](Driver&) { EXPECT_EQ(world.Station.CommonPa, config::TagBinding{}); });
     world.ThePass.Through(world.TheStory);
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, does_not_offer_the_working_modules_tags) {
@@ -181,8 +176,7 @@ TEST(WizardPass, does_not_offer_the_working_modules_tags) {
     });
     world.ThePass.Open(world.TheStory);
     world.ThePass.Through(world.TheStory);
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, leaves_the_long_tags_alone_without_a_turbine) {
@@ -194,8 +188,7 @@ TEST(WizardPass, leaves_the_long_tags_alone_without_a_turbine) {
         EXPECT_EQ(world.Session.Inventory.AvailLong[0].TagName, "KEPT");
     });
     world.ThePass.Through(world.TheStory);
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 TEST(WizardPass, a_choice_of_outside_composition_means_nothing_with_a_densimeter) {
@@ -203,8 +196,7 @@ TEST(WizardPass, a_choice_of_outside_composition_means_nothing_with_a_densimeter
     world.Station.AGA8CalInput = "MEASURED";
     world.ThePass.Open(world.TheStory);
     world.ThePass.Through(world.TheStory);
-    world.ThenQuit();
-    world.Play();
+    world.PlayPages();
 }
 
 // A cancel at any window loses the whole configuration.
@@ -266,110 +258,6 @@ TEST_P(CancelledPass, loses_everything_at_whichever_window) {
 INSTANTIATE_TEST_SUITE_P(Families, CancelledPass,
                          testing::Values(PassChoices{0, 1, false, true}, PassChoices{0, 3, true},
                                          PassChoices{1, 2}, PassChoices{2, 0}, PassChoices{3, 4}));
-
-// Finish.
-
-class MissingValue : public testing::TestWithParam<const char*> {};
-
-TEST_P(MissingValue, keeps_the_page_under_one_message) {
-    WizardWorld world;
-    (void)world.Preset(0, 0, 1);
-    for (int page = 0; page < 3; ++page)
-        world.TheStory.Click(Form, "siguiente");
-    world.TheStory.Type(Form, GetParam(), "")
-        .Click(Form, "finalizar")
-        .Box("Gas Flow Computer", "Error: Missing gas flowing viscosity or gas isentropic coefficient",
-             ui::Icon::Exclamation)
-        .SeeVisible(Form, "siguiente")
-        .SeeEnabled(Form, "siguiente")
-        .SeeText(Form, "lbStep", "Step 4 of 4")
-        .SeeVisible(Form, "Frame4")
-        .Check([&](Driver&) { EXPECT_EQ(world.Station.StandardT, ""); });
-    world.ThenQuit();
-    world.Program.Forms.Get<forms::WizardFC>().ShowModal();
-}
-
-INSTANTIATE_TEST_SUITE_P(Fields, MissingValue,
-                         testing::Values("TextDensityStandardTemp", "TextDensityStandardP", "Text1",
-                                         "Text2"));
-
-TEST(WizardFinish, goes_on_once_the_missing_value_is_there) {
-    PassWorld world({0, 0});
-    world.Program.Forms.Get<forms::WizardFC>().Text1.SetText("");
-    world.TheStory
-        .Box("Gas Flow Computer", "Error: Missing gas flowing viscosity or gas isentropic coefficient",
-             ui::Icon::Exclamation)
-        .Type(Form, "Text1", "0.011")
-        .Click(Form, "finalizar");
-    world.ThePass.Open(world.TheStory);
-    world.ThePass.Through(world.TheStory);
-    world.TheStory.Check([&](Driver&) { EXPECT_EQ(world.Station.FlowingViscosity, "0.011"); });
-    world.ThenQuit();
-    world.Play();
-}
-
-TEST(WizardFinish, the_closing_page_is_the_only_one_left) {
-    PassWorld world({0, 0});
-    world.ThePass.Open(world.TheStory);
-    world.ThePass.Through(world.TheStory);
-    for (const char* button : {"siguiente", "atras", "finalizar", "lbStep"})
-        world.TheStory.SeeVisible(Form, button, false);
-    world.TheStory.SeeText(Form, "lbInfo", "")
-        .SeeEnabled(Form, "Command1")
-        .SelectTab(Form, "wizard", 1)
-        .Check([](Driver& d) { EXPECT_EQ(d.Tab(Form, "wizard"), 4); })
-        .Click(Form, "Command2");
-    world.ThenQuit();
-    world.Play();
-    EXPECT_EQ(world.Screen.HelpOpened.back(), std::pair(std::string("AGA.chm"), 3400));
-}
-
-// The save.
-
-// The story up to the closing page of a small configuration over an existing file.
-struct SaveWorld : PassWorld {
-    SaveWorld() : PassWorld({1, 0, false, false, {4}}) {
-        Files.Content[ConfigFile("North")] = "[Run1]\r\nold=1\r\n[Foreign]\r\nkept=no\r\n";
-        ThePass.Open(TheStory);
-        ThePass.Through(TheStory);
-        TheStory.Click(Form, "Command1");
-    }
-};
-
-TEST(WizardSave, replaces_an_older_file_and_all_its_sections) {
-    SaveWorld world;
-    world.Play();
-    EXPECT_EQ(world.File().find("Foreign"), std::string::npos);
-    EXPECT_EQ(world.File().find("[Run1]"), std::string::npos);
-    EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
-}
-
-TEST(WizardSave, waits_as_long_as_the_old_file_stands) {
-    SaveWorld world;
-    const std::string file = world.ConfigFile("North");
-    world.Files.Unwritable.insert(file);
-    int waited = 0;
-    world.Screen.OnWait = [&] {
-        // Nothing else can be done meanwhile.
-        EXPECT_FALSE(world.Program.Forms.Get<forms::WizardFC>().cancelar.PersonClicks());
-        EXPECT_FALSE(world.Program.Forms.Get<forms::WizardFC>().Command1.PersonClicks());
-        EXPECT_NE(world.File().find("old=1"), std::string::npos);
-        if (++waited == 3)
-            world.Files.Unwritable.erase(file);
-    };
-    world.Play();
-    EXPECT_EQ(waited, 3);
-    EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
-    EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
-}
-
-TEST(WizardSave, lets_the_program_end_while_the_old_file_stands) {
-    SaveWorld world;
-    world.Files.Unwritable.insert(world.ConfigFile("North"));
-    world.Screen.OnWait = [&] { world.Screen.EndProgram(0); };
-    world.Play();
-    EXPECT_NE(world.File().find("old=1"), std::string::npos);
-}
 
 } // namespace
 } // namespace gfc::test

@@ -64,6 +64,11 @@ struct WizardWorld : World {
             .Box("Gas Flow Computer", "Do you want to quit the configuration wizard ?", ui::Icon::None,
                  ui::Answer::Yes);
     }
+    // Plays the story that was told on the pages, and leaves them.
+    void PlayPages() {
+        ThenQuit();
+        Program.Forms.Get<forms::WizardFC>().ShowModal();
+    }
 };
 
 constexpr const char* ShortageOfAGA3 = "Error: Configuring AGA3";
