@@ -56,6 +56,15 @@ struct Captions {
 using Slot = std::variant<config::TagBinding config::RunIO::*, config::GasSlot,
                           config::TagBinding config::StationConfig::*>;
 
+// The groups under which the check lists its entries.
+namespace group {
+constexpr std::string_view Inputs = "AGA Input";
+constexpr std::string_view Outputs = "AGA Output";
+constexpr std::string_view GasOutputs = "AGA8 Output";
+constexpr std::string_view Composition = "I/O tags composition gas";
+constexpr std::string_view GasParameters = "I/O tags parameters SGERG88";
+} // namespace group
+
 struct VariableRow {
     BindingStage Stage;
     TagClass Class;
@@ -72,7 +81,6 @@ struct VariableRow {
     [[nodiscard]] std::string TagKey() const { return std::string(Stem) + "Tag"; }
     // The suffix differs by group; the difference is part of the file's format.
     [[nodiscard]] std::string AddressKey() const;
-    // The group under which the check lists it.
     [[nodiscard]] std::string_view CheckGroup() const;
 };
 

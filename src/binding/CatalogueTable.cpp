@@ -247,15 +247,14 @@ std::span<const VariableRow> Catalogue() {
 std::string_view VariableRow::CheckGroup() const {
     switch (Stage) {
     case RunOutputs:
-        return "AGA Output";
+        return group::Outputs;
     case GasOutputs:
-        return "AGA8 Output";
+        return group::GasOutputs;
     case GasInputs:
         // The enabling digital counts to the composition in both families.
-        return &Presence == &GasValues && Class == Float ? "I/O tags parameters SGERG88"
-                                                         : "I/O tags composition gas";
+        return &Presence == &GasValues && Class == Float ? group::GasParameters : group::Composition;
     default:
-        return "AGA Input";
+        return group::Inputs;
     }
 }
 

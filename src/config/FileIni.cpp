@@ -106,6 +106,19 @@ bool FileIni::WriteSection(std::string_view section, const std::vector<KeyValue>
     });
 }
 
+bool FileIni::WriteLines(std::string_view section, const std::vector<std::string>& lines,
+                         const std::string& file) {
+    return Change(file, [&](platform::Profile& profile) {
+        std::vector<std::string> items;
+        items.reserve(lines.size());
+        for (const std::string& line : lines)
+            items.push_back(ValueBytes(line));
+        if (!items.empty())
+            items.back() += "\r\n";
+        profile.ReplaceSection(BytesOf(section), items);
+    });
+}
+
 bool FileIni::FileExists(const std::string& file) const {
     if (FileBatch* batch = OpenBatch(file))
         batch->Save();

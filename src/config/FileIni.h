@@ -60,6 +60,9 @@ public:
     // Replaces the whole content of the section; adds it at the end of the file, or makes the file, where it
     // is missing. Values as in WriteKey.
     bool WriteSection(std::string_view section, const std::vector<KeyValue>& body, const std::string& file);
+    // The same with lines for people to read, which must not be empty, and an empty one behind the last; the
+    // next write of the section replaces that one too.
+    bool WriteLines(std::string_view section, const std::vector<std::string>& lines, const std::string& file);
     [[nodiscard]] bool FileExists(const std::string& file) const;
     // True if a file was there and is gone.
     bool DeleteConfigFile(const std::string& file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "binding/BindingStage.h"
+#include "binding/ExpectedTags.h"
 #include "config/VarINIFile.h"
 #include "project/Project.h"
 #include "project/WorkingModules.h"
@@ -13,6 +14,9 @@ namespace gfc::forms {
 enum class EditMode { None = 0, Wizard = 1, Configurator = 2, ModifyTags = 3 };
 
 using BindingStage = binding::BindingStage;
+
+// What the user decided when a configuration turned out to have errors.
+enum class TagsChangedChoice { None = 0, Ignore = 1, BackToConfigure = 2, Discard = 3 };
 
 // What the windows share while the program runs. One object, owned by main.
 struct Session {
@@ -41,6 +45,13 @@ struct Session {
     // Set by the caller before MDetail or frSGERG88 is shown.
     int GasRun = 0;           // 0 to 4
     bool GasAccepted = false; // the form was accepted
+
+    // Of the configuration file that was checked last.
+    binding::ExpectedTags Expected;
+    // The answer of TagsChanged, and whether its log was free of errors of gas inputs: set true by the caller
+    // before the form is shown.
+    forms::TagsChangedChoice TagsChangedChoice = forms::TagsChangedChoice::None;
+    bool GasInputsValid = true;
 
     [[nodiscard]] std::string ConfigFile() const { return Project.ConfigFileOf(Station.CurrentStation); }
 };
