@@ -70,6 +70,8 @@ TEST(SelectRuns, accept_stores_the_flags_and_opens_the_wizard) {
     Selection world;
     world.Accept({2, 5}).SeeShown("SelectRuns", false).SeeShown("WizardFC").Check([&](Driver&) {
         EXPECT_EQ(world.Station.ActiveRunCount, 2);
+        // Not to be pressed twice.
+        EXPECT_FALSE(world.Program.Forms.Get<SelectRuns>().Command1.Enabled());
         const std::array<const char*, 5> flags = {"No", "Yes", "No", "No", "Yes"};
         for (std::size_t i = 0; i < flags.size(); ++i) {
             EXPECT_EQ(world.Station.RunList.at(i).Flag, flags.at(i));
