@@ -11,12 +11,12 @@ using enum binding::BindingStage;
 void TagRuns::Continue() {
     if (!MayContinue())
         return;
+    // Out of sight first, so that nothing is seen to flicker.
+    TreeAGA.SetVisible(false);
     StoreTree();
     if (Stage() == RunInputs)
         StoreFields();
     UpdatePools();
-    // Out of sight first, so that nothing is seen to flicker.
-    TreeAGA.SetVisible(false);
     TreeAGA.Clear();
     Unload();
 }
@@ -92,6 +92,7 @@ void TagRuns::Copy() {
                     ui::Icon::Exclamation);
     if (BoundVariables() != 0)
         return SaySomethingIsBound();
+    const config::FileBatch oneRead(program_.Ini, configFilePath_);
     int position = 0;
     for (const auto& variable : Variables())
         ShowBinding(position++, BindingOfSource(*variable.Row, source));

@@ -79,6 +79,7 @@ void TagRuns::Load() {
 }
 
 void TagRuns::ShowCopySources() {
+    const config::FileBatch oneRead(program_.Ini, configFilePath_);
     CopyGasCompButton.SetEnabled(false);
     for (int run = 0; run < config::MaxRuns; ++run) {
         const bool source = IsCopySource(run);

@@ -370,6 +370,20 @@ TEST(TagRunsCopy, in_the_modify_flow_reads_the_other_run_from_the_file_and_leave
     EXPECT_EQ(world.Station.Runs.Gas[0][GasSlot::XH2], TagRunsWorld::Bound("H2", "FY", "4"));
     EXPECT_EQ(world.Station.Runs.IO, before);
     EXPECT_EQ(world.Station.GasComposition[GasSlot::XH2].Tag, "0.1");
+    EXPECT_EQ(world.Files.Reads, 2);
+    EXPECT_EQ(world.Files.Replaces, 0);
+}
+
+// Deliberate: whatever the other run has is taken, and counts as bound.
+TEST(TagRunsCopy, in_the_modify_flow_takes_what_is_missing_in_the_file_as_it_is) {
+    TagRunsWorld world(algorithm::AGA3, source::SGERG88);
+    world.Session.EditMode = forms::EditMode::ModifyTags;
+    world.Files.Content[world.ConfigFile("North")] = "[FlowRuns]\r\nRun3=Yes\r\n";
+    world.TheStory.Click("TagRuns", "Option1_2").Click("TagRuns", "CopyGasCompButton");
+    world.SeeBound(0, "  ");
+    world.TheStory.Click("TagRuns", "Command5");
+    world.Show(GasInputs);
+    EXPECT_FALSE(world.Station.Runs.Gas[0][GasSlot::VolCalorificValue].IsMade());
 }
 
 TEST(TagRunsCopy, can_be_undone_in_the_wizard) {
