@@ -207,7 +207,7 @@ const VariableRow Rows[] = {
     {GasInputs, Float, GC_C3,   "GC_C3KDIO",   Alike("Propane"),           NoUnit, Composition, 35},
     {GasInputs, Float, GC_H2O,  "GC_H2OKDIO",  Alike("Water"),             NoUnit, Composition, 36},
     {GasInputs, Float, GC_H2S,  "GC_H2SKDIO",  Alike("Hydrogen Sulfite"),  NoUnit, Composition, 37},
-    {GasInputs, Float, GC_H,    "GC_HKDIO",    Alike("Hydrogen"),         NoUnit, Composition, 38,"GC_HKDIOA"},
+    {GasInputs, Float, GC_H,    "GC_HKDIO",   Alike("Hydrogen"),         NoUnit, Composition, 38,"GC_HKDIOA"},
     {GasInputs, Float, GC_CO,   "GC_COKDIO",   Alike("Carbon Monoxide"),   NoUnit, Composition, 39},
     {GasInputs, Float, GC_O2,   "GC_O2KDIO",   Alike("Oxygen"),            NoUnit, Composition, 40},
     {GasInputs, Float, GC_iC4,  "GC_iC4KDIO",  Alike("i-Butane"),          NoUnit, Composition, 41},
