@@ -40,6 +40,7 @@ public:
     ui::Tree TreeGFC{*this, "TreeGFC"};
     // The frame around the right-hand panes.
     ui::Frame TabStrip1{*this, "TabStrip1"};
+    // The line of a summary that has no list.
     ui::Label Label1{TabStrip1, "Label1"};
     ui::TabbedPane SSTab1{TabStrip1, "SSTab1", {"Common Parameters", "Working Modules", "Gas Density"}};
     ui::TabbedPane SSTab2{TabStrip1,
@@ -118,7 +119,7 @@ private:
     void ShowCommon(const std::string& station);
     void ShowRun(const std::string& station, int run);
 
-    SummaryTabs summary_{*this, session_};
+    SummaryTabs summary_{*this, program_};
     bool listShowsStations_ = false;
     int exitCode_ = 0;
 };

@@ -45,6 +45,7 @@ void GFCPrincipal::HidePanes() {
     ListView3.SetVisible(false);
     SSTab1.SetVisible(false);
     SSTab2.SetVisible(false);
+    Label1.SetVisible(false);
 }
 
 void GFCPrincipal::ClearLists() {
@@ -196,7 +197,6 @@ void GFCPrincipal::LoadRun(int run) {
 void GFCPrincipal::ShowRun(const std::string& station, int run) {
     LoadRun(run);
     PlacePane(SSTab2, SSTab1);
-    summary_.Run = run;
     SSTab2.SetTab(0);
     summary_.FillRun();
     StatusBar1.SetPanelText(1, std::string(node::IndividualParameters) + " (" + station +

@@ -1,47 +1,87 @@
 #include "forms/SummaryTabs.h"
 
+#include "binding/SummaryRun.h"
 #include "config/Vocabulary.h"
 #include "forms/GFCPrincipal.h"
+#include "platform/Machine.h"
+#include "services/modLocalTimeAndGMT.h"
 
 namespace gfc::forms {
 
 namespace {
 
-// How the headings call the algorithm; one that is none of the four counts as AGA-7, as everywhere.
-std::string FlowName(std::string_view algorithm) {
-    if (algorithm == config::algorithm::AGA3 || algorithm == config::algorithm::Accelabar)
-        return "AGA-3";
-    return algorithm == config::algorithm::SYT6143 ? "SY/T6143" : "AGA-7";
-}
+using binding::SummaryList;
+using binding::SummaryPage;
 
-std::string GasInputs(bool isGross, bool isFixed) {
-    if (!isFixed)
-        return " Input Tags";
-    return isGross ? " Gas Properties" : " Gas Composition";
+constexpr int numberColumnWidth = 5;
+
+SummaryPage RunPage(const config::StationConfig& station, int tab) {
+    using PageOf = SummaryPage (*)(const config::StationConfig&);
+    static constexpr PageOf pages[] = {binding::RunInputsPage, binding::RunOutputsPage,
+                                       binding::GasInputsPage, binding::GasOutputsPage,
+                                       binding::RunParametersPage};
+    return pages[tab](station);
 }
 
 } // namespace
 
-void SummaryTabs::SetRunCaptions() {
-    const auto& station = session_.Station;
-    const std::string flow = FlowName(station.FlowAlgorithm);
-    const bool isGross = config::FamilyOf(station.GasDensitySource) == config::GasFamily::Gross;
-    const bool isFixed = station.AGA8CalInput == config::CompositionFixed;
-    const std::string gas = isGross ? "SGERG88/ISO-12213-3" : "AGA8/ISO-12213-2";
-    auto& pane = window_.SSTab2;
-    pane.SetTabCaption(0, flow + " Input Tags");
-    pane.SetTabCaption(1, flow + " Output Tags");
-    pane.SetTabCaption(2, gas + GasInputs(isGross, isFixed));
-    pane.SetTabCaption(3, gas + " Output Tags");
-}
-
 void SummaryTabs::FillCommon() {
-    window_.ClearLists();
+    const auto& station = program_.Session.Station;
+    switch (window_.SSTab1.Tab()) {
+    case 0:
+        return Show(binding::CommonParametersPage(station, ReadEnabledRuns()));
+    case 1:
+        return Show(binding::WorkingModulesPage(station));
+    default:
+        return Show(binding::GasDensityPage(station));
+    }
 }
 
 void SummaryTabs::FillRun() {
+    const auto& station = program_.Session.Station;
+    const auto captions = binding::RunTabCaptions(station);
+    auto& pane = window_.SSTab2;
+    for (std::size_t tab = 0; tab < captions.size(); ++tab)
+        pane.SetTabCaption(static_cast<int>(tab), captions[tab]);
+    Show(RunPage(station, pane.Tab()));
+}
+
+std::vector<binding::EnabledRun> SummaryTabs::ReadEnabledRuns() const {
+    const std::string file = program_.Session.ConfigFile();
+    const config::FileBatch batch(program_.Ini, file);
+    std::vector<binding::EnabledRun> runs;
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        // As in the tree, a run is enabled by exactly this word.
+        if (program_.Session.Station.Run.at(static_cast<std::size_t>(run - 1)) == config::Yes)
+            runs.push_back(ReadRun(run, file));
+    return runs;
+}
+
+binding::EnabledRun SummaryTabs::ReadRun(int run, const std::string& file) const {
+    const std::string section = "Run" + std::to_string(run);
+    const auto read = [&](const char* key) { return program_.Ini.ReadKey(section, key, file); };
+    const services::ContractTime stored{read("ContractHour"), read("ContractMin")};
+    binding::EnabledRun summary{
+        run, read("CalibrationFactor"), {}, read("meterKFactor"), read("GasDensityStandard")};
+    // A run without any contract time shows none, instead of midnight.
+    if (!stored.ContractHour.empty() || !stored.ContractMin.empty())
+        summary.ContractTime =
+            services::ContractTimeText(program_.Machine.Clock, program_.Machine.TimeZone, stored);
+    return summary;
+}
+
+void SummaryTabs::Show(SummaryPage page) {
     window_.ClearLists();
-    SetRunCaptions();
+    window_.Label1.SetCaption(page.Line);
+    window_.Label1.SetVisible(!page.Line.empty());
+    ui::ListView* const lists[] = {nullptr, &window_.ListView1, &window_.ListView2, &window_.ListView3};
+    ui::ListView* const list = lists[static_cast<std::size_t>(page.List)];
+    if (list == nullptr)
+        return;
+    for (std::size_t i = 0; i < page.Columns.size(); ++i)
+        list->AddColumn(page.Columns[i], i == 0 ? numberColumnWidth : 0);
+    list->AddRows(std::move(page.Rows));
+    list->SetVisible(true);
 }
 
 } // namespace gfc::forms

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "forms/Session.h"
+#include "binding/SummaryCommon.h"
+#include "forms/Program.h"
 
 namespace gfc::forms {
 
@@ -9,21 +10,22 @@ class GFCPrincipal;
 // What the summary panes show, read-only, in the three lists of the main window.
 class SummaryTabs {
 public:
-    explicit SummaryTabs(GFCPrincipal& window, Session& session) : window_(window), session_(session) {}
+    SummaryTabs(GFCPrincipal& window, Program& program) : window_(window), program_(program) {}
 
-    // Fills the page that SSTab1 is on from the station's common parameters.
+    // Fills the page that SSTab1 is on from the station's common parameters, and from the sections of the
+    // enabled runs in its file.
     void FillCommon();
-    // Fills the page that SSTab2 is on; the run's record is the single one of Session.Station.Runs.
+    // Fills the page that SSTab2 is on; the run's record is the single one of Session.Station.Runs. The
+    // headings follow the algorithm and the density source.
     void FillRun();
-    // The headings of SSTab2 follow the algorithm and the density source.
-    void SetRunCaptions();
-
-    // The run that SSTab2 shows, 1 to 5; 0 before the first.
-    int Run = 0;
 
 private:
+    [[nodiscard]] std::vector<binding::EnabledRun> ReadEnabledRuns() const;
+    [[nodiscard]] binding::EnabledRun ReadRun(int run, const std::string& file) const;
+    void Show(binding::SummaryPage page);
+
     GFCPrincipal& window_;
-    Session& session_;
+    Program& program_;
 };
 
 } // namespace gfc::forms
