@@ -180,7 +180,10 @@ void GFCPrincipal::PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden) {
 }
 
 void GFCPrincipal::ShowCommon(const std::string& station) {
-    config::LoadStationConfig(program_.Ini, session_.Station, session_.ConfigFile());
+    const std::string file = session_.ConfigFile();
+    // The first page reads a few keys of each enabled run besides.
+    const config::FileBatch batch(program_.Ini, file);
+    config::LoadStationConfig(program_.Ini, session_.Station, file);
     PlacePane(SSTab1, SSTab2);
     SSTab1.SetTab(0);
     summary_.FillCommon();
