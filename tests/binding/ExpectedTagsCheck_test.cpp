@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <random>
 
 using namespace gfc;
 using namespace gfc::binding;
@@ -169,6 +170,37 @@ TEST(CheckExpectedTags, lets_two_entries_have_one_tag) {
 TEST(CheckExpectedTags, passes_with_nothing_expected) {
     ExpectedTags expected;
     EXPECT_TRUE(CheckExpectedTags(expected, {}));
+}
+
+// The index is no more than a quicker way through the lists.
+TEST(CheckExpectedTags, finds_what_a_comparison_of_each_with_each_finds) {
+    std::mt19937 dice(20230315);
+    const auto pick = [&dice](auto choices) { return std::string(choices[dice() % std::size(choices)]); };
+    using Choices = std::vector<const char*>;
+    const Choices addresses = {"0", "1", "-1", "12", "012", ""};
+    const Choices names = {"TT-1", "tt-1", "TT-2", ""};
+    const Choices types = {"FX", "FY", "fx"};
+    Inventory station;
+    for (int i = 0; i < 25; ++i)
+        (i % 2 == 0 ? station.VirtFX : station.VirtFY)
+            .push_back({pick(names), static_cast<int>(dice() % 14) - 1, pick(types), "VF1", "Virtual FI"});
+    ExpectedTags expected;
+    for (int i = 0; i < 500; ++i)
+        expected.ExpectedFloat.push_back(Entry(pick(addresses), pick(names), pick(types)));
+    (void)CheckExpectedTags(expected, station);
+
+    int found = 0;
+    for (const auto& entry : expected.ExpectedFloat) {
+        const auto matches = [&entry](const project::Tag& tag) {
+            return entry.RegAddr == std::to_string(tag.RegAddr) && entry.Type == tag.RegType &&
+                   entry.Tag == tag.TagName;
+        };
+        const bool there =
+            std::ranges::any_of(station.VirtFX, matches) || std::ranges::any_of(station.VirtFY, matches);
+        EXPECT_EQ(entry.Found, there) << entry.RegAddr << entry.Tag << entry.Type;
+        found += there ? 1 : 0;
+    }
+    EXPECT_GT(found, 0);
 }
 
 TEST(CheckExpectedTags, finds_its_way_through_a_hundred_thousand_tags) {

@@ -53,6 +53,24 @@ TEST(ConfigFilePath, never_leads_out_of_the_folder) {
     EXPECT_EQ(ConfigFilePath(paths, "plant", "Nörd 1.2"), paths.ConfigFilePrefix + "plant_Nörd 1.2.ini");
 }
 
+TEST_F(FileIniTest, closes_lines_for_people_with_an_empty_one) {
+    Bytes = "[A]\r\nK=1\r\n[B]\r\nL=2\r\n";
+    const std::vector<std::string> lines = {"Error N\xC2\xBA 1 = [a]", "no entry at all"};
+    EXPECT_TRUE(Ini.WriteLines("A", lines, File));
+    EXPECT_EQ(Bytes, "[A]\r\nError N\xBA 1 = [a]\r\nno entry at all\r\n\r\n[B]\r\nL=2\r\n");
+    const std::string once = Bytes;
+    EXPECT_TRUE(Ini.WriteLines("a", lines, File));
+    EXPECT_EQ(Bytes, once) << "it does not grow";
+    EXPECT_TRUE(Ini.WriteLines("A", {}, File));
+    EXPECT_EQ(Bytes, "[A]\r\n[B]\r\nL=2\r\n");
+}
+
+TEST_F(FileIniTest, ends_a_line_for_people_where_it_would_break_the_file) {
+    EXPECT_TRUE(Ini.WriteLines("A", {"one\r\n[B]", std::string("two\0three", 9)}, File));
+    EXPECT_EQ(Bytes, "[A]\r\none\r\ntwo\r\n\r\n");
+    EXPECT_FALSE(Ini.WriteLines("A", {"one"}, ""));
+}
+
 TEST_F(FileIniTest, finds_no_configuration_for_a_name_that_no_file_bears) {
     const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
     Files.Content["/jobs/KDOrmAGA_plant_../North.ini"] = "";
