@@ -27,8 +27,10 @@ const std::array<ClassRow, 4>& Classes() {
     // clang-format off
     static const std::array<ClassRow, 4> classes = {{
         {&ExpectedTags::ExpectedFloat,   {&Inventory::VirtFX, &Inventory::VirtFY}},
-        {&ExpectedTags::ExpectedAnalog,  {&Inventory::PhysAX, &Inventory::PhysAY, &Inventory::VirtAX, &Inventory::VirtAY}},
-        {&ExpectedTags::ExpectedDigital, {&Inventory::PhysX,  &Inventory::PhysY,  &Inventory::VirtX,  &Inventory::VirtY}},
+        {&ExpectedTags::ExpectedAnalog,  {&Inventory::PhysAX, &Inventory::PhysAY,
+                                          &Inventory::VirtAX, &Inventory::VirtAY}},
+        {&ExpectedTags::ExpectedDigital, {&Inventory::PhysX,  &Inventory::PhysY,
+                                          &Inventory::VirtX,  &Inventory::VirtY}},
         {&ExpectedTags::ExpectedLong,    {&Inventory::VirtLX, &Inventory::VirtLY}},
     }};
     // clang-format on
