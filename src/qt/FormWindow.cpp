@@ -225,15 +225,19 @@ void FormWindow::FitToScreen() {
     // What is hidden already still counts in the hints of nested layouts.
     if (content_->layout() != nullptr)
         content_->layout()->activate();
-    const QSize wanted = (designed_.isValid() ? designed_ : content_->sizeHint())
-                             .expandedTo(content_->minimumSizeHint());
+    QSize wanted =
+        (designed_.isValid() ? designed_ : content_->sizeHint()).expandedTo(content_->minimumSizeHint());
+    // Words that wrap say only for a width how high they stand.
+    wanted.setHeight(std::max(wanted.height(), content_->heightForWidth(wanted.width())));
     resize((wanted + bar).boundedTo(room));
 }
 
 // What has come to view must not end in scroll bars while there is room on the screen.
 void FormWindow::GrowToContent() {
     const QSize room = screen()->availableGeometry().size() - QSize(20, 50);
-    const QSize lacking = content_->minimumSizeHint() - area_->viewport()->size();
+    const QSize seen = area_->viewport()->size();
+    const int height = std::max(content_->minimumSizeHint().height(), content_->heightForWidth(seen.width()));
+    const QSize lacking = QSize(content_->minimumSizeHint().width(), height) - seen;
     const QSize wanted = size() + lacking.expandedTo(QSize(0, 0));
     if (sized_ && wanted != size())
         resize(wanted.boundedTo(room.expandedTo(size())));

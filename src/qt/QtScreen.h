@@ -47,6 +47,7 @@ public:
 
     // Null if that form has no window.
     [[nodiscard]] FormWindow* WindowOf(const ui::Form& form) const;
+    [[nodiscard]] bool AnyShown() const { return !shown_.empty(); }
 
 private:
     struct ModalLoop {

@@ -63,7 +63,11 @@ int QtScreen::Execute(QDialog& dialog) {
         dialog.adjustSize();
         dialog.move(owner->geometry().center() - dialog.rect().center());
     }
-    return dialog.exec();
+    const int result = dialog.exec();
+    // Not every window manager gives the focus back to where it was.
+    if (QWidget* top = TopWindow(); top != nullptr && !ended_)
+        top->activateWindow();
+    return result;
 }
 
 ui::Answer QtScreen::Ask(const ui::Box& box) {

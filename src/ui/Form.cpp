@@ -38,6 +38,7 @@ void Form::Show() {
     if (unloaded_ || shown_)
         return;
     shown_ = true;
+    FocusFirst();
     screen_.Appear(*this);
 }
 
@@ -47,6 +48,7 @@ void Form::ShowModal() {
     if (unloaded_)
         return;
     shown_ = true;
+    FocusFirst();
     screen_.RunModal(*this);
 }
 
@@ -103,6 +105,17 @@ void Form::SetFocus(Control& control) {
     focused_ = &control;
     if (observer_ != nullptr)
         observer_->FocusMoved(control);
+}
+
+// A window that appears has the focus on the first control that can take it, if nothing else was said.
+void Form::FocusFirst() {
+    if (focused_ != nullptr)
+        return;
+    const auto first = std::find_if(controls_.begin(), controls_.end(), [](const Control* control) {
+        return control->TakesFocus() && control->Usable();
+    });
+    if (first != controls_.end())
+        SetFocus(**first);
 }
 
 bool Form::MoveFocus(Control& control) {

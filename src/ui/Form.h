@@ -99,6 +99,7 @@ private:
     void Add(Control& control);
     void ControlChanged(Control& control);
     void FormChanged();
+    void FocusFirst();
 
     Screen& screen_;
     std::string name_;

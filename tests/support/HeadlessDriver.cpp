@@ -186,6 +186,13 @@ void HeadlessDriver::Menu(const std::string& form, const std::string& entry) {
     found->PersonClicks();
 }
 
+// Enter presses the button that has the focus, before the one that it presses elsewhere.
+void HeadlessDriver::PressEnter(ui::Form& window) {
+    auto* focused = dynamic_cast<ui::CommandButton*>(window.FocusedControl());
+    if (ui::CommandButton* button = focused == nullptr ? window.DefaultButton() : focused)
+        button->PersonClicks();
+}
+
 void HeadlessDriver::PressKey(const std::string& form, const std::string& key) {
     ui::Form* window = FormOf(form);
     if (window == nullptr)
@@ -195,8 +202,8 @@ void HeadlessDriver::PressKey(const std::string& form, const std::string& key) {
         (void)window->PersonPresses(ui::Key::F1);
     else if (key == "Escape" && !window->PersonPresses(ui::Key::Escape) && window->CancelButton() != nullptr)
         window->CancelButton()->PersonClicks();
-    else if (key == "Enter" && !window->PersonPresses(ui::Key::Enter) && window->DefaultButton() != nullptr)
-        window->DefaultButton()->PersonClicks();
+    else if (key == "Enter" && !window->PersonPresses(ui::Key::Enter))
+        PressEnter(*window);
 }
 
 void HeadlessDriver::CloseWindow(const std::string& form) {

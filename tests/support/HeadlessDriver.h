@@ -44,6 +44,7 @@ private:
     template <class C>
     C* Of(const std::string& form, const std::string& control);
     void OpenMenusAbove(ui::Control& entry);
+    static void PressEnter(ui::Form& window);
 
     HeadlessScreen& screen_;
 };

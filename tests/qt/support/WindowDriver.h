@@ -1,0 +1,61 @@
+#pragma once
+
+#include "support/Driver.h"
+
+#include <QString>
+
+class QAction;
+class QLineEdit;
+class QMenu;
+class QWidget;
+
+namespace gfc::test {
+
+// A person before the real windows: finds them by name and moves mouse and keys. It knows nothing of the
+// forms behind them.
+class WindowDriver : public Driver {
+public:
+    void Click(const std::string& form, const std::string& control) override;
+    void Keys(const std::string& form, const std::string& control, const std::string& keys) override;
+    void Type(const std::string& form, const std::string& control, const std::string& text) override;
+    void Focus(const std::string& form, const std::string& control) override;
+    void Select(const std::string& form, const std::string& list, int index) override;
+    void SelectTab(const std::string& form, const std::string& pane, int tab) override;
+    void ClickRow(const std::string& form, const std::string& list, int row) override;
+    void ClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
+    void RightClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
+    void Menu(const std::string& form, const std::string& entry) override;
+    void PressKey(const std::string& form, const std::string& key) override;
+    void CloseWindow(const std::string& form) override;
+    void Tick(const std::string& form, const std::string& timer) override;
+
+    bool IsShown(const std::string& form) override;
+    std::string Caption(const std::string& form) override;
+    bool Visible(const std::string& form, const std::string& control) override;
+    bool Enabled(const std::string& form, const std::string& control) override;
+    std::string Text(const std::string& form, const std::string& control) override;
+    bool Checked(const std::string& form, const std::string& control) override;
+    int Rows(const std::string& form, const std::string& list) override;
+    std::string Cell(const std::string& form, const std::string& list, int row, int column) override;
+    std::string NodeImage(const std::string& form, const std::string& tree, const std::string& path) override;
+    int Tab(const std::string& form, const std::string& pane) override;
+    std::string Focused(const std::string& form) override;
+
+private:
+    // The widget if a person can use it now: shown, enabled, in a window that no other one blocks. Else null,
+    // with a failure reported.
+    template <class W>
+    W* Usable(const std::string& form, const std::string& control);
+    void PressNode(const std::string& form, const std::string& tree, const std::string& path,
+                   Qt::MouseButton button);
+    bool Enter(QLineEdit& field);
+    void PressMenu(QMenu& menu, QAction& entry);
+};
+
+// The visible window of that name; null if there is none.
+[[nodiscard]] QWidget* FindWindow(const std::string& form);
+
+// Lets what the last act has left to be done be done.
+void Settle();
+
+} // namespace gfc::test
