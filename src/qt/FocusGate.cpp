@@ -83,7 +83,7 @@ void FocusGate::Move() {
     const auto held = std::exchange(held_, {});
     if (form_ == nullptr || target == nullptr || !StillThere(*target))
         return;
-    const auto alive = form_->KeepAlive();
+    const FormWindow::InEvent going(window_);
     if (!form_->MoveFocus(*target))
         return;
     for (const HeldEvent& event : held)

@@ -20,7 +20,7 @@ class FormWindow;
 // after the event; what the mouse does meanwhile is held, and goes on only if the focus could move.
 class FocusGate : public QObject {
 public:
-    FocusGate(const FormWindow& window, ui::Form& form) : window_(window), form_(&form) {}
+    FocusGate(FormWindow& window, ui::Form& form) : window_(window), form_(&form) {}
 
     // focusWidget is the one that the focus rests on, mouseWidget the one that is pressed.
     void Watch(QWidget* focusWidget, QWidget* mouseWidget, ui::Control& control);
@@ -43,7 +43,7 @@ private:
     void Move();
     [[nodiscard]] bool StillThere(ui::Control& target) const;
 
-    const FormWindow& window_;
+    FormWindow& window_;
     ui::Form* form_;
     std::unordered_map<const QObject*, ui::Control*> watched_;
     ui::Control* target_ = nullptr;

@@ -115,6 +115,24 @@ void FormWindow::Release() {
     form_ = nullptr;
 }
 
+void FormWindow::Dismiss() {
+    Release();
+    hide();
+    dismissed_ = true;
+    if (events_ == 0)
+        deleteLater();
+}
+
+FormWindow::InEvent::InEvent(FormWindow& window)
+    : window_(window), form_(window.form_ == nullptr ? nullptr : window.form_->KeepAlive()) {
+    ++window_.events_;
+}
+
+FormWindow::InEvent::~InEvent() {
+    if (--window_.events_ == 0 && window_.dismissed_)
+        window_.deleteLater();
+}
+
 Renderer* FormWindow::RendererOf(const ui::Control* control) const {
     const auto found = renderers_.find(control);
     return found == renderers_.end() ? nullptr : found->second.get();
@@ -136,7 +154,7 @@ QMenuBar& FormWindow::MenuBar() {
 void FormWindow::Act(Renderer& renderer, const std::function<void()>& act) {
     if (form_ == nullptr || IsWriting())
         return;
-    const auto alive = form_->KeepAlive();
+    const InEvent going(*this);
     act();
     if (form_ == nullptr)
         return;
@@ -269,7 +287,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (form_ == nullptr)
         return;
-    const auto alive = form_->KeepAlive();
+    const InEvent going(*this);
     (void)form_->PersonCloses();
 }
 
@@ -290,7 +308,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 bool FormWindow::PressKey(ui::Key key) {
     if (form_ == nullptr)
         return false;
-    const auto alive = form_->KeepAlive();
+    const InEvent going(*this);
     if (form_->PersonPresses(key) || form_ == nullptr)
         return true;
     if (key == ui::Key::Escape)

@@ -26,6 +26,9 @@ public:
     // Null once released.
     [[nodiscard]] ui::Form* Form() const { return form_; }
     void Release();
+    // Releases it and takes it away, as soon as nothing that a person did in it is still going on: it may well
+    // be dismissed from a window that one of its own events has opened.
+    void Dismiss();
 
     // Shows it as a dialog that blocks the others, or as a window among them; over its owner, if it has one.
     void ShowAs(Qt::WindowModality modality, QWidget* owner);
@@ -56,6 +59,19 @@ public:
     };
     [[nodiscard]] bool IsWriting() const { return writing_ > 0; }
 
+    // While one lives, an event of this window is going on: neither the window nor its form goes.
+    class InEvent {
+    public:
+        explicit InEvent(FormWindow& window);
+        ~InEvent();
+        InEvent(const InEvent&) = delete;
+        InEvent& operator=(const InEvent&) = delete;
+
+    private:
+        FormWindow& window_;
+        std::shared_ptr<ui::Form> form_;
+    };
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -85,6 +101,8 @@ private:
     std::unique_ptr<FocusGate> gate_;
     QPointer<QWidget> focusBeforeDisabling_;
     int writing_ = 0;
+    int events_ = 0;
+    bool dismissed_ = false;
     QSize designed_; // the size that the design gives; not valid if it gives none
     bool sized_ = false;
 };

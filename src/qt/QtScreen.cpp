@@ -104,9 +104,7 @@ void QtScreen::Discard(ui::Form& form) {
         return;
     FormWindow* window = found->second;
     windows_.erase(found);
-    window->Release();
-    // Not before the event has ended in which it may stand.
-    window->deleteLater();
+    window->Dismiss();
 }
 
 bool QtScreen::IsModal(const ui::Form& form) const {

@@ -27,10 +27,10 @@ public:
 private:
     // A click has moved the mark in the widgets already: all that stand together are put right.
     void Click() {
-        FormWindow& window = window_;
+        const FormWindow::InEvent going(window_);
         Act([this] { (void)control_.PersonClicks(); });
-        if (window.Form() != nullptr)
-            window.RefreshAll();
+        if (window_.Form() != nullptr)
+            window_.RefreshAll();
     }
 
     void RefreshContent() override {

@@ -26,6 +26,7 @@ private:
     // A key may end the form's life, or move the focus: the character is for the field only if it still has
     // it.
     bool Press(char32_t key) {
+        const FormWindow::InEvent going(window_);
         bool taken = false;
         Act([this, key, &taken] { taken = control_.PersonPresses(key); });
         return taken && window_.Form() != nullptr;

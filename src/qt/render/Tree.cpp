@@ -77,6 +77,7 @@ private:
 
     // The second button takes the node under the pointer and may open its menu; the view need not know.
     bool PressMouse(const QMouseEvent& event) {
+        const FormWindow::InEvent going(window_);
         if (event.button() == Qt::RightButton) {
             const int node = TreeModel::NodeOf(widget_.indexAt(event.position().toPoint()));
             if (node > 0)
