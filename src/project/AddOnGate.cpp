@@ -205,7 +205,8 @@ std::unique_ptr<AddOnLibrary> LoadAddOnLibrary(const LibraryLoader& load, const 
     if (loaded.Library == nullptr)
         return nullptr;
     for (const auto& function : AddOnFunctions)
-        if (loaded.Library->Symbol(std::string(function.Name).c_str()) == nullptr) {
+        // What is never called may be missing: it would keep nobody from working.
+        if (function.Called && loaded.Library->Symbol(std::string(function.Name).c_str()) == nullptr) {
             error = path + ": the function " + std::string(function.Name) + " is missing";
             return nullptr;
         }

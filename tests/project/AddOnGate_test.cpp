@@ -193,8 +193,20 @@ TEST_F(AddOnGate, hands_on_the_reason_of_a_library_that_does_not_load) {
     EXPECT_EQ(Error, std::string("/opt") + platform::Separator + AddOnFileName() + ": no such file");
 }
 
-TEST_F(AddOnGate, requires_every_function_called_or_not) {
+TEST_F(AddOnGate, requires_no_function_that_is_never_called) {
     for (const auto& function : AddOnFunctions) {
+        if (function.Called)
+            continue;
+        Load(std::string(function.Name));
+        EXPECT_NE(Library, nullptr) << function.Name;
+        EXPECT_EQ(Error, "");
+    }
+}
+
+TEST_F(AddOnGate, requires_every_function_that_is_called) {
+    for (const auto& function : AddOnFunctions) {
+        if (!function.Called)
+            continue;
         Load(std::string(function.Name));
         EXPECT_EQ(Library, nullptr) << function.Name;
         EXPECT_NE(Error.find(AddOnFileName()), std::string::npos) << Error;
