@@ -15,6 +15,13 @@ struct Program;
 class FormStore {
 public:
     explicit FormStore(Program& program) : program_(program) {}
+    FormStore(const FormStore&) = delete;
+    FormStore& operator=(const FormStore&) = delete;
+    // The screen outlives the forms: their windows go first.
+    ~FormStore() {
+        for (const auto& [type, form] : forms_)
+            form->Abandon();
+    }
 
     // Made if need be, not loaded: for what a caller sets before showing it.
     template <class F>

@@ -72,6 +72,14 @@ void Form::Unload() {
         onGone_();
 }
 
+void Form::Abandon() {
+    if (unloaded_)
+        return;
+    unloaded_ = true;
+    shown_ = false;
+    screen_.Discard(*this);
+}
+
 void Form::RemoveCloseCommand() {
     hasCloseCommand_ = false;
     FormChanged();

@@ -52,6 +52,9 @@ public:
     // Runs Unloading, takes the window away and tells OnGone; a second call does nothing.
     void Unload();
 
+    // Takes the window away without any event: what the form stands in is going.
+    void Abandon();
+
     // A form without a close command is left by its own buttons only.
     void RemoveCloseCommand();
     [[nodiscard]] bool HasCloseCommand() const { return hasCloseCommand_; }

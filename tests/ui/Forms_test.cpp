@@ -106,3 +106,11 @@ TEST_F(Forms, form_with_a_close_command_is_unloaded_by_it) {
     EXPECT_TRUE(form_->PersonCloses());
     EXPECT_EQ(form_->Unloads, 1);
 }
+
+TEST_F(Forms, abandoned_form_loses_its_window_without_an_event) {
+    form_->Show();
+    form_->Abandon();
+    form_->Unload();
+    EXPECT_EQ(form_->Unloads, 0);
+    EXPECT_EQ(screen_.FormNamed("Counting"), nullptr);
+}

@@ -126,9 +126,14 @@ void StoryScreen::TakeAct(const Story::Act&) {
     SCOPED_TRACE("step " + std::to_string(position) + ": " + Describe(step));
     idleTicks_ = 0;
     sinceProgress_.start();
+    if (BeforeStep)
+        BeforeStep();
     steps_.push_back(QThread::currentThread()->loopLevel());
     std::get<Story::Act>(step).Do(driver_);
     steps_.pop_back();
+    // What follows the first failure tells nothing.
+    if (::testing::Test::HasFailure())
+        EndProgram(-1);
 }
 
 void StoryScreen::Meet(QDialog& dialog) {
@@ -137,6 +142,8 @@ void StoryScreen::Meet(QDialog& dialog) {
     SCOPED_TRACE("step " + std::to_string(TheStory.Position()));
     idleTicks_ = 0;
     sinceProgress_.start();
+    if (BeforeStep)
+        BeforeStep();
     if (step && !std::holds_alternative<Story::Act>(*step))
         (void)TheStory.Take();
     if (step && (Answers<QMessageBox, ExpectedBox>(dialog, *step) ||

@@ -38,6 +38,8 @@ public:
     int ExitCode = 0;
     // Called at each idle moment, for what changes outside the program meanwhile.
     std::function<void()> OnWait;
+    // Called with the windows as they stand before each step.
+    std::function<void()> BeforeStep;
 
     void Appear(ui::Form& form) override;
     void RunModal(ui::Form& form) override;

@@ -1,0 +1,120 @@
+// The tour: the real program on Qt's offscreen platform, driven by real clicks and keys from splash to exit.
+// It takes two stations of the sample project through the wizard and leaves a picture of every window.
+
+#include "app/Application.h"
+#include "platform/DynamicLibrary.h"
+#include "qt/support/Offscreen.h"
+#include "scenarios/Moves.h"
+#include "tour/TourScreen.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStyleFactory>
+#include <QTextStream>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+
+using namespace gfc;
+namespace moves = test::moves;
+
+const QString single = QStringLiteral("Eastfield_Meter");
+const QString large = QStringLiteral("Northgate_Custody");
+
+void Print(const QString& line) {
+    QTextStream(stdout) << line << Qt::endl;
+}
+
+// The stand-in's command beside this program; what it prints is shown.
+bool Workshop(const QStringList& arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("io-workshop")),
+                  arguments);
+    return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
+}
+
+// A fresh sample project in the folder, open in a workshop state of the tour's own.
+bool PrepareProject(const QDir& folder) {
+    QDir(folder.filePath(QStringLiteral("project"))).removeRecursively();
+    qputenv("XDG_STATE_HOME", QFile::encodeName(folder.filePath(QStringLiteral("state"))));
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.filePath(QStringLiteral("state"))));
+    const QString project = folder.filePath(QStringLiteral("project"));
+    return folder.mkpath(QStringLiteral("state")) && Workshop({QStringLiteral("demo"), project}) &&
+           Workshop({QStringLiteral("open"), project + QStringLiteral("/plant.KPJ")});
+}
+
+void RemoveOldPictures(const QDir& folder) {
+    const auto old = folder.entryList({QStringLiteral("*.png")}, QDir::Files);
+    for (const QString& picture : old)
+        QFile::remove(folder.filePath(picture));
+}
+
+void ConfigureStation(test::Story& story, const QString& station, const moves::Choices& choices,
+                      const std::vector<int>& runs) {
+    moves::OpenWizard(story, station.toStdString());
+    moves::SelectRuns(story, runs);
+    moves::WalkPages(story, choices);
+    moves::PassAllRuns(story, choices, runs);
+    moves::SaveAndClose(story);
+    story.Check([node = "All Stations\\" + station.toStdString()](test::Driver& d) {
+        EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", node), "StationConfig");
+    });
+}
+
+void Tell(test::Story& story) {
+    moves::StartUp(story);
+    ConfigureStation(story, single, {}, {1});
+    ConfigureStation(story, large, {.Standard = 1, .Source = 1}, {1, 2});
+    moves::Exit(story);
+}
+
+bool PrintResults(const QDir& folder) {
+    Print(QString());
+    for (const QString& station : {single, large}) {
+        const QString file = folder.filePath(QStringLiteral("project/KDOrmAGA_plant_%1.ini").arg(station));
+        if (!QFile::exists(file))
+            return false;
+        Print(file);
+    }
+    Print(QString());
+    return Workshop({QStringLiteral("files")});
+}
+
+int Play(const QDir& folder) {
+    platform::RealMachine machine;
+    tour::TourScreen screen(folder.absolutePath());
+    app::Application program(machine.Seams(), screen);
+    Tell(screen.TheStory);
+    if (!program.Start(platform::LoadLibraryAt))
+        return EXIT_FAILURE;
+    screen.RunToEnd();
+    const bool whole = screen.TheStory.Done() && !::testing::Test::HasFailure();
+    Print(QStringLiteral("%1 pictures in %2").arg(screen.Pictures()).arg(folder.absolutePath()));
+    return PrintResults(folder) && whole ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    ::testing::InitGoogleTest(&argc, argv);
+    if (argc < 2 || argc > 3) {
+        QTextStream(stderr) << "usage: gfc-tour FOLDER [SCALE]" << Qt::endl;
+        return 2;
+    }
+    test::UseOffscreenPlatform(argc == 3 ? std::atoi(argv[2]) : 1);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication application(argc, argv);
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    const QDir folder(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
+    if (!folder.mkpath(QStringLiteral(".")) || !PrepareProject(folder))
+        return EXIT_FAILURE;
+    RemoveOldPictures(folder);
+    return Play(folder);
+}

@@ -1,0 +1,54 @@
+#include "tour/TourScreen.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QTabWidget>
+
+namespace gfc::tour {
+
+namespace {
+
+QWidget* WindowInFront() {
+    if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr)
+        return modal;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        if (window->isVisible() && window->isWindow() && !window->objectName().isEmpty())
+            return window;
+    return nullptr;
+}
+
+QString NameOf(const QWidget& window) {
+    return qobject_cast<const QMessageBox*>(&window) != nullptr ? QStringLiteral("Box") : window.objectName();
+}
+
+} // namespace
+
+TourScreen::TourScreen(QString folder) : folder_(std::move(folder)) {
+    BeforeStep = [this] { Look(); };
+}
+
+QString TourScreen::SightOf(const QWidget& window) {
+    QString sight = NameOf(window) + window.windowTitle();
+    if (const auto* box = qobject_cast<const QMessageBox*>(&window))
+        sight += box->text();
+    const auto panes = window.findChildren<QTabWidget*>();
+    for (const QTabWidget* pane : panes)
+        if (pane->isVisible())
+            sight += QString::number(pane->currentIndex());
+    return sight;
+}
+
+void TourScreen::Look() {
+    QWidget* window = WindowInFront();
+    if (window == nullptr || !seen_.insert(SightOf(*window)).second)
+        return;
+    ++pictures_;
+    const QString name =
+        QStringLiteral("%1-%2.png").arg(pictures_, 2, 10, QLatin1Char('0')).arg(NameOf(*window));
+    (void)window->grab().save(QDir(folder_).filePath(name));
+}
+
+} // namespace gfc::tour
