@@ -138,8 +138,8 @@ void ResolveWorkingModuleRegisters(const TagInventory& inventory, const WorkingM
                                    config::WorkingModules& working) {
     for (const RegisterRow& row : RegisterRows) {
         const std::string& module = names.*row.Name;
-        // The second input list is searched in any case, and a match there counts more. A module of outputs is
-        // deliberately not looked for: what stood there stays.
+        // The second input list is searched in any case, and a match there counts more. A module of outputs
+        // is deliberately not looked for: what stood there stays.
         const Tag* tag = FirstOfModule(inventory.*row.PhysicalInput, module);
         if (const Tag* inVirtual = FirstOfModule(inventory.*row.VirtualInput, module))
             tag = inVirtual;

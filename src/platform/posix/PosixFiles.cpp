@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <utility>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace gfc::platform {
 namespace {

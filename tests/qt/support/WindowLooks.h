@@ -8,7 +8,6 @@
 class QAbstractItemView;
 class QAction;
 
-
 // What a person sees in a window, read from its widgets.
 namespace gfc::test {
 
