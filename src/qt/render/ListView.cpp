@@ -23,6 +23,8 @@ public:
     ListViewRenderer(FormWindow& window, ui::ListView& control, QTableView& widget)
         : WidgetRenderer(window, control, widget), model_(control) {
         SetUpView();
+        // The list may have been filled before its window came to be.
+        SetWidths();
         control.SetRowsObserver(this);
         widget.viewport()->installEventFilter(this);
         QObject::connect(&widget, &QTableView::clicked, this,
