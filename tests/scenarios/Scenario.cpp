@@ -4,8 +4,8 @@ namespace gfc::test {
 
 std::vector<Scenario> AllScenarios() {
     std::vector<Scenario> all;
-    for (auto* part :
-         {&StartUpScenarios, &WizardPageScenarios, &BindingScenarios, &EditorScenarios, &CancelScenarios}) {
+    for (auto* part : {&StartUpScenarios, &SummaryScenarios, &WizardPageScenarios, &BindingScenarios,
+                       &EditorScenarios, &CancelScenarios}) {
         auto scenarios = (*part)();
         all.insert(all.end(), scenarios.begin(), scenarios.end());
     }

@@ -24,6 +24,7 @@ struct Scenario {
 [[nodiscard]] std::vector<Scenario> BindingScenarios();
 [[nodiscard]] std::vector<Scenario> EditorScenarios();
 [[nodiscard]] std::vector<Scenario> CancelScenarios();
+[[nodiscard]] std::vector<Scenario> SummaryScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test
