@@ -1,6 +1,5 @@
 #include "qt/FormWindow.h"
 
-#include "qt/Designs.h"
 #include "qt/Icons.h"
 #include "qt/Renderer.h"
 #include "qt/Texts.h"
@@ -22,18 +21,18 @@ namespace gfc::qt {
 
 namespace {
 
-void SetUpDesign(const std::string& form, QWidget& content) {
+const Design* DesignOf(const std::string& form) {
     const auto designs = Designs();
     const auto found = std::find_if(designs.begin(), designs.end(),
                                     [&form](const Design& design) { return design.Form == form; });
-    if (found != designs.end())
-        found->SetUp(content);
+    return found == designs.end() ? nullptr : &*found;
 }
 
 } // namespace
 
-FormWindow::FormWindow(ui::Form& form) : form_(&form), gate_(std::make_unique<FocusGate>(*this, form)) {
-    SetUpContent();
+FormWindow::FormWindow(ui::Form& form, const Design* design)
+    : form_(&form), gate_(std::make_unique<FocusGate>(*this, form)) {
+    SetUpContent(design == nullptr ? DesignOf(form.Name()) : design);
     Bind();
     NameForReaders();
 }
@@ -42,14 +41,15 @@ FormWindow::~FormWindow() {
     Release();
 }
 
-void FormWindow::SetUpContent() {
+void FormWindow::SetUpContent(const Design* design) {
     area_ = new QScrollArea(this);
     area_->setObjectName("layoutArea");
     area_->setFrameShape(QFrame::NoFrame);
     area_->setWidgetResizable(true);
     area_->setFocusPolicy(Qt::NoFocus);
     content_ = new QWidget(area_);
-    SetUpDesign(form_->Name(), *content_);
+    if (design != nullptr)
+        design->SetUp(*content_);
     // Taken now: the area resizes what it is given.
     if (content_->testAttribute(Qt::WA_Resized))
         designed_ = content_->size();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/Designs.h"
 #include "qt/FocusGate.h"
 #include "ui/Form.h"
 
@@ -20,14 +21,15 @@ class Renderer;
 // window, which lives until the event that it is in has returned.
 class FormWindow : public QWidget, private ui::FormObserver {
 public:
-    explicit FormWindow(ui::Form& form);
+    // Without a design of its own it takes the one that bears the form's name.
+    explicit FormWindow(ui::Form& form, const Design* design = nullptr);
     ~FormWindow() override;
 
     // Null once released.
     [[nodiscard]] ui::Form* Form() const { return form_; }
     void Release();
-    // Releases it and takes it away, as soon as nothing that a person did in it is still going on: it may well
-    // be dismissed from a window that one of its own events has opened.
+    // Releases it and takes it away, as soon as nothing that a person did in it is still going on: it may
+    // well be dismissed from a window that one of its own events has opened.
     void Dismiss();
 
     // Shows it as a dialog that blocks the others, or as a window among them; over its owner, if it has one.
@@ -82,7 +84,7 @@ private:
     void FormChanged() override;
     void FocusMoved(ui::Control& control) override;
 
-    void SetUpContent();
+    void SetUpContent(const Design* design);
     void Bind();
     void BindControl(ui::Control& control);
     void NameForReaders();

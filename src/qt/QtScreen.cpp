@@ -37,8 +37,11 @@ FormWindow* QtScreen::WindowOf(const ui::Form& form) const {
 
 FormWindow& QtScreen::WindowFor(ui::Form& form) {
     FormWindow*& window = windows_[&form];
-    if (window == nullptr)
-        window = new FormWindow(form);
+    if (window != nullptr)
+        return *window;
+    const auto given = std::find_if(designs_.begin(), designs_.end(),
+                                    [&form](const Design& design) { return design.Form == form.Name(); });
+    window = new FormWindow(form, given == designs_.end() ? nullptr : &*given);
     return *window;
 }
 

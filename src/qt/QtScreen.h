@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/Designs.h"
 #include "ui/Screen.h"
 
 #include <functional>
@@ -29,6 +30,8 @@ public:
 
     // The main loop: returns the exit code once no form is shown or the program has ended.
     int Run();
+    // For a form that is none of the program's own: its design, to be given before it is shown.
+    void AddDesign(const Design& design) { designs_.push_back(design); }
 
     void Appear(ui::Form& form) override;
     void RunModal(ui::Form& form) override;
@@ -65,6 +68,7 @@ private:
     int Execute(QDialog& dialog);
 
     Viewer viewer_;
+    std::vector<Design> designs_;
     std::unordered_map<const ui::Form*, FormWindow*> windows_;
     std::vector<ui::Form*> shown_; // the one shown last stands at the end
     std::vector<ModalLoop> loops_;
