@@ -1,31 +1,14 @@
 #include "app/Application.h"
-#include "support/Fakes.h"
-#include "support/HeadlessScreen.h"
+#include "support/World.h"
 
 #include <gtest/gtest.h>
 
 namespace gfc::test {
 
-namespace {
-
-struct Parts {
-    FakeFiles Files;
-    FakeTimeZone TimeZone;
-    FakeClock Clock;
-    FakeSingleInstance SingleInstance;
-    FakeLauncher Launcher;
-    FakePaths Paths;
-    [[nodiscard]] platform::Machine Machine() {
-        return {Files, TimeZone, Clock, SingleInstance, Launcher, Paths};
-    }
-};
-
-} // namespace
-
 TEST(Application, says_why_it_does_not_start_without_its_library) {
-    Parts parts;
-    HeadlessScreen screen;
-    app::Application application(parts.Machine(), screen);
+    World world;
+    HeadlessScreen& screen = world.Screen;
+    app::Application application(world.Machine, screen);
     screen.TheStory.Box("Gas Flow Computer", "", ui::Icon::Critical);
     std::string asked;
     EXPECT_FALSE(application.Start([&asked](const std::string& path) {
@@ -35,7 +18,7 @@ TEST(Application, says_why_it_does_not_start_without_its_library) {
     ASSERT_EQ(screen.BoxesShown.size(), 1U);
     EXPECT_NE(screen.BoxesShown[0].Text.find(project::AddOnFileName()), std::string::npos);
     EXPECT_NE(screen.BoxesShown[0].Text.find("no such file"), std::string::npos);
-    EXPECT_TRUE(asked.starts_with(parts.Paths.ExecutableFolder())) << asked;
+    EXPECT_TRUE(asked.starts_with(world.Paths.ExecutableFolder())) << asked;
     EXPECT_TRUE(screen.FormsShown.empty());
     EXPECT_EQ(application.Program(), nullptr);
 }
