@@ -78,8 +78,8 @@ constexpr std::array SavedAfterRuns = std::to_array<SavedKey>({
     {FlowRuns, "WrkAnalogRegType",    &Working::WrkAnalogRegType},
 });
 
-// The copies in each configured run. The atmospheric pressure binding is deliberately written whether it is in use or
-// not, unlike in the full write.
+// The copies in each configured run. The atmospheric pressure binding is deliberately written whether it is
+// in use or not, unlike in the full write.
 struct RunCopy {
     std::string_view Key;
     CommonField Value;

@@ -105,6 +105,7 @@ private:
     void TreePressed(ui::MouseButton button);
     void NodeClicked(int node);
     void SelectRememberedNode();
+    [[nodiscard]] const std::string& StationOf(int treeNode) const;
 
     void FillStationTable();
     void AddStation(int root, const project::Station& station, std::size_t index);

@@ -136,6 +136,13 @@ void GFCPrincipal::SetRunImage(const std::string& path, bool enabled) {
         TreeGFC.SetImage(found, enabled ? "Run" : "NoRun");
 }
 
+// The station that a node below the root belongs to. Cut from the path, a name with a backslash would give
+// another one.
+const std::string& GFCPrincipal::StationOf(int treeNode) const {
+    const int parent = TreeGFC.At(treeNode).Parent;
+    return TreeGFC.At(parent).Parent == 0 ? TreeGFC.At(treeNode).Text : StationOf(parent);
+}
+
 void GFCPrincipal::NodeClicked(int clicked) {
     const std::string text = TreeGFC.At(clicked).Text;
     if (text == node::AllStations) {
@@ -143,7 +150,7 @@ void GFCPrincipal::NodeClicked(int clicked) {
         return ShowStations("Gas Flow Computer");
     }
     const std::string path = TreeGFC.FullPath(clicked);
-    session_.Station.CurrentStation = project::StationOfPath(path);
+    session_.Station.CurrentStation = StationOf(clicked);
     session_.SelectedPath = path;
     session_.SelectedNodeText = text;
     SetEnabled(false);

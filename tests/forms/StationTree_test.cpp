@@ -145,6 +145,18 @@ TEST_F(StationTree, names_that_no_file_can_bear_stay_unconfigured_and_harmless) 
     EXPECT_EQ(At("All Stations\\a/b").Image, "StationNoConfig");
 }
 
+TEST_F(StationTree, a_backslash_in_a_name_leads_to_no_other_station) {
+    AddStation("North", {});
+    AddStation("North\\East", {});
+    Configure("North", "[FlowRuns]\r\nFlowAlgorithm=AGA7\r\n");
+    TheStory.Do("select it", [this](Driver&) { Tree().PersonClicks(Tree().Count()); });
+    Play();
+    EXPECT_EQ(Session.SelectedPath, "All Stations\\North\\East");
+    EXPECT_EQ(Station.CurrentStation, "North\\East");
+    EXPECT_EQ(Session.ConfigFile(), "");
+    EXPECT_EQ(Panel(), "North\\East");
+}
+
 TEST_F(StationTree, selecting_a_station_shows_the_table_under_its_name) {
     AddStation("North", {});
     Configure("North", {});
