@@ -226,6 +226,7 @@ TEST(DynamicLibrary, names_file_and_reason_of_a_failure) {
         const auto load = LoadLibraryAt(path);
         EXPECT_FALSE(load.Library);
         EXPECT_NE(load.Error.find(path), std::string::npos);
+        EXPECT_EQ(load.Error.find(path), load.Error.rfind(path)) << "named once: " << load.Error;
         EXPECT_GT(load.Error.size(), path.size() + 30);
     }
 }

@@ -15,9 +15,12 @@ private:
     std::unique_ptr<void, int (*)(void*)> handle_;
 };
 
-std::string Reason() {
-    const char* reason = ::dlerror();
-    return reason ? reason : "unknown error";
+// The system mostly starts its reason with the path, which the message names already.
+std::string ReasonBesides(const std::string& fullPath) {
+    const char* given = ::dlerror();
+    const std::string reason = given ? given : "unknown error";
+    const std::string start = fullPath + ": ";
+    return reason.starts_with(start) ? reason.substr(start.size()) : reason;
 }
 
 } // namespace
@@ -28,7 +31,7 @@ LibraryLoad LoadLibraryAt(const std::string& fullPath) {
         return {nullptr, "\"" + fullPath + "\" is not a full path"};
     void* handle = ::dlopen(fullPath.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!handle)
-        return {nullptr, "\"" + fullPath + "\" cannot be loaded: " + Reason()};
+        return {nullptr, "\"" + fullPath + "\" cannot be loaded: " + ReasonBesides(fullPath)};
     return {std::make_unique<PosixDynamicLibrary>(handle), {}};
 }
 
