@@ -108,6 +108,30 @@ TEST(WizardSave, lets_the_program_end_while_the_old_file_stands) {
     EXPECT_NE(world.File().find("old=1"), std::string::npos);
 }
 
+// What keeps the file from coming into being is not reported; the station simply stays unconfigured.
+
+TEST(WizardSave, ends_quietly_where_the_folder_takes_no_file) {
+    SaveWorld world;
+    world.Files.Content.clear();
+    world.Files.Unwritable.insert(world.ConfigFile("North"));
+    world.Play();
+    EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
+    EXPECT_FALSE(world.Screen.Ended());
+}
+
+TEST(WizardSave, ends_quietly_for_a_station_whose_name_no_file_bears) {
+    for (const char* name : {"../North", "a\\b", "x\ny"}) {
+        SaveWorld world;
+        const auto before = world.Files.Content;
+        world.Station.CurrentStation = name;
+        world.Play();
+        EXPECT_EQ(world.Files.Content, before) << name;
+        EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>()) << name;
+        EXPECT_FALSE(world.Screen.Ended()) << name;
+    }
+}
+
 // The end of the program, wherever it comes, is met quietly.
 
 TEST(WizardFinish, unwinds_without_a_word_when_the_program_ends_between_two_dialogs) {
