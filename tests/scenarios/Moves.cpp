@@ -107,6 +107,10 @@ void OpenWizard(Story& story, const std::string& station) {
         .Box("Flow Gas Computer", "", ui::Icon::None, ui::Answer::Yes);
 }
 
+void ShortageBox(Story& story, project::ShortageKind kind, int runs) {
+    story.Box(project::IOShortageTitle(kind), project::IOShortageText(kind, runs), ui::Icon::Exclamation);
+}
+
 void SelectRuns(Story& story, const std::vector<int>& runs) {
     story.SeeShown("SelectRuns");
     for (const int run : runs)
@@ -117,6 +121,8 @@ void SelectRuns(Story& story, const std::vector<int>& runs) {
 void WalkPages(Story& story, const Choices& choices) {
     story.Select("WizardFC", "CombStandard", choices.Standard)
         .Select("WizardFC", "cbSourceGas", choices.Source);
+    if (choices.Units != 0)
+        story.Select("WizardFC", "CombUnits", choices.Units);
     story.Click("WizardFC", "siguiente").Click("WizardFC", "siguiente");
     if (choices.GageExternal)
         story.Click("WizardFC", "OptGagePress").Click("WizardFC", "OptAtmPressExt");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "project/Requirements.h"
 #include "support/Story.h"
 #include "support/World.h"
 
@@ -18,6 +19,8 @@ void StartUp(Story& story);
 void Exit(Story& story);
 // Selects the station in the tree, chooses the wizard's command and confirms.
 void OpenWizard(Story& story, const std::string& station);
+// The box that lists the minimum I/O for so many runs, and its OK.
+void ShortageBox(Story& story, project::ShortageKind kind, int runs);
 // Ticks the runs (1 to 5) and accepts.
 void SelectRuns(Story& story, const std::vector<int>& runs);
 
@@ -27,6 +30,7 @@ struct Choices {
     int Source = 0;
     bool Chromatograph = false;
     bool GageExternal = false;
+    int Units = 0;
 };
 // From the first page to a click on the wizard's last button.
 void WalkPages(Story& story, const Choices& choices);

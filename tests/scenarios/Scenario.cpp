@@ -2,11 +2,19 @@
 
 namespace gfc::test {
 
+namespace {
+
+constexpr std::vector<Scenario> (*parts[])() = {
+    StartUpScenarios, SummaryScenarios,  WizardPageScenarios,   BindingScenarios, EditorScenarios,
+    CancelScenarios,  CapacityScenarios, BindingFieldScenarios, UnitScenarios,
+};
+
+} // namespace
+
 std::vector<Scenario> AllScenarios() {
     std::vector<Scenario> all;
-    for (auto* part : {&StartUpScenarios, &SummaryScenarios, &WizardPageScenarios, &BindingScenarios,
-                       &EditorScenarios, &CancelScenarios}) {
-        auto scenarios = (*part)();
+    for (const auto part : parts) {
+        auto scenarios = part();
         all.insert(all.end(), scenarios.begin(), scenarios.end());
     }
     return all;

@@ -25,6 +25,9 @@ struct Scenario {
 [[nodiscard]] std::vector<Scenario> EditorScenarios();
 [[nodiscard]] std::vector<Scenario> CancelScenarios();
 [[nodiscard]] std::vector<Scenario> SummaryScenarios();
+[[nodiscard]] std::vector<Scenario> CapacityScenarios();
+[[nodiscard]] std::vector<Scenario> BindingFieldScenarios();
+[[nodiscard]] std::vector<Scenario> UnitScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test
