@@ -136,6 +136,8 @@ void ConfigWiardCommand(Program& program) {
     if (!MayReplaceConfiguration(program))
         return;
     NewConfiguration(program);
+    // Nobody drives dialogs any more.
+    program.Session.EditMode = EditMode::None;
     if (!program.Screen.Ended())
         program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();
 }

@@ -103,6 +103,7 @@ TEST_F(ConfigWiard, opens_on_the_first_standard_where_the_station_carries_it) {
     CancelSelection();
     Play();
     EXPECT_EQ(Screen.FormsShown, (Names{"GFCPrincipal", "SelectRuns"}));
+    EXPECT_EQ(Session.EditMode, forms::EditMode::None) << "nobody drives dialogs any more";
 }
 
 TEST_F(ConfigWiard, opens_on_aga7_where_the_station_carries_that_alone) {
