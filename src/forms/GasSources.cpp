@@ -51,6 +51,19 @@ const config::RunGas* GasInMemory(const Session& session, int run) {
     return element < records.size() ? &records[element] : nullptr;
 }
 
+void TakeFixedGas(const config::StationConfig& station, config::RunGas& record) {
+    using config::GasSlot;
+    const auto take = [&](GasSlot slot) { record[slot].Tag = station.GasComposition[slot].Tag; };
+    if (config::IsDetail(station.GasDensitySource)) {
+        for (int slot = 0; slot < config::Components; ++slot)
+            take(static_cast<GasSlot>(slot));
+        return;
+    }
+    for (const auto slot :
+         {GasSlot::VolCalorificValue, GasSlot::RelativeDensity, GasSlot::XCO2, GasSlot::XH2})
+        take(slot);
+}
+
 void RefuseIncompleteGas(ui::Screen& screen) {
     EntryError(screen, "Gas Flow Computer, V1.6.1", "Gas composition not entered");
 }

@@ -23,6 +23,9 @@ void OfferGasSources(const Program& program, const std::string& file, config::Ga
 // The values in memory of an active run; null if it has none.
 [[nodiscard]] const config::RunGas* GasInMemory(const Session& session, int run);
 
+// What an editor has left in GasComposition, into a run's record: the values of the family in use.
+void TakeFixedGas(const config::StationConfig& station, config::RunGas& record);
+
 // The refusals that both editors have in common; what is "gas composition" or "gas properties".
 void RefuseIncompleteGas(ui::Screen& screen);
 void RefuseCopyWithoutSource(ui::Screen& screen, const std::string& title, const std::string& what);

@@ -3,6 +3,7 @@
 #include "config/Vocabulary.h"
 #include "forms/FrAccelabar.h"
 #include "forms/FrParMec.h"
+#include "forms/GasSources.h"
 #include "forms/MDetail.h"
 #include "forms/Step.h"
 #include "forms/TagRuns.h"
@@ -160,18 +161,8 @@ void WizardPass::PrepareGas(const TheRun& run, GasSlot signOfEntry) {
 }
 
 void WizardPass::TakeGas(const TheRun& run) {
-    if (!session_.GasAccepted)
-        return;
-    auto& record = station_.Runs.Gas.at(static_cast<std::size_t>(run.Element));
-    const auto copy = [&](GasSlot slot) { record[slot].Tag = station_.GasComposition[slot].Tag; };
-    if (config::IsDetail(station_.GasDensitySource)) {
-        for (int slot = 0; slot < config::Components; ++slot)
-            copy(static_cast<GasSlot>(slot));
-        return;
-    }
-    for (const auto slot :
-         {GasSlot::VolCalorificValue, GasSlot::RelativeDensity, GasSlot::XCO2, GasSlot::XH2})
-        copy(slot);
+    if (session_.GasAccepted)
+        TakeFixedGas(station_, station_.Runs.Gas.at(static_cast<std::size_t>(run.Element)));
 }
 
 bool WizardPass::GasOutputs(const TheRun& run) {
