@@ -1,6 +1,4 @@
 #include "ModifyWorld.h"
-#include "config/VarINIFile.h"
-#include "forms/TagRuns.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,23 +7,11 @@ namespace gfc::test {
 
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::Not;
-
-constexpr const char* Form = ModifyWorld::Form;
 
 void AcceptComposition(Story& story) {
     story.Click("MDetail", "Command1");
-}
-
-// The names that a list of TagRuns offers.
-std::vector<std::string> Offered(Driver& eyes, const std::string& list) {
-    std::vector<std::string> names;
-    for (int row = 1; row <= eyes.Rows("TagRuns", list); ++row)
-        names.push_back(eyes.Cell("TagRuns", list, row, 1));
-    return names;
 }
 
 } // namespace
@@ -145,88 +131,6 @@ TEST(ModifyFlow, gives_the_mechanical_buffer_back_as_it_was) {
     EXPECT_EQ(world.Session.EditedMechanical.OrificeDia, "in hand");
 }
 
-// What is on offer
-
-TEST(ModifyFlow, offers_no_tag_that_the_file_uses) {
-    ModifyWorld world;
-    const std::string ofRun4 = world.Key("Run4", "GasTempKDIOTag");
-    const std::string digital = world.Key("Run4", "ResetTotalsKDIOTag");
-    world.TickAndAccept({1});
-    world.TheStory.Check([&](Driver& eyes) {
-        const auto floats = Offered(eyes, "ListViewRuns");
-        EXPECT_THAT(floats, Not(Contains(ofRun4)));
-        EXPECT_THAT(floats, Not(Contains("FT-1"))); // its own
-        EXPECT_THAT(floats, Not(Contains("FLOG-1")));
-        EXPECT_EQ(floats.size(), 300U - 2 * 14);
-        const auto digitals = Offered(eyes, "ListAnalogDig");
-        EXPECT_THAT(digitals, Not(Contains(digital)));
-        EXPECT_EQ(digitals.size(), 80U - 2 * 3);
-    });
-    world.CancelTags();
-    world.Play();
-}
-
-TEST(ModifyFlow, offers_the_analog_tags_that_are_free) {
-    ModifyWorld world;
-    world.TickAndAccept({2});
-    world.TheStory.Check([&](Driver& eyes) {
-        const auto analogs = Offered(eyes, "ListAnalogDig");
-        EXPECT_EQ(analogs.size(), 40U - 2 * 2);
-        EXPECT_EQ(analogs.front(), "AI-5");
-    });
-    world.CancelTags();
-    world.Play();
-}
-
-TEST(ModifyFlow, offers_the_free_pulse_counters_of_a_turbine) {
-    ModifyWorld world({"AGA7", "MEASURED"});
-    world.TickAndAccept({1});
-    world.TheStory.Check([&](Driver& eyes) {
-        EXPECT_THAT(Offered(eyes, "ListLong"),
-                    ElementsAre("PI-3", "PI-4", "PI-5", "PI-6", "PI-7", "PI-8", "PI-9", "PI-10"));
-    });
-    world.CancelTags();
-    world.Play();
-}
-
-TEST(ModifyFlow, keeps_the_tags_of_the_stored_working_modules_back) {
-    ModifyWorld world;
-    world.Put("FlowRuns", "WrkFloatModName", "VF1");
-    world.TickAndAccept({1});
-    world.TheStory.Check([&](Driver& eyes) {
-        const auto floats = Offered(eyes, "ListViewRuns");
-        EXPECT_EQ(floats.size(), 128U);
-        EXPECT_EQ(floats.front(), "FLOG-1");
-    });
-    world.CancelTags();
-    world.Play();
-}
-
-TEST(ModifyFlow, returns_an_undone_tag_to_the_end_of_the_list) {
-    ModifyWorld world;
-    world.TickAndAccept({1});
-    const std::string node = "AGA 3 Inputs\\Temperature";
-    world.TheStory.ClickNode("TagRuns", "TreeAGA", node)
-        .Click("TagRuns", "Command4")
-        .Check([&](Driver& eyes) {
-            const auto floats = Offered(eyes, "ListViewRuns");
-            EXPECT_EQ(floats.back(), "FT-1");
-            EXPECT_EQ(eyes.NodeImage("TagRuns", "TreeAGA", node), "NoConfig");
-        });
-    world.CancelTags();
-    world.Play();
-}
-
-TEST(ModifyFlow, offers_a_tag_that_an_earlier_window_has_freed) {
-    ModifyWorld world;
-    world.TickAndAccept({1, 2});
-    world.Rebind(0, "ListViewRuns"); // FT-1, the temperature's, is free now
-    world.Continue();
-    world.TheStory.Check([&](Driver& eyes) { EXPECT_EQ(Offered(eyes, "ListViewRuns").back(), "FT-1"); });
-    world.CancelTags();
-    world.Play();
-}
-
 // The trial and the save
 
 TEST(ModifyFlow, stores_a_replaced_tag_after_the_trial) {
@@ -333,124 +237,6 @@ TEST(ModifyFlow, keeps_the_bindings_although_no_copy_could_be_made) {
     world.Play();
     EXPECT_EQ(world.Key("Run2", "GasDPKDIOTag"), before);
     EXPECT_EQ(world.Key("Run2", "FlowAlgorithm"), "AGA3");
-}
-
-// Cancels
-
-struct CancelRow {
-    std::string Name;
-    ModifyChoices Choices;
-    std::vector<int> Boxes;
-    void (*Tell)(ModifyWorld&);
-    std::vector<std::string> Windows;
-};
-
-class ModifyFlowCancels : public testing::TestWithParam<CancelRow> {};
-
-TEST_P(ModifyFlowCancels, leave_the_file_alone_and_close_the_form) {
-    const auto& row = GetParam();
-    ModifyWorld world(row.Choices);
-    const auto before = world.Files.Content;
-    world.TickAndAccept(row.Boxes);
-    row.Tell(world);
-    world.TheStory.SeeShown(Form, false);
-    world.Play();
-    world.Screen.PlayOut();
-    EXPECT_EQ(world.Files.Content, before);
-    EXPECT_EQ(world.Windows(), row.Windows);
-    EXPECT_TRUE(world.Session.Cancelled);
-    EXPECT_EQ(world.Session.EditMode, forms::EditMode::None);
-    EXPECT_EQ(world.Station.FlowAlgorithm, "");
-}
-
-namespace {
-
-void CancelMechanical(ModifyWorld& world, const std::string& form, const std::string& button) {
-    world.TheStory.Click(form, button)
-        .Box("Close mechanical parameters",
-             "Are you sure want to discard the changes made to the current configuration ?", ui::Icon::None,
-             ui::Answer::Yes);
-}
-
-const std::vector<int> AllFixed = {1, 2, 3, 4, 6};
-
-std::vector<CancelRow> CancelRows() {
-    return {
-        {"mechanical",
-         {},
-         AllFixed,
-         [](ModifyWorld& world) { CancelMechanical(world, "FrParMec", "cmdCancel"); },
-         {"FrParMec"}},
-        {"accelabar",
-         {"Accelabar-AGA-3-1992", "AGA8"},
-         AllFixed,
-         [](ModifyWorld& world) { CancelMechanical(world, "FrAccelabar", "Command2"); },
-         {"FrAccelabar"}},
-        {"mechanical_alone",
-         {},
-         {3},
-         [](ModifyWorld& world) { CancelMechanical(world, "FrParMec", "cmdCancel"); },
-         {"FrParMec"}},
-        {"inputs",
-         {},
-         AllFixed,
-         [](ModifyWorld& world) {
-             world.AcceptMechanical();
-             world.CancelTags();
-         },
-         {"FrParMec", "TagRuns"}},
-        {"composition",
-         {},
-         AllFixed,
-         [](ModifyWorld& world) {
-             world.AcceptMechanical();
-             world.Continue();
-             world.TheStory.Click("MDetail", "Command3")
-                 .Box("Orm Gas Flow Computer",
-                      "Are you sure  you to want to cancel?. All changes will be lost", ui::Icon::None,
-                      ui::Answer::Yes);
-         },
-         {"FrParMec", "TagRuns", "MDetail"}},
-        {"properties",
-         {"AGA7", "SGERG88"},
-         {6, 2},
-         [](ModifyWorld& world) {
-             world.TheStory.Click("frSGERG88", "Command2")
-                 .Box("Gas Flow Computer", "Are you sure  you to want to cancel?. All changes will be lost",
-                      ui::Icon::None, ui::Answer::Yes);
-         },
-         {"frSGERG88"}},
-        {"gas_inputs",
-         {"AGA3", "AGA8", "MEASURED"},
-         {5, 2},
-         [](ModifyWorld& world) { world.CancelTags(); },
-         {"TagRuns"}},
-        {"outputs", {}, {2, 4}, [](ModifyWorld& world) { world.CancelTags(); }, {"TagRuns"}},
-        {"gas_outputs",
-         {},
-         {2, 4},
-         [](ModifyWorld& world) {
-             world.Continue();
-             world.CancelTags();
-         },
-         {"TagRuns", "TagRuns"}},
-    };
-}
-
-} // namespace
-
-INSTANTIATE_TEST_SUITE_P(Editors, ModifyFlowCancels, testing::ValuesIn(CancelRows()),
-                         [](const auto& row) { return row.param.Name; });
-
-TEST(ModifyFlow, goes_on_when_a_cancel_is_taken_back) {
-    ModifyWorld world;
-    world.TickAndAccept({2});
-    world.TheStory.Click("TagRuns", "Command2")
-        .Box("Gas Flow Computer", "", ui::Icon::Question, ui::Answer::No);
-    world.Continue();
-    world.SaveAfterTrial();
-    world.Play();
-    EXPECT_FALSE(world.Session.Cancelled);
 }
 
 } // namespace gfc::test
