@@ -31,7 +31,7 @@ const Design* DesignOf(const std::string& form) {
 } // namespace
 
 FormWindow::FormWindow(ui::Form& form, const Design* design)
-    : form_(&form), gate_(std::make_unique<FocusGate>(*this, form)) {
+    : form_(&form), held_(form.KeepAlive()), gate_(std::make_unique<FocusGate>(*this, form)) {
     SetUpContent(design == nullptr ? DesignOf(form.Name()) : design);
     Bind();
     NameForReaders();
@@ -113,6 +113,7 @@ void FormWindow::Release() {
     gate_->Release();
     form_->SetObserver(nullptr);
     form_ = nullptr;
+    held_.reset();
 }
 
 void FormWindow::Dismiss() {

@@ -17,8 +17,8 @@ namespace gfc::qt {
 
 class Renderer;
 
-// The window of one form. It is bound to the form from its making until Release; the form may go before the
-// window, which lives until the event that it is in has returned.
+// The window of one form. It is bound to the form, and keeps it, from its making until Release; then the form
+// may go before the window, which lives until the event that it is in has returned.
 class FormWindow : public QWidget, private ui::FormObserver {
 public:
     // Without a design of its own it takes the one that bears the form's name.
@@ -96,6 +96,8 @@ private:
     void PressButton(ui::CommandButton* button);
 
     ui::Form* form_;
+    // A form does not go before its window is released: the widgets read straight from its controls.
+    std::shared_ptr<ui::Form> held_;
     QScrollArea* area_ = nullptr;
     QWidget* content_ = nullptr;
     QMenuBar* menuBar_ = nullptr;

@@ -33,6 +33,7 @@ void Form::EnsureLoaded() {
 }
 
 void Form::Show() {
+    const auto alive = KeepAlive();
     EnsureLoaded();
     // A load may end in unloading the form: then there is nothing left to show.
     if (unloaded_ || shown_)

@@ -88,6 +88,16 @@ TEST_F(Windows, go_with_their_form) {
     EXPECT_EQ(window, nullptr);
 }
 
+TEST_F(Windows, keep_their_form_as_long_as_they_show_it) {
+    const std::weak_ptr<ProbeForm> watched = Form;
+    ProbeForm& form = *Form;
+    Form.reset();
+    EXPECT_FALSE(watched.expired());
+    EXPECT_EQ(Hands.Cell("Probe", "rows", 1, 1), "first");
+    form.Unload();
+    EXPECT_TRUE(watched.expired());
+}
+
 TEST_F(Windows, stand_over_the_one_that_opened_them) {
     auto second = std::make_shared<ProbeForm>(Screen, "Second");
     QTimer::singleShot(1, qApp, [&] {

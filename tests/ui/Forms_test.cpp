@@ -94,6 +94,15 @@ TEST_F(Forms, form_that_leaves_at_load_is_never_shown) {
     EXPECT_TRUE(screen_.FormsShown.empty());
 }
 
+TEST_F(Forms, form_that_goes_at_its_load_is_not_touched_any_more) {
+    const std::weak_ptr<Counting> watch = form_;
+    form_->LeavesAtLoad = true;
+    form_->SetOnGone([this] { form_.reset(); });
+    Counting& form = *form_;
+    form.Show();
+    EXPECT_TRUE(watch.expired());
+}
+
 TEST_F(Forms, form_without_a_close_command_is_not_closed_by_its_window) {
     form_->Show();
     form_->RemoveCloseCommand();
