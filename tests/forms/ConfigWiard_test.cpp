@@ -28,6 +28,16 @@ project::TagList TurbineTags() {
     return tags;
 }
 
+// Only so many registers are free of each of the three kinds.
+project::TagList TagsLeaving(int floats, int digitals, int longs) {
+    project::TagList tags = LargeStationTags(floats);
+    std::erase_if(tags, [&](const project::Tag& tag) {
+        return tag.RegType == "Y" || (tag.RegType == "X" && digitals-- <= 0) ||
+               (tag.ModuleName == "VL1" && longs-- <= 0);
+    });
+    return tags;
+}
+
 struct ConfigWiard : testing::Test, World {
     ConfigWiard() {
         AddStation("Large", LargeStationTags());
@@ -89,6 +99,7 @@ TEST_F(ConfigWiard, asks_before_replacing_even_where_there_is_nothing_to_replace
 }
 
 TEST_F(ConfigWiard, opens_on_the_first_standard_where_the_station_carries_it) {
+    Station.FlagAGA7 = true; // of an earlier station
     Choose("Large");
     Answer(ui::Answer::Yes);
     TheStory.Check([this](Driver&) {
@@ -120,6 +131,48 @@ TEST_F(ConfigWiard, opens_on_aga7_where_the_station_carries_that_alone) {
     });
     CancelSelection();
     Play();
+}
+
+struct Carried {
+    int Floats, Digitals, Longs; // free ones
+    const char* Standard;        // null: neither
+    const char* MaximumRuns;     // null: no box
+};
+
+// clang-format off
+const Carried carried[] = {
+    {17, 3, 1, "AGA-3 1992", "Only two Runs can be configured"},
+    {16, 3, 1, "AGA-7",      nullptr},
+    {17, 2, 1, nullptr,      nullptr},
+    {6,  3, 1, "AGA-7",      "Only one Run can be configured"},
+    {5,  3, 1, nullptr,      nullptr},
+    {6,  2, 1, nullptr,      nullptr},
+    {6,  3, 0, nullptr,      nullptr},
+};
+// clang-format on
+
+TEST_F(ConfigWiard, goes_by_the_last_register_of_each_kind) {
+    for (const auto& row : carried) {
+        SCOPED_TRACE(std::to_string(row.Floats) + " " + std::to_string(row.Digitals) + " " +
+                     std::to_string(row.Longs));
+        World world;
+        world.AddStation("Edge", TagsLeaving(row.Floats, row.Digitals, row.Longs));
+        world.TheStory.ClickNode("GFCPrincipal", "TreeGFC", "All Stations\\Edge")
+            .Menu("GFCPrincipal", "ConfigWiard")
+            .Box("Flow Gas Computer", question, ui::Icon::None, ui::Answer::Yes);
+        if (row.MaximumRuns != nullptr)
+            world.TheStory.Box("Gas Flow Computer", row.MaximumRuns, ui::Icon::Information);
+        if (row.Standard == nullptr)
+            world.TheStory.Box("Error: Configuring AGA3", {}, ui::Icon::Exclamation)
+                .Box("Error: Configuring AGA7", {}, ui::Icon::Exclamation);
+        else
+            world.TheStory.SeeShown("SelectRuns").Check([&](Driver&) {
+                EXPECT_EQ(world.Program.Forms.Get<WizardFC>().CombStandard.Text(), row.Standard);
+                world.Screen.EndProgram(0);
+            });
+        world.Program.Forms.Get<GFCPrincipal>().Show();
+        world.Screen.RunToEnd();
+    }
 }
 
 TEST_F(ConfigWiard, says_twice_what_a_station_lacks_that_carries_neither) {

@@ -109,6 +109,52 @@ TEST_F(StationTree, table_lists_the_stations_in_the_order_of_the_project) {
     EXPECT_EQ(Window().ListView1.At(2), (Names{"2", "Yes", "South", "", "", "-7"}));
 }
 
+// Notes what a window would be told.
+struct TreeNotes : ui::TreeObserver {
+    std::vector<int> ScrolledTo;
+    void TreeReset() override {}
+    void NodeAdded(int) override {}
+    void NodeChanged(int) override {}
+    void SelectionChanged() override {}
+    void ScrollTo(int node) override { ScrolledTo.push_back(node); }
+};
+
+TEST_F(StationTree, a_rebuild_scrolls_to_the_first_station) {
+    AddStation("North", {});
+    Play();
+    TreeNotes notes;
+    Tree().SetTreeObserver(&notes);
+    Window().RebuildAfterCommand();
+    EXPECT_EQ(notes.ScrolledTo, std::vector<int>{2});
+    Session.Project.Stations.clear();
+    Window().RebuildAfterCommand();
+    EXPECT_EQ(notes.ScrolledTo, std::vector<int>{2}) << "there is no node 2 without stations";
+    Tree().SetTreeObserver(nullptr);
+}
+
+struct FormNotes : ui::FormObserver {
+    explicit FormNotes(ui::Form& form) : form_(form) {}
+    std::vector<bool> Enabled;
+    void ControlChanged(ui::Control&) override {}
+    void FormChanged() override { Enabled.push_back(form_.Enabled()); }
+    void FocusMoved(ui::Control&) override {}
+
+private:
+    ui::Form& form_;
+};
+
+TEST_F(StationTree, the_window_takes_no_input_while_a_node_is_read) {
+    AddStation("North", {});
+    Play();
+    FormNotes notes(Window());
+    Window().SetObserver(&notes);
+    Tree().PersonClicks(2);
+    EXPECT_EQ(notes.Enabled, (std::vector<bool>{false, true}));
+    Tree().PersonClicks(1);
+    EXPECT_EQ(notes.Enabled.size(), 2U) << "the root has nothing to read";
+    Window().SetObserver(nullptr);
+}
+
 TEST_F(StationTree, a_file_made_from_outside_turns_the_station_blue_at_the_next_build) {
     AddStation("North", {});
     Play();

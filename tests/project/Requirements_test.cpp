@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace gfc::project {
 namespace {
 
@@ -131,6 +133,8 @@ TEST(MaximumRuns, is_limited_by_longs_for_a_pulse_meter_only) {
     Plant plant({.Floats = 10, .Analogs = 9, .Digitals = 9, .Longs = 1});
     plant.Inventory.PhysLY = Module("M", "", "LY", 1);
     EXPECT_EQ(MaximumRuns(plant.Capacity(), true), 2) << "physical longs count here";
+    plant.Inventory.PhysLX = std::exchange(plant.Inventory.PhysLY, {});
+    EXPECT_EQ(MaximumRuns(plant.Capacity(), true), 2) << "of both directions";
 }
 
 TEST(MaximumRuns, skips_candidates_without_a_name) {
