@@ -167,99 +167,6 @@ Scenario ContractTimes() {
             }};
 }
 
-// The dialogs of a run with a gas composition entered by hand, up to the outputs of the flow calculation.
-void UpToTheOutputs(Story& story) {
-    story.Click("Step", "Command1");
-    moves::AcceptEditor(story, "FrParMec");
-    story.Click("Step", "Command1");
-    moves::AutoBind(story);
-    story.Click("Step", "Command1");
-}
-
-void WholeFirstRun(Story& story) {
-    UpToTheOutputs(story);
-    moves::AutoBind(story);
-    story.Click("Step", "Command1");
-    moves::AcceptEditor(story, "MDetail");
-    story.Click("Step", "Command1");
-    moves::AutoBind(story);
-}
-
-// What the first run took and gave must not shine through when the same station is begun again.
-void SeeNothingLeft(Story& story) {
-    story.Click("Step", "Command1")
-        .SeeText("FrParMec", "txtDiaPipe", "2.90039")
-        .Click("FrParMec", "Check1")
-        .SeeEnabled("FrParMec", "Option1_0", false)
-        .SeeEnabled("FrParMec", "Option1_1", false)
-        .Click("FrParMec", "cmdAceptar")
-        .Click("Step", "Command1");
-    SeeRows(story, "ListViewRuns", 300);
-    SeeRows(story, "ListAnalogDig", 80);
-    SeeImage(story, "AGA 3 Inputs\\Temperature", "NoConfig");
-    moves::AutoBind(story);
-    story.Click("Step", "Command1");
-    SeeRows(story, "ListAnalogDig", 40);
-    moves::AutoBind(story);
-    story.Click("Step", "Command1")
-        .SeeText("MDetail", "Text10", "0.965222")
-        .SeeEnabled("MDetail", "CopyGasCompButton", false)
-        .Click("MDetail", "Command1")
-        .Click("Step", "Command1");
-    CancelTagRuns(story);
-}
-
-Scenario CancelledInTheSecondRun() {
-    return {"cancel_in_the_second_run_leaves_nothing_of_the_first", moves::ThreeStations,
-            [](Story& story) {
-                const moves::Choices choices{.Source = 1};
-                moves::StartUp(story);
-                moves::OpenWizard(story, "North");
-                moves::SelectRuns(story, {1, 2});
-                moves::WalkPages(story, choices);
-                WholeFirstRun(story);
-                UpToTheOutputs(story);
-                CancelTagRuns(story);
-                moves::OpenWizard(story, "North");
-                moves::SelectRuns(story, {1, 2});
-                moves::WalkPages(story, choices);
-                SeeNothingLeft(story);
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) {
-                EXPECT_TRUE(program.Files.Content.empty());
-                EXPECT_EQ(program.Session.Station.ActiveRunCount, 0);
-                EXPECT_TRUE(program.Session.Inventory.AvailFloat.empty());
-                EXPECT_TRUE(program.Session.Station.Runs.IO.empty());
-            }};
-}
-
-Scenario CancelledOnTheClosingPage() {
-    return {"cancel_on_the_closing_page_writes_nothing", moves::ThreeStations,
-            [](Story& story) {
-                const moves::Choices choices{.Standard = 1};
-                const std::string question = "Do you want to quit the configuration wizard ?";
-                moves::StartUp(story);
-                moves::OpenWizard(story, "North");
-                moves::SelectRuns(story, {1});
-                moves::WalkPages(story, choices);
-                moves::PassAllRuns(story, choices, {1});
-                story.SeeText("WizardFC", "Label19", "Configuration Finished !")
-                    .SelectTab("WizardFC", "wizard", 1)
-                    .Check([](Driver& d) { EXPECT_EQ(d.Tab("WizardFC", "wizard"), 4); })
-                    .SeeEnabled("WizardFC", "Command1")
-                    .Click("WizardFC", "cancelar")
-                    .Box("Gas Flow Computer", question, Icon::None, Answer::No)
-                    .SeeShown("WizardFC")
-                    .Click("WizardFC", "cancelar")
-                    .Box("Gas Flow Computer", question, Icon::None, Answer::Yes)
-                    .SeeShown("WizardFC", false)
-                    .SeeShown("GFCPrincipal");
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
-}
-
 } // namespace
 
 std::vector<Scenario> BindingFieldScenarios() {
@@ -270,8 +177,6 @@ std::vector<Scenario> BindingFieldScenarios() {
                       DigitalsTooNearTheEnd),
         InFirstDialog("common_pressure_is_bound_by_hand_alone", {.GageExternal = true}, CommonPressureByHand),
         ContractTimes(),
-        CancelledInTheSecondRun(),
-        CancelledOnTheClosingPage(),
     };
 }
 

@@ -89,6 +89,105 @@ Scenario CancelOfRunSelection() {
             [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
 }
 
+void SeeRows(Story& story, const std::string& list, int count) {
+    story.Check([=](Driver& d) { EXPECT_EQ(d.Rows("TagRuns", list), count) << list; });
+}
+
+// The dialogs of a run with a gas composition entered by hand, up to the outputs of the flow calculation.
+void UpToTheOutputs(Story& story) {
+    story.Click("Step", "Command1");
+    moves::AcceptEditor(story, "FrParMec");
+    story.Click("Step", "Command1");
+    moves::AutoBind(story);
+    story.Click("Step", "Command1");
+}
+
+void WholeFirstRun(Story& story) {
+    UpToTheOutputs(story);
+    moves::AutoBind(story);
+    story.Click("Step", "Command1");
+    moves::AcceptEditor(story, "MDetail");
+    story.Click("Step", "Command1");
+    moves::AutoBind(story);
+}
+
+// What the first run took and gave must not shine through when the same station is begun again.
+void SeeNothingLeft(Story& story) {
+    story.Click("Step", "Command1")
+        .SeeText("FrParMec", "txtDiaPipe", "2.90039")
+        .Click("FrParMec", "Check1")
+        .SeeEnabled("FrParMec", "Option1_0", false)
+        .SeeEnabled("FrParMec", "Option1_1", false)
+        .Click("FrParMec", "cmdAceptar")
+        .Click("Step", "Command1");
+    SeeRows(story, "ListViewRuns", 300);
+    SeeRows(story, "ListAnalogDig", 80);
+    story.Check([](Driver& d) {
+        EXPECT_EQ(d.NodeImage("TagRuns", "TreeAGA", "AGA 3 Inputs\\Temperature"), "NoConfig");
+    });
+    moves::AutoBind(story);
+    story.Click("Step", "Command1");
+    SeeRows(story, "ListAnalogDig", 40);
+    moves::AutoBind(story);
+    story.Click("Step", "Command1")
+        .SeeText("MDetail", "Text10", "0.965222")
+        .SeeEnabled("MDetail", "CopyGasCompButton", false)
+        .Click("MDetail", "Command1")
+        .Click("Step", "Command1");
+    Cancel(story, tags);
+}
+
+Scenario CancelledInTheSecondRun() {
+    return {"cancel_in_the_second_run_leaves_nothing_of_the_first", moves::ThreeStations,
+            [](Story& story) {
+                const moves::Choices choices{.Source = 1};
+                moves::StartUp(story);
+                moves::OpenWizard(story, "North");
+                moves::SelectRuns(story, {1, 2});
+                moves::WalkPages(story, choices);
+                WholeFirstRun(story);
+                UpToTheOutputs(story);
+                Cancel(story, tags);
+                moves::OpenWizard(story, "North");
+                moves::SelectRuns(story, {1, 2});
+                moves::WalkPages(story, choices);
+                SeeNothingLeft(story);
+                moves::Exit(story);
+            },
+            [](FakeProgram& program) {
+                EXPECT_TRUE(program.Files.Content.empty());
+                EXPECT_EQ(program.Session.Station.ActiveRunCount, 0);
+                EXPECT_TRUE(program.Session.Inventory.AvailFloat.empty());
+                EXPECT_TRUE(program.Session.Station.Runs.IO.empty());
+            }};
+}
+
+Scenario CancelledOnTheClosingPage() {
+    return {"cancel_on_the_closing_page_writes_nothing", moves::ThreeStations,
+            [](Story& story) {
+                const moves::Choices choices{.Standard = 1};
+                const std::string question = "Do you want to quit the configuration wizard ?";
+                moves::StartUp(story);
+                moves::OpenWizard(story, "North");
+                moves::SelectRuns(story, {1});
+                moves::WalkPages(story, choices);
+                moves::PassAllRuns(story, choices, {1});
+                story.SeeText("WizardFC", "Label19", "Configuration Finished !")
+                    .SelectTab("WizardFC", "wizard", 1)
+                    .Check([](Driver& d) { EXPECT_EQ(d.Tab("WizardFC", "wizard"), 4); })
+                    .SeeEnabled("WizardFC", "Command1")
+                    .Click("WizardFC", "cancelar")
+                    .Box("Gas Flow Computer", question, Icon::None, Answer::No)
+                    .SeeShown("WizardFC")
+                    .Click("WizardFC", "cancelar")
+                    .Box("Gas Flow Computer", question, Icon::None, Answer::Yes)
+                    .SeeShown("WizardFC", false)
+                    .SeeShown("GFCPrincipal");
+                moves::Exit(story);
+            },
+            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+}
+
 } // namespace
 
 std::vector<Scenario> CancelScenarios() {
@@ -97,6 +196,8 @@ std::vector<Scenario> CancelScenarios() {
     const moves::Choices chromatograph{.Source = 1, .Chromatograph = true};
     return {
         CancelOfRunSelection(),
+        CancelledInTheSecondRun(),
+        CancelledOnTheClosingPage(),
         CancelAt("cancel_at_the_common_inputs", detail, 1, tags),
         CancelAt("cancel_at_the_mechanical_parameters", detail, 2, mechanics),
         CancelAt("cancel_at_the_run_inputs", detail, 3, tags),

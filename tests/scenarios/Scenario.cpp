@@ -5,8 +5,9 @@ namespace gfc::test {
 namespace {
 
 constexpr std::vector<Scenario> (*parts[])() = {
-    StartUpScenarios, SummaryScenarios,  WizardPageScenarios,   BindingScenarios, EditorScenarios,
-    CancelScenarios,  CapacityScenarios, BindingFieldScenarios, UnitScenarios,
+    StartUpScenarios, SummaryScenarios,   WizardPageScenarios, BindingScenarios,
+    EditorScenarios,  CancelScenarios,    CapacityScenarios,   BindingFieldScenarios,
+    UnitScenarios,    GasEditorScenarios, WizardFileScenarios,
 };
 
 } // namespace

@@ -28,6 +28,8 @@ struct Scenario {
 [[nodiscard]] std::vector<Scenario> CapacityScenarios();
 [[nodiscard]] std::vector<Scenario> BindingFieldScenarios();
 [[nodiscard]] std::vector<Scenario> UnitScenarios();
+[[nodiscard]] std::vector<Scenario> GasEditorScenarios();
+[[nodiscard]] std::vector<Scenario> WizardFileScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test

@@ -98,6 +98,24 @@ Scenario FailedStart(const std::string& name, std::function<void(FakeProgram&)> 
             }};
 }
 
+// Not a word is said: the window comes up with an empty tree.
+Scenario StationListCannotBeHad() {
+    return {"station_list_that_cannot_be_had_leaves_an_empty_tree",
+            [](FakeProgram& program) {
+                moves::ThreeStations(program);
+                program.Library.StationListWorks = false;
+            },
+            [](Story& story) {
+                moves::StartUp(story);
+                story.Check([](Driver& d) {
+                    EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", "All Stations\\North"), "no such node");
+                    EXPECT_EQ(d.Rows("GFCPrincipal", "ListView1"), 0);
+                });
+                moves::Exit(story);
+            },
+            NoRegistration};
+}
+
 } // namespace
 
 std::vector<Scenario> StartUpScenarios() {
@@ -105,6 +123,7 @@ std::vector<Scenario> StartUpScenarios() {
         ConfiguredStationsAreRegisteredAtExit(),
         EmptyUserId(),
         CancelledUserId(),
+        StationListCannotBeHad(),
         FailedStart(
             "second_instance_is_refused",
             [](FakeProgram& program) {

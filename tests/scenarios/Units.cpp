@@ -1,5 +1,4 @@
-#include "scenarios/Moves.h"
-#include "scenarios/Scenario.h"
+#include "scenarios/TwoRuns.h"
 
 #include <gtest/gtest.h>
 
@@ -34,14 +33,6 @@ const std::vector<System> systems = {
      "MJ/m^3",     "40.66",    "kg/m^3",   "pulses/m^3"},
 };
 // clang-format on
-
-std::function<void(FakeProgram&)> Holds(std::vector<std::pair<std::string, std::string>> keys) {
-    return [keys = std::move(keys)](FakeProgram& program) {
-        for (const auto& [key, value] : keys) {
-            EXPECT_EQ(program.Program.Ini.ReadKey("Run2", key, program.ConfigFile("North")), value) << key;
-        }
-    };
-}
 
 void SeeMechanics(Story& story, const System& system) {
     const std::string form = "FrParMec";
@@ -111,48 +102,49 @@ Scenario MechanicsIn(const System& system) {
     return OfOneRun(
         "mechanical_parameters_in_" + system.Name, {.Units = system.Entry},
         [system](Story& story, int) { SeeMechanics(story, system); },
-        Holds({{"InternalPipeDia", system.PipeByButton},
-               {"OrificeDia", system.OrificeByButton},
-               {"OrificeDiaRefTemp", system.RefTemp},
-               {"PipeMaterial", "CS"},
-               {"OrificeMaterial", "SS"},
-               {"PipeThermalExpCoeff", ""},
-               {"PressureTap", "Flange"},
-               {"PressureTapPos", "Up"},
-               {"ExtMechParam", "No"}}));
+        Holds("Run2", {{"InternalPipeDia", system.PipeByButton},
+                       {"OrificeDia", system.OrificeByButton},
+                       {"OrificeDiaRefTemp", system.RefTemp},
+                       {"PipeMaterial", "CS"},
+                       {"OrificeMaterial", "SS"},
+                       {"PipeThermalExpCoeff", ""},
+                       {"PressureTap", "Flange"},
+                       {"PressureTapPos", "Up"},
+                       {"ExtMechParam", "No"}}));
 }
 
 Scenario GasPropertiesIn(const System& system) {
     return OfOneRun(
         "gas_properties_in_" + system.Name, {.Standard = 1, .Source = 4, .Units = system.Entry},
         [system](Story& story, int) { SeeGasProperties(story, system); },
-        Holds({{"VolCalorificValue", system.HeatingValue},
-               {"RelativeDensity", "0.581"},
-               {"XCO2", "0.006"},
-               {"XH2", "0.000"},
-               {"GasDensitySource", "ISO-12213-3-1997"}}));
+        Holds("Run2", {{"VolCalorificValue", system.HeatingValue},
+                       {"RelativeDensity", "0.581"},
+                       {"XCO2", "0.006"},
+                       {"XH2", "0.000"},
+                       {"GasDensitySource", "ISO-12213-3-1997"}}));
 }
 
 // The factors of a turbine with a densimeter, looked at and left as they are.
 Scenario FactorsIn(const System& system) {
-    return {"run_factors_in_" + system.Name, moves::ThreeStations,
-            [system](Story& story) {
-                moves::StartUp(story);
-                moves::OpenWizard(story, "North");
-                moves::SelectRuns(story, {2});
-                moves::WalkPages(story, {.Standard = 1, .Units = system.Entry});
-                story.Click("Step", "Command1");
-                SeeFactors(story, system);
-                story.Type("TagRuns", "phostd", "0.75")
-                    .Type("TagRuns", "kfactor", "") // may stay empty
-                    .Keys("TagRuns", "Text1", "x5-");
-                moves::AutoBind(story);
-                story.Click("Step", "Command1");
-                moves::AutoBind(story);
-                moves::SaveAndClose(story);
-                moves::Exit(story);
-            },
-            Holds({{"GasDensityStandard", "0.75"}, {"meterKFactor", ""}, {"CalibrationFactor", "1.05"}})};
+    return {
+        "run_factors_in_" + system.Name, moves::ThreeStations,
+        [system](Story& story) {
+            moves::StartUp(story);
+            moves::OpenWizard(story, "North");
+            moves::SelectRuns(story, {2});
+            moves::WalkPages(story, {.Standard = 1, .Units = system.Entry});
+            story.Click("Step", "Command1");
+            SeeFactors(story, system);
+            story.Type("TagRuns", "phostd", "0.75")
+                .Type("TagRuns", "kfactor", "") // may stay empty
+                .Keys("TagRuns", "Text1", "x5-");
+            moves::AutoBind(story);
+            story.Click("Step", "Command1");
+            moves::AutoBind(story);
+            moves::SaveAndClose(story);
+            moves::Exit(story);
+        },
+        Holds("Run2", {{"GasDensityStandard", "0.75"}, {"meterKFactor", ""}, {"CalibrationFactor", "1.05"}})};
 }
 
 } // namespace

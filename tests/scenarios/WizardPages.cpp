@@ -137,14 +137,6 @@ void GrossFamilyHasNoChromatographOption(Story& story) {
     story.SeeEnabled(wizard, "OptCromatografo").SeeEnabled(wizard, "OptDetail");
 }
 
-void MissingViscosityKeepsThePage(Story& story) {
-    story.Click(wizard, "siguiente").Click(wizard, "siguiente").Click(wizard, "siguiente");
-    story.Type(wizard, "Text1", "").Click(wizard, "finalizar");
-    story.Box("Gas Flow Computer", "Error: Missing gas flowing viscosity or gas isentropic coefficient",
-              Icon::Exclamation);
-    story.SeeShown(wizard).SeeVisible(wizard, "siguiente");
-}
-
 void SecondPointIsStoppedWhenTheFieldIsLeft(Story& story) {
     const std::string text = "Error: Data format should be as follows:\r\r.####\r#.####\r##.####\r###.####";
     story.Click(wizard, "siguiente").Click(wizard, "siguiente").Click(wizard, "siguiente");
@@ -154,6 +146,41 @@ void SecondPointIsStoppedWhenTheFieldIsLeft(Story& story) {
     story.Check([](Driver& d) { EXPECT_EQ(d.Focused(wizard), "Text1"); });
     story.Type(wizard, "Text1", "0.02").Focus(wizard, "Text2");
     story.Check([](Driver& d) { EXPECT_EQ(d.Focused(wizard), "Text2"); });
+}
+
+// Each of the four in turn, under one message.
+void EachMissingValueKeepsThePage(Story& story) {
+    story.Click(wizard, "siguiente").Click(wizard, "siguiente").Click(wizard, "siguiente");
+    for (const char* field : {"TextDensityStandardTemp", "TextDensityStandardP", "Text2", "Text1"})
+        story.Type(wizard, field, "")
+            .Click(wizard, "finalizar")
+            .Box("Gas Flow Computer", "Error: Missing gas flowing viscosity or gas isentropic coefficient",
+                 Icon::Exclamation)
+            .SeeShown(wizard)
+            .SeeVisible(wizard, "siguiente")
+            .Type(wizard, field, "1");
+    story.Click(wizard, "atras");
+    Page(story, 2, "Step 3 of 4", "Pressure measurement and Atmospheric Pressure configuration");
+}
+
+void StandardDecidesWhichGasValuesAreEntered(Story& story) {
+    for (const int standard : {1, 2, 0}) {
+        story.Select(wizard, "CombStandard", standard).Select(wizard, "cbSourceGas", 1);
+        for (int page = 1; page < 4; ++page)
+            story.Click(wizard, "siguiente");
+        story.SeeEnabled(wizard, "Text1", standard == 0).SeeEnabled(wizard, "Text2", standard != 1);
+        for (int page = 3; page > 0; --page)
+            story.Click(wizard, "atras");
+    }
+}
+
+void ModulesAreOffered(Story& story) {
+    story.Click(wizard, "siguiente")
+        .SeeText(wizard, "Combo1", "VA0")
+        .SeeText(wizard, "Combo2", "VL0")
+        .SeeText(wizard, "Combo3", "VF0")
+        .Select(wizard, "Combo3", 1)
+        .SeeText(wizard, "Combo3", "VF1");
 }
 
 void NeitherEscapeNorTheWindowLeaves(Story& story) {
@@ -174,7 +201,10 @@ std::vector<Scenario> WizardPageScenarios() {
         OnThePages("wizard_pressure_controls_follow_the_options", PressureControlsFollowTheOptions),
         OnThePages("wizard_trace_fields_follow_their_box", TracesFollowTheirBox),
         OnThePages("wizard_gross_family_has_no_chromatograph_option", GrossFamilyHasNoChromatographOption),
-        OnThePages("wizard_missing_viscosity_keeps_the_page", MissingViscosityKeepsThePage),
+        OnThePages("wizard_each_missing_value_keeps_the_page", EachMissingValueKeepsThePage),
+        OnThePages("wizard_standard_decides_which_gas_values_are_entered",
+                   StandardDecidesWhichGasValuesAreEntered),
+        OnThePages("wizard_offers_the_working_modules", ModulesAreOffered),
         OnThePages("wizard_second_point_is_stopped_when_the_field_is_left",
                    SecondPointIsStoppedWhenTheFieldIsLeft),
         OnThePages("wizard_is_left_by_its_own_buttons_only", NeitherEscapeNorTheWindowLeaves),
