@@ -2,6 +2,7 @@
 
 #include "config/Units.h"
 #include "config/Vocabulary.h"
+#include "forms/ModuleLists.h"
 
 #include <array>
 
@@ -27,11 +28,8 @@ void Fill(ui::DropDownList& list, const Choices& choices) {
         list.AddEntry(std::string(choice.InWizard));
 }
 
-void FillNames(ui::DropDownList& list, const std::vector<project::Candidate>& candidates) {
-    list.Clear();
-    for (const auto& candidate : candidates)
-        if (!candidate.ModuleName.empty())
-            list.AddEntry(candidate.ModuleName);
+void Offer(ui::DropDownList& list, const std::vector<project::Candidate>& candidates) {
+    FillModuleNames(list, candidates);
     list.SetListIndex(0);
 }
 
@@ -83,9 +81,9 @@ void WizardFC::SetDefaults() {
 }
 
 void WizardFC::FillModules() {
-    FillNames(Combo2, session_.Modules.LongCandidates);
-    FillNames(Combo1, session_.Modules.AnalogCandidates);
-    FillNames(Combo3, session_.Modules.FloatCandidates);
+    Offer(Combo2, session_.Modules.LongCandidates);
+    Offer(Combo1, session_.Modules.AnalogCandidates);
+    Offer(Combo3, session_.Modules.FloatCandidates);
 }
 
 void WizardFC::FillChoices() {
