@@ -1,4 +1,6 @@
+#include "forms/CopyCommands.h"
 #include "forms/GFCPrincipal.h"
+#include "forms/RunCommands.h"
 #include "forms/StationCommands.h"
 #include "forms/StationNodes.h"
 
@@ -31,8 +33,12 @@ constexpr std::array<TabHelp, 4> helpOfRunTabs = {{
 void GFCPrincipal::ConnectMenu() {
     Config.OnClick = [this] { ApplyMenuState(); };
     ConfigWiard.OnClick = [this] { ConfigWiardCommand(program_); };
-    for (auto* later : {&ConfigPar, &erun, &dRun, &copiar1, &copiar2, &undo})
-        later->OnClick = [this] { TellNotBuilt(); };
+    ConfigPar.OnClick = [this] { TellNotBuilt(); };
+    erun.OnClick = [this] { EnableRunCommand(program_); };
+    dRun.OnClick = [this] { DisableRunCommand(program_); };
+    copiar1.OnClick = [this] { CopyToStationCommand(program_); };
+    copiar2.OnClick = [this] { CopyToProjectCommand(program_); };
+    undo.OnClick = [this] { DeleteCommand(program_); };
     exit.OnClick = [this] { Exit(); };
     HelpPrincipal.OnClick = [this] { OpenHelp(ui::Key::F1); };
 }

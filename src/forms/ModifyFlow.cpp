@@ -9,6 +9,7 @@
 #include "forms/MDetail.h"
 #include "forms/TagRuns.h"
 #include "forms/TagsChanged.h"
+#include "forms/UnusedTags.h"
 #include "forms/frSGERG88.h"
 
 namespace gfc::forms {
@@ -43,7 +44,7 @@ ModifyFlow::ModifyFlow(Program& program, const ModifySelection& selection)
       run_(EditedRun(station_)), file_(session_.ConfigFile()) {}
 
 void ModifyFlow::Run(const project::WorkingModuleNames& working) {
-    OfferUnusedTags(working);
+    OfferUnusedTags(program_, working);
     session_.Cancelled = false;
     const BufferKept kept(session_);
     if (!Edit())
@@ -51,23 +52,6 @@ void ModifyFlow::Run(const project::WorkingModuleNames& working) {
     if (selection_.IsMechanicalOnly())
         return SaveMechanical();
     TryAndSave();
-}
-
-// A tag that any binding of the file uses is not offered, not even that of the variable being edited: it
-// comes back to the list when it is undone.
-void ModifyFlow::OfferUnusedTags(const project::WorkingModuleNames& working) {
-    auto& pools = session_.Inventory;
-    auto& expected = session_.Expected;
-    const bool isAGA7 = station_.FlowAlgorithm == config::algorithm::AGA7;
-    project::BuildAvailableLists(pools, working, isAGA7);
-    binding::BuildExpectedTags(program_.Ini, file_, station_, expected);
-    // Deliberately without a look at the result: an edit is how a person mends a file with errors.
-    (void)binding::CheckExpectedTags(expected, pools);
-    binding::RemoveUsedTags(pools.AvailFloat, expected.ExpectedFloat);
-    binding::RemoveUsedTags(pools.AvailDigital, expected.ExpectedDigital);
-    binding::RemoveUsedTags(pools.AvailAnalog, expected.ExpectedAnalog);
-    if (isAGA7)
-        binding::RemoveUsedTags(pools.AvailLong, expected.ExpectedLong);
 }
 
 bool ModifyFlow::Edit() {

@@ -18,8 +18,6 @@ public:
     void Run(const project::WorkingModuleNames& working);
 
 private:
-    void OfferUnusedTags(const project::WorkingModuleNames& working);
-
     // The editors, one after the other. False once one was cancelled.
     [[nodiscard]] bool Edit();
     [[nodiscard]] bool EditMechanical();

@@ -46,6 +46,9 @@ struct Session {
     int GasRun = 0;           // 0 to 4
     bool GasAccepted = false; // the form was accepted
 
+    // What frCopyStation was left with; empty for none.
+    std::string CopyDestination;
+
     // Of the configuration file that was checked last.
     binding::ExpectedTags Expected;
     // The answer of TagsChanged, and whether its log was free of errors of gas inputs: set true by the caller

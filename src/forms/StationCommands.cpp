@@ -100,10 +100,15 @@ void NewConfiguration(Program& program) {
 
 } // namespace
 
-bool OpenStation(Program& program) {
+void ReadStationTags(Program& program) {
     auto& session = program.Session;
     LoadStationTags(program);
     project::BuildInventory(session.Tags, session.Inventory);
+}
+
+bool OpenStation(Program& program) {
+    auto& session = program.Session;
+    ReadStationTags(program);
     return project::ChooseWorkingModules(session.Inventory, session.Modules);
 }
 

@@ -4,6 +4,9 @@ namespace gfc::forms {
 
 struct Program;
 
+// Reads the current station's tags anew and sorts them.
+void ReadStationTags(Program& program);
+
 // Reads the current station's tags anew, sorts them and chooses the candidates of working modules, which is
 // how every command on a station begins. True when every kind of working module has a candidate.
 bool OpenStation(Program& program);

@@ -35,7 +35,6 @@ constexpr std::string_view AnnounceInputs = "Run {run} flow calculation input ta
 constexpr std::string_view AnnounceOutputs = "Run {run} flow calculation output tag assignments";
 constexpr std::string_view AnnounceDetail = "Please enter Run {run} gas composition";
 constexpr std::string_view AnnounceGross = "Please enter SGERG-88/ISO 12213-3 1997 parameters";
-constexpr std::string_view AnnounceGasOutputs = "Run {run} gas properties calculation output tag assignments";
 
 void Replace(std::string& text, std::string_view mark, const std::string& by) {
     for (auto at = text.find(mark); at != std::string::npos; at = text.find(mark, at + by.size()))
@@ -52,9 +51,13 @@ int WizardPass::TotalSteps(const config::StationConfig& station) {
 }
 
 bool WizardPass::Run() {
-    total_ = TotalSteps(station_);
-    step_ = 1;
+    StartCount(TotalSteps(station_));
     return Open() && Common() && EachRun();
+}
+
+void WizardPass::StartCount(int total) {
+    total_ = total;
+    step_ = total > 0 ? 1 : 0;
 }
 
 bool WizardPass::Open() {
@@ -81,15 +84,15 @@ bool WizardPass::EachRun() {
     for (int run = 0; run < config::MaxRuns; ++run) {
         if (!config::IsRunActive(station_, run))
             continue;
-        if (!OneRun({run + 1, element}))
+        const TheRun active{run + 1, element++};
+        if (!Mechanical(active) || !TagsAndGas(active))
             return false;
-        ++element;
     }
     return true;
 }
 
-bool WizardPass::OneRun(const TheRun& run) {
-    return Mechanical(run) && Bind(BindingStage::RunInputs, run, AnnounceInputs) &&
+bool WizardPass::TagsAndGas(const TheRun& run) {
+    return Bind(BindingStage::RunInputs, run, AnnounceInputs) &&
            Bind(BindingStage::RunOutputs, run, AnnounceOutputs) && GasData(run) && GasOutputs(run);
 }
 
@@ -98,7 +101,9 @@ bool WizardPass::Mechanical(const TheRun& run) {
         return true;
     if (station_.FlowAlgorithm == config::algorithm::Accelabar)
         return EditMechanical<FrAccelabar>(run, texts_.AnnounceAccelabar, texts_.AccelabarCaption);
-    return EditMechanical<FrParMec>(run, texts_.AnnounceMechanical, texts_.MechanicalCaption);
+    // An algorithm of another kind has no editor.
+    return !config::IsOrificeAlgorithm(station_.FlowAlgorithm) ||
+           EditMechanical<FrParMec>(run, texts_.AnnounceMechanical, texts_.MechanicalCaption);
 }
 
 template <class Editor>
@@ -168,7 +173,8 @@ void WizardPass::TakeGas(const TheRun& run) {
 bool WizardPass::GasOutputs(const TheRun& run) {
     if (!config::IsGasModel(station_.GasDensitySource))
         return true;
-    return Announce(AnnounceGasOutputs, run, texts_.LastStepOf) && ShowTags(BindingStage::GasOutputs, run);
+    return Announce(texts_.AnnounceGasOutputs, run, texts_.LastStepOf) &&
+           ShowTags(BindingStage::GasOutputs, run);
 }
 
 bool WizardPass::Bind(BindingStage stage, const TheRun& run, std::string_view announcement) {

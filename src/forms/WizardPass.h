@@ -19,6 +19,7 @@ struct PassTexts {
     std::string_view AccelabarCaption;
     std::string_view StepOf;     // between the step and the total
     std::string_view LastStepOf; // the same in a run's last step
+    std::string_view AnnounceGasOutputs = "Run {run} gas properties calculation output tag assignments";
 };
 
 extern const PassTexts WizardPassTexts;
@@ -34,17 +35,22 @@ public:
     // The steps of the pass, without that of a common atmospheric pressure.
     [[nodiscard]] static int TotalSteps(const config::StationConfig& station);
 
-private:
     struct TheRun {
         int Number;  // 1 to 5
         int Element; // of the run records
     };
 
+    // The two halves of one run's steps, for a caller that drives them itself and has prepared the records.
+    // False as in Run.
+    [[nodiscard]] bool Mechanical(const TheRun& run);
+    [[nodiscard]] bool TagsAndGas(const TheRun& run);
+    // Nothing is counted where total is 0.
+    void StartCount(int total);
+
+private:
     bool Open();
     bool Common();
     bool EachRun();
-    bool OneRun(const TheRun& run);
-    bool Mechanical(const TheRun& run);
     template <class Editor>
     bool EditMechanical(const TheRun& run, std::string_view announcement, std::string_view caption);
     bool GasData(const TheRun& run);

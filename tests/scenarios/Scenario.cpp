@@ -5,9 +5,9 @@ namespace gfc::test {
 namespace {
 
 constexpr std::vector<Scenario> (*parts[])() = {
-    StartUpScenarios, SummaryScenarios,   WizardPageScenarios, BindingScenarios,
-    EditorScenarios,  CancelScenarios,    CapacityScenarios,   BindingFieldScenarios,
-    UnitScenarios,    GasEditorScenarios, WizardFileScenarios,
+    StartUpScenarios,    SummaryScenarios,    WizardPageScenarios,   BindingScenarios, EditorScenarios,
+    CancelScenarios,     CapacityScenarios,   BindingFieldScenarios, UnitScenarios,    GasEditorScenarios,
+    WizardFileScenarios, RunCommandScenarios, CopyScenarios,
 };
 
 } // namespace

@@ -30,6 +30,8 @@ struct Scenario {
 [[nodiscard]] std::vector<Scenario> UnitScenarios();
 [[nodiscard]] std::vector<Scenario> GasEditorScenarios();
 [[nodiscard]] std::vector<Scenario> WizardFileScenarios();
+[[nodiscard]] std::vector<Scenario> RunCommandScenarios();
+[[nodiscard]] std::vector<Scenario> CopyScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test
