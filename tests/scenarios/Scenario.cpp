@@ -1,5 +1,7 @@
 #include "scenarios/Scenario.h"
 
+#include <ostream>
+
 namespace gfc::test {
 
 namespace {
@@ -11,6 +13,10 @@ constexpr std::vector<Scenario> (*parts[])() = {
 };
 
 } // namespace
+
+void PrintTo(const Scenario& scenario, std::ostream* out) {
+    *out << scenario.Name;
+}
 
 std::vector<Scenario> AllScenarios() {
     std::vector<Scenario> all;

@@ -4,6 +4,7 @@
 #include "support/World.h"
 
 #include <functional>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,9 @@ struct Scenario {
     // What the program has left behind.
     std::function<void(FakeProgram&)> After;
 };
+
+// For the lists of test runners.
+void PrintTo(const Scenario& scenario, std::ostream* out);
 
 [[nodiscard]] std::vector<Scenario> StartUpScenarios();
 [[nodiscard]] std::vector<Scenario> WizardPageScenarios();
