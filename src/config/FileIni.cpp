@@ -58,13 +58,15 @@ std::string ConfigFilePrefixOf(std::string_view projectFolder) {
 ProjectPaths PathsOf(std::string_view projectFile) {
     ProjectPaths paths;
     paths.ProjectFolder = platform::WithOwnSeparators(platform::ParentFolder(projectFile));
-    paths.ConfigFilePrefix = ConfigFilePrefixOf(paths.ProjectFolder);
+    // A path without a folder leaves no place for the files: better none than the root.
+    if (projectFile.find_first_of("/\\") != std::string_view::npos)
+        paths.ConfigFilePrefix = ConfigFilePrefixOf(paths.ProjectFolder);
     return paths;
 }
 
 std::string ConfigFilePath(const ProjectPaths& paths, std::string_view project, std::string_view station) {
     const std::string name = services::TrimFixedString(station);
-    if (!FileNameBears(project) || !FileNameBears(name))
+    if (paths.ConfigFilePrefix.empty() || !FileNameBears(project) || !FileNameBears(name))
         return {};
     std::string path = paths.ConfigFilePrefix;
     path.append(project);

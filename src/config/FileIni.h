@@ -15,7 +15,7 @@ namespace gfc::config {
 struct ProjectPaths {
     std::string ProjectFolder;    // no trailing separator
     std::string InstallFolder;    // read at start-up; nothing reads it afterwards
-    std::string ConfigFilePrefix; // ProjectFolder, separator, "KDOrmAGA_"
+    std::string ConfigFilePrefix; // ProjectFolder, separator, "KDOrmAGA_"; empty if there is no folder
 };
 
 [[nodiscard]] std::string ConfigFilePrefixOf(std::string_view projectFolder);

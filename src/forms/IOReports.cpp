@@ -2,6 +2,8 @@
 
 #include "forms/Program.h"
 
+#include <algorithm>
+
 namespace gfc::forms {
 
 namespace {
@@ -14,11 +16,13 @@ project::StationCapacity CapacityOf(const Session& session) {
 }
 
 void ReportIOShortage(Program& program, project::ShortageKind kind) {
-    program.Screen.Ask({.Title = project::IOShortageTitle(kind),
-                        .Text = project::IOShortageText(kind, program.Session.Station.ActiveRunCount),
-                        .TheIcon = ui::Icon::Exclamation,
-                        .HelpContext = minimumIOContext,
-                        .HelpFile = helpFile});
+    program.Screen.Ask(
+        {.Title = project::IOShortageTitle(kind),
+         // Before any run is chosen the needs are those of one run.
+         .Text = project::IOShortageText(kind, std::max(1, program.Session.Station.ActiveRunCount)),
+         .TheIcon = ui::Icon::Exclamation,
+         .HelpContext = minimumIOContext,
+         .HelpFile = helpFile});
 }
 
 int MaximumRuns(Program& program, bool isAGA7, bool show) {

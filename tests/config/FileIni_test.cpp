@@ -31,6 +31,11 @@ TEST(ConfigFilePath, takes_a_project_path_with_either_separator) {
     EXPECT_EQ(PathsOf("/plant.KPJ").ConfigFilePrefix, std::string(1, Own) + "KDOrmAGA_");
 }
 
+TEST(ConfigFilePath, has_no_place_beside_a_project_without_a_folder) {
+    EXPECT_EQ(PathsOf("plant.KPJ").ConfigFilePrefix, "");
+    EXPECT_EQ(ConfigFilePath(PathsOf("plant.KPJ"), "plant", "North"), "");
+}
+
 TEST(ConfigFilePath, is_the_projects_own_without_a_station) {
     const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
     EXPECT_EQ(ConfigFilePath(paths, "plant", ""), paths.ConfigFilePrefix + "plant.ini");

@@ -88,6 +88,14 @@ TEST_F(ConfigWiard, asks_for_a_station_when_none_is_selected) {
     Play();
 }
 
+TEST_F(ConfigWiard, refuses_a_station_that_no_file_can_be_named_after) {
+    AddStation("North/1", LargeStationTags());
+    Choose("North/1");
+    TheStory.Box("Gas Flow Computer", "", ui::Icon::Exclamation);
+    Play();
+    EXPECT_TRUE(Files.Content.empty());
+}
+
 TEST_F(ConfigWiard, asks_before_replacing_even_where_there_is_nothing_to_replace) {
     Choose("Large");
     Answer(ui::Answer::No);
@@ -178,7 +186,7 @@ TEST_F(ConfigWiard, goes_by_the_last_register_of_each_kind) {
 TEST_F(ConfigWiard, says_twice_what_a_station_lacks_that_carries_neither) {
     Choose("Small");
     Answer(ui::Answer::Yes);
-    ExpectShortage(0);
+    ExpectShortage(1);
     Play();
     ExpectCleared();
     EXPECT_FALSE(Program.Forms.IsLoaded<WizardFC>());

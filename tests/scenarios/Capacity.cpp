@@ -166,8 +166,8 @@ void UntestedCompositionRunsOutOfTags(Story& story) {
 }
 
 void CarriesNothing(Story& story) {
-    moves::ShortageBox(story, ShortageKind::AGA3Family, 0);
-    moves::ShortageBox(story, ShortageKind::AGA7, 0);
+    moves::ShortageBox(story, ShortageKind::AGA3Family, 1);
+    moves::ShortageBox(story, ShortageKind::AGA7, 1);
     story.SeeShown(selection, false).SeeShown(wizard, false).SeeShown("GFCPrincipal");
 }
 
