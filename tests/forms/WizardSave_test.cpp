@@ -32,6 +32,26 @@ INSTANTIATE_TEST_SUITE_P(Fields, MissingValue,
                          testing::Values("TextDensityStandardTemp", "TextDensityStandardP", "Text1",
                                          "Text2"));
 
+// Next is back beside Finish then, and leads nowhere; but it deliberately takes the frames away.
+TEST(WizardFinish, next_on_the_last_page_hides_the_composition_of_any_source_but_aga8) {
+    for (const int source : {1, 2, 3, 4}) {
+        WizardWorld world;
+        (void)world.Preset(0, source, 1);
+        for (int page = 0; page < 3; ++page)
+            world.TheStory.Click(Form, "siguiente");
+        world.TheStory.Type(Form, "Text1", "")
+            .Click(Form, "finalizar")
+            .Box("Gas Flow Computer", "", ui::Icon::Exclamation)
+            .SeeVisible(Form, "FrCompGas")
+            .Click(Form, "siguiente")
+            .SeeVisible(Form, "FrCompGas", source == 1)
+            .SeeVisible(Form, "FrMetAGA8", source == 1)
+            .SeeVisible(Form, "finalizar")
+            .SeeText(Form, "lbStep", "Step 4 of 4");
+        world.PlayPages();
+    }
+}
+
 TEST(WizardFinish, goes_on_once_the_missing_value_is_there) {
     PassWorld world({0, 0});
     world.Program.Forms.Get<forms::WizardFC>().Text1.SetText("");
