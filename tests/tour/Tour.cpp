@@ -15,6 +15,7 @@
 #include <QTextStream>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -107,7 +108,9 @@ int main(int argc, char* argv[]) {
         QTextStream(stderr) << "usage: gfc-tour FOLDER [SCALE]" << Qt::endl;
         return 2;
     }
-    test::UseOffscreenPlatform(argc == 3 ? std::atoi(argv[2]) : 1);
+    const int scale = argc == 3 ? std::max(1, std::atoi(argv[2])) : 1;
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
+    test::UseOffscreenPlatform(scale);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
