@@ -25,6 +25,8 @@ namespace moves = test::moves;
 
 const QString single = QStringLiteral("Eastfield_Meter");
 const QString large = QStringLiteral("Northgate_Custody");
+const QString skid = QStringLiteral("Skid_Añelo");
+const QString delivery = QStringLiteral("Lakeside_Delivery");
 
 void Print(const QString& line) {
     QTextStream(stdout) << line << Qt::endl;
@@ -68,16 +70,32 @@ void ConfigureStation(test::Story& story, const QString& station, const moves::C
     });
 }
 
+// Every page of what the main window says of the station and of its run.
+void ReadSummaries(test::Story& story, const QString& station, int run) {
+    const std::string window = "GFCPrincipal";
+    const std::string node = "All Stations\\" + station.toStdString();
+    story.ClickNode(window, "TreeGFC", node + "\\Common Parameters");
+    for (const int tab : {1, 2, 0})
+        story.SelectTab(window, "SSTab1", tab);
+    story.ClickNode(window, "TreeGFC", node + "\\Individual Parameters\\Run " + std::to_string(run));
+    for (const int tab : {1, 2, 3, 4, 0})
+        story.SelectTab(window, "SSTab2", tab);
+}
+
 void Tell(test::Story& story) {
     moves::StartUp(story);
     ConfigureStation(story, single, {}, {1});
     ConfigureStation(story, large, {.Standard = 1, .Source = 1}, {1, 2});
+    ConfigureStation(story, skid, {.Standard = 2, .Source = 2}, {1});
+    ConfigureStation(story, delivery, {.Standard = 3, .Source = 1, .Chromatograph = true}, {1});
+    for (const QString& station : {single, large, skid, delivery})
+        ReadSummaries(story, station, 1);
     moves::Exit(story);
 }
 
 bool PrintResults(const QDir& folder) {
     Print(QString());
-    for (const QString& station : {single, large}) {
+    for (const QString& station : {skid, delivery, single, large}) {
         const QString file = folder.filePath(QStringLiteral("project/KDOrmAGA_plant_%1.ini").arg(station));
         if (!QFile::exists(file))
             return false;

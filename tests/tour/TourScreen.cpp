@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QStatusBar>
 #include <QTabWidget>
 
 namespace gfc::tour {
@@ -38,6 +40,11 @@ QString TourScreen::SightOf(const QWidget& window) {
     for (const QTabWidget* pane : panes)
         if (pane->isVisible())
             sight += QString::number(pane->currentIndex());
+    // What stands in the main window is told by its status bar.
+    const auto bars = window.findChildren<QStatusBar*>();
+    for (const QStatusBar* bar : bars)
+        for (const QLabel* panel : bar->findChildren<QLabel*>())
+            sight += panel->text();
     return sight;
 }
 
