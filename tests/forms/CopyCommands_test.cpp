@@ -209,6 +209,17 @@ TEST_F(CopyToProject, copies_into_a_project_in_the_same_folder) {
     EXPECT_EQ(Files.Content.size(), 2U);
 }
 
+TEST_F(CopyToProject, asks_for_a_project_file_and_a_station) {
+    Choose("/jobs/other.KPJ");
+    Answer("");
+    Play();
+    ASSERT_EQ(Screen.FileChoices.size(), 1U);
+    EXPECT_EQ(Screen.FileChoices[0].FilterName, "Project File (*.KPJ)");
+    EXPECT_EQ(Screen.FileChoices[0].Pattern, "*.KPJ");
+    EXPECT_EQ(Screen.Prompts, std::vector<std::string>{
+                                  "Please select the destination station to copy the configuration to: "});
+}
+
 TEST_F(CopyToProject, copies_to_where_the_other_project_looks_for_it) {
     Choose("/fields/gas.d/other.kpj");
     Answer("Far");

@@ -53,6 +53,22 @@ TEST_F(DisableRun, turns_the_run_off_and_leaves_all_else_alone) {
     EXPECT_EQ(Station.Run[1], "Yes") << "the model is not touched";
 }
 
+TEST_F(DisableRun, leaves_the_same_run_of_another_station_alone) {
+    const std::string south = "/jobs/KDOrmAGA_plant_South.ini";
+    const std::string before = Files.Content[south] = File();
+    ChooseAt("All Stations\\South\\Individual Parameters\\Run 5", "dRun");
+    SeeImage(5, "Run");
+    Choose(2, "dRun");
+    TheStory.Check([](Driver& d) {
+        const std::string runs = "All Stations\\South\\Individual Parameters\\";
+        EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", runs + "Run 2"), "Run");
+        EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", runs + "Run 5"), "NoRun");
+    });
+    Play();
+    EXPECT_EQ(Program.Ini.ReadKey("FlowRuns", "Run2", south), "Yes");
+    EXPECT_EQ(Read("FlowRuns", "Run5"), "Yes");
+}
+
 TEST_F(DisableRun, does_not_make_a_file_anew_that_has_gone) {
     TheStory.ClickNode("GFCPrincipal", "TreeGFC", RunNode(2));
     TheStory.Do("delete the file from outside", [this](Driver&) { Files.Content.clear(); });
@@ -200,6 +216,20 @@ TEST_F(EnableRun, reports_a_missing_analog_tag) {
     Choose(2, "erun");
     ExpectFailure(firstLine + logLines);
     Play();
+}
+
+TEST_F(EnableRun, sees_what_has_become_of_the_tags_since_the_last_command) {
+    Choose(2, "erun");
+    TheStory.Box("Run enabled", "", Icon::Information);
+    TheStory.Do("rename a tag in the workshop", [this](Driver&) {
+        for (auto& tag : Library.TagsOf["North"])
+            if (tag.TagName == Read("Run2", "GasTempKDIOTag"))
+                tag.TagName = "RENAMED";
+    });
+    Choose(2, "erun");
+    ExpectFailure("Error : Configuration errors or inconsistecies found in Run 2\r\n" + logLines);
+    Play();
+    EXPECT_EQ(Read("FlowRuns", "Run2"), "No");
 }
 
 TEST_F(EnableRun, is_not_stopped_by_a_tag_of_another_run) {

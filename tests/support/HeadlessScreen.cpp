@@ -78,6 +78,7 @@ ui::Answer HeadlessScreen::Ask(const ui::Box& box) {
 }
 
 std::optional<std::string> HeadlessScreen::ChooseFile(const ui::FileChoice& choice) {
+    FileChoices.push_back(choice);
     const auto* next = TheStory.Peek();
     if (next == nullptr || !std::holds_alternative<ExpectedFileChoice>(*next)) {
         ADD_FAILURE() << "nobody expected the file choice '" << choice.Title << "'";
@@ -86,7 +87,8 @@ std::optional<std::string> HeadlessScreen::ChooseFile(const ui::FileChoice& choi
     return std::get<ExpectedFileChoice>(TheStory.Take()).Path;
 }
 
-std::string HeadlessScreen::AskText(const std::string& title, const std::string&) {
+std::string HeadlessScreen::AskText(const std::string& title, const std::string& prompt) {
+    Prompts.push_back(prompt);
     const auto* next = TheStory.Peek();
     if (next == nullptr || !std::holds_alternative<ExpectedPrompt>(*next)) {
         ADD_FAILURE() << "nobody expected the prompt '" << title << "'";

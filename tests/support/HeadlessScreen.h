@@ -31,6 +31,8 @@ public:
     std::vector<std::pair<std::string, int>> HelpOpened;
     std::vector<std::pair<std::string, ui::WindowState>> TextsViewed;
     std::vector<ui::Box> BoxesShown;
+    std::vector<ui::FileChoice> FileChoices;
+    std::vector<std::string> Prompts;    // the texts above the fields
     std::vector<std::string> FormsShown; // names in the order of showing
     ui::MenuEntry* LastPopUp = nullptr;
     int ExitCode = 0;
