@@ -1,0 +1,107 @@
+#include "PlainStation.h"
+#include "SweepWorld.h"
+#include "binding/ExpectedTags.h"
+#include "forms/StartUp.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+// Every combination that the wizard offers, from the first window to the last, against a second account of
+// the file, of the model and of the summaries.
+namespace gfc::test::sweep {
+namespace {
+
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t from = 0;
+    for (auto end = text.find("\r\n"); end != std::string::npos; end = text.find("\r\n", from)) {
+        lines.push_back(text.substr(from, end - from));
+        from = end + 2;
+    }
+    if (from < text.size())
+        lines.push_back(text.substr(from) + " without an end");
+    return lines;
+}
+
+void ExpectLines(const std::string& written, const PlainFile& expected) {
+    const auto lines = LinesOf(written);
+    const auto plain = expected.Lines();
+    for (std::size_t i = 0; i < lines.size() && i < plain.size(); ++i)
+        ASSERT_EQ(lines[i], plain[i]) << "line " << i + 1;
+    EXPECT_EQ(lines.size(), plain.size());
+}
+
+// The check that stands before every edit finds nothing to say against a fresh file.
+void ExpectNoErrors(SweepWorld& world) {
+    binding::ExpectedTags expected;
+    config::StationConfig station;
+    binding::BuildExpectedTags(world.Program.Ini, world.ConfigFile("North"), station, expected);
+    EXPECT_FALSE(expected.ExpectedFloat.empty());
+    EXPECT_TRUE(binding::CheckExpectedTags(expected, world.Session.Inventory));
+}
+
+void Prove(const Choice& choice) {
+    SCOPED_TRACE(choice.Text());
+    const PlainFile plain = FileOf(choice);
+    SweepWorld world;
+    world.TellConfiguration(choice);
+    world.TheStory.Check([&](Driver&) {
+        ExpectLines(world.WrittenFile(), plain);
+        // As the check goes through run by run, two runs show what five would.
+        if (choice.Runs.size() < 3)
+            ExpectNoErrors(world);
+    });
+    world.TellLook(choice, plain);
+    forms::StartProgram(world.Program);
+    world.Screen.RunToEnd();
+    EXPECT_TRUE(world.Screen.Ended());
+    // Nothing that was looked at was changed, and the file was entered for the station.
+    EXPECT_EQ(world.WrittenFile(), plain.Text());
+    EXPECT_EQ(world.Files.Content.size(), 1U);
+    EXPECT_EQ(world.Library.FilesToLoad.size(), 1U);
+}
+
+class Files : public testing::TestWithParam<Choice> {
+protected:
+    static void TearDownTestSuite() {
+        std::cout << "[  count   ] " << proved << " combinations, " << beyondHands
+                  << " of them with an option that the wizard shuts\n";
+    }
+    static inline int proved = 0;
+    static inline int beyondHands = 0;
+};
+
+TEST_P(Files, of_every_variation_are_as_accounted_and_read_back) {
+    for (const Choice& choice : VariationsOf(GetParam())) {
+        Prove(choice);
+        ++proved;
+        beyondHands += choice.BeyondHands() ? 1 : 0;
+        ASSERT_FALSE(HasFailure()) << choice.Text();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Methods, Files, testing::ValuesIn(Methods()),
+                         [](const auto& method) { return method.param.Name(); });
+
+TEST(Combinations, are_all_that_the_lists_hold) {
+    std::size_t all = 0, beyond = 0;
+    for (const auto& method : Methods()) {
+        all += VariationsOf(method).size();
+        beyond += method.BeyondHands() ? VariationsOf(method).size() : 0;
+    }
+    // Orifices twice, since their diameters come from two places.
+    EXPECT_EQ(all, (2U + 1U + 1U + 2U) * 9U * 5U * 3U * 3U);
+    EXPECT_EQ(beyond, (2U + 1U + 1U + 2U) * 2U * 5U * 3U * 3U);
+}
+
+TEST(Combinations, of_the_largest_need_leave_the_station_almost_nothing) {
+    const auto& pools = FreeTags();
+    EXPECT_EQ(pools.Floats.size(), 220U);
+    EXPECT_EQ(pools.Digitals.size(), 22U);
+    EXPECT_EQ(pools.Longs.size(), 6U);
+    EXPECT_EQ(pools.Analogs.size(), 12U);
+}
+
+} // namespace
+} // namespace gfc::test::sweep
