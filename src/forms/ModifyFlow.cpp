@@ -156,8 +156,9 @@ void ModifyFlow::SaveWithErrors() {
     ApplyModifiedTags(program_.Ini, station_, selection_, file_);
     binding::DisableRunsWithErrors(program_.Ini, session_.Expected, file_);
     // Deliberately whatever the error was: a run whose gas inputs were edited goes off with it.
-    if (selection_.GasInputs && run_ > 0)
-        DisableRun(run_);
+    for (int run = 1; selection_.GasInputs && run <= config::MaxRuns; ++run)
+        if (station_.Run.at(static_cast<std::size_t>(run - 1)) == config::Yes)
+            DisableRun(run);
     const bool composition =
         config::IsGasModel(station_.GasDensitySource) && station_.AGA8CalInput == config::CompositionMeasured;
     if (!composition || session_.GasInputsValid)

@@ -102,4 +102,38 @@ TEST(ModifyFlowOffers, offers_a_tag_that_an_earlier_window_has_freed) {
     world.Play();
 }
 
+TEST(ModifyFlowOffers, are_taken_for_a_whole_composition_at_once) {
+    ModifyWorld world({"AGA3", "AGA8", "MEASURED"});
+    world.TickAndAccept({5});
+    // One by one is not possible here; all go back, and the first on offer come in their place.
+    world.TheStory.SeeEnabled("TagRuns", "Command1", false)
+        .SeeEnabled("TagRuns", "Command4", false)
+        .Click("TagRuns", "Command3")
+        .Click("TagRuns", "Command6")
+        .Box("Automatic Tags assignments", "", ui::Icon::Information);
+    world.Continue();
+    world.SaveAfterTrial();
+    world.Play();
+    // 35 floats of each run, and four digitals, are in use.
+    EXPECT_EQ(world.Key("Run2", "GC_C1KDIOTag"), "FT-71");
+    EXPECT_EQ(world.Key("Run2", "GC_ArKDIOTag"), "FT-91");
+    EXPECT_EQ(world.Key("Run2", "GCEnableKDIOTag"), "XS-9");
+    EXPECT_EQ(world.Key("Run4", "GC_C1KDIOTag"), "FT-43");
+}
+
+TEST(ModifyFlowOffers, do_not_count_for_a_composition_that_is_copied_from_the_file) {
+    ModifyWorld world({"AGA3", "AGA8", "MEASURED"});
+    world.TickAndAccept({5});
+    world.TheStory.SeeVisible("TagRuns", "Option1_0", false)
+        .SeeVisible("TagRuns", "Option1_1", false)
+        .Click("TagRuns", "Command3")
+        .Click("TagRuns", "Option1_3")
+        .Click("TagRuns", "CopyGasCompButton");
+    world.Continue();
+    world.SaveAfterTrial();
+    world.Play();
+    EXPECT_EQ(world.Key("Run2", "GC_C1KDIOTag"), world.Key("Run4", "GC_C1KDIOTag"));
+    EXPECT_EQ(world.Key("Run2", "GCEnableKDIORegAddr"), world.Key("Run4", "GCEnableKDIORegAddr"));
+}
+
 } // namespace gfc::test
