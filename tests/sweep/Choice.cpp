@@ -1,5 +1,7 @@
 #include "Choice.h"
 
+#include <ostream>
+
 namespace gfc::test::sweep {
 
 namespace {
@@ -18,6 +20,10 @@ std::string OnlyLetters(const std::string& text) {
 }
 
 } // namespace
+
+void PrintTo(const Choice& choice, std::ostream* out) {
+    *out << choice.Text();
+}
 
 std::string AlgorithmText(const Choice& choice) {
     return algorithms[choice.Standard];

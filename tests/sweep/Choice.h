@@ -1,5 +1,6 @@
 #pragma once
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ struct Choice {
     // The same of standard, source and composition alone, as the name of a test.
     [[nodiscard]] std::string Name() const;
 };
+
+// For messages of failures.
+void PrintTo(const Choice& choice, std::ostream* out);
 
 // The texts that are stored.
 [[nodiscard]] std::string AlgorithmText(const Choice& choice);
