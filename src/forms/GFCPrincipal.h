@@ -101,7 +101,6 @@ private:
     [[nodiscard]] int HelpContext() const;
 
     void ApplyMenuState();
-    void TellNotBuilt();
     void TreePressed(ui::MouseButton button);
     void NodeClicked(int node);
     void SelectRememberedNode();

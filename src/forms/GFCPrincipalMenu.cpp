@@ -33,7 +33,7 @@ constexpr std::array<TabHelp, 4> helpOfRunTabs = {{
 void GFCPrincipal::ConnectMenu() {
     Config.OnClick = [this] { ApplyMenuState(); };
     ConfigWiard.OnClick = [this] { ConfigWiardCommand(program_); };
-    ConfigPar.OnClick = [this] { TellNotBuilt(); };
+    ConfigPar.OnClick = [this] { ConfigParCommand(program_); };
     erun.OnClick = [this] { EnableRunCommand(program_); };
     dRun.OnClick = [this] { DisableRunCommand(program_); };
     copiar1.OnClick = [this] { CopyToStationCommand(program_); };
@@ -41,12 +41,6 @@ void GFCPrincipal::ConnectMenu() {
     undo.OnClick = [this] { DeleteCommand(program_); };
     exit.OnClick = [this] { Exit(); };
     HelpPrincipal.OnClick = [this] { OpenHelp(ui::Key::F1); };
-}
-
-void GFCPrincipal::TellNotBuilt() {
-    program_.Screen.Ask({.Title = "Gas Flow Computer",
-                         .Text = "This command is not built yet.",
-                         .TheIcon = ui::Icon::Information});
 }
 
 void GFCPrincipal::ApplyMenuState() {

@@ -38,6 +38,9 @@ void GFCPrincipal::SelectRememberedNode() {
     // A node that has gone with its file is no choice any more.
     if (TreeGFC.SelectedNode() == 0)
         session_.SelectedNodeText.clear();
+    else if (selected != node::AllStations)
+        // The command may have forgotten the station; the next one finds it selected.
+        session_.Station.CurrentStation = project::StationOfPath(session_.SelectedPath);
 }
 
 void GFCPrincipal::HidePanes() {

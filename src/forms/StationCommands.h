@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace gfc::forms {
 
 struct Program;
@@ -16,5 +18,10 @@ void ClearSession(Program& program);
 
 // "Configuration  Wizard": makes a station's configuration from nothing.
 void ConfigWiardCommand(Program& program);
+
+// "Configure": edits the common parameters at a station or common node, the tags of a run at a run's node.
+void ConfigParCommand(Program& program);
+// On a run that is off in the file it means to enable it: then that command is run, and the result is true.
+bool ConfigureDisabledRun(Program& program, const std::string& nodeText);
 
 } // namespace gfc::forms

@@ -33,8 +33,12 @@ constexpr std::string_view IndividualParameters = "Individual Parameters";
     return StationPath(station) + "\\" + std::string(CommonParameters);
 }
 
+[[nodiscard]] inline std::string IndividualPath(std::string_view station) {
+    return StationPath(station) + "\\" + std::string(IndividualParameters);
+}
+
 [[nodiscard]] inline std::string RunPath(std::string_view station, int run) {
-    return StationPath(station) + "\\" + std::string(IndividualParameters) + "\\" + RunText(run);
+    return IndividualPath(station) + "\\" + RunText(run);
 }
 
 // True where a command has no station to work on.

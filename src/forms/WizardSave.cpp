@@ -1,6 +1,6 @@
 // The end of the wizard: the pass over the runs, the save, and the ways out.
 #include "config/ConfigWriter.h"
-#include "forms/GFCPrincipal.h"
+#include "forms/MainWindow.h"
 #include "forms/SelectRuns.h"
 #include "forms/Step.h"
 #include "forms/TagRuns.h"
@@ -8,28 +8,6 @@
 #include "forms/WizardPass.h"
 
 namespace gfc::forms {
-
-namespace {
-
-void HideMainWindow(Program& program) {
-    if (program.Forms.IsLoaded<GFCPrincipal>())
-        program.Forms.Get<GFCPrincipal>().Hide();
-}
-
-// A main window that is not there any more stays away: the program is about to end.
-void ShowMainWindow(Program& program) {
-    if (program.Forms.IsLoaded<GFCPrincipal>())
-        program.Forms.Get<GFCPrincipal>().Show();
-}
-
-// Everything that belongs to the station, the records of its runs and its tag lists too.
-void ForgetStation(Session& session) {
-    config::ResetStationConfig(session.Station);
-    session.Station.Runs = {};
-    session.Inventory = {};
-}
-
-} // namespace
 
 void WizardFC::Finish() {
     if (LacksValue()) {

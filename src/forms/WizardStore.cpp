@@ -1,17 +1,10 @@
 // What the wizard's pages say, as the texts that are stored.
 #include "config/Vocabulary.h"
+#include "forms/CommonStore.h"
 #include "forms/WizardFC.h"
 #include "project/WorkingModules.h"
 
 namespace gfc::forms {
-
-namespace {
-
-std::string YesOrNo(bool yes) {
-    return std::string(yes ? config::Yes : config::No);
-}
-
-} // namespace
 
 void WizardFC::StoreWizardValues() {
     StoreChoices();
@@ -24,14 +17,8 @@ void WizardFC::StoreChoices() {
     auto& station = session_.Station;
     station.FlowAlgorithm = config::StoredAlgorithm(CombStandard.Text());
     station.FlagAGA7 = station.FlowAlgorithm == config::algorithm::AGA7;
-    station.GasDensitySource = config::StoredSource(cbSourceGas.Text());
-    station.Measured = ShowsDensimeter();
+    StoreSource(station, config::StoredSource(cbSourceGas.Text()), OptCromatografo.Value());
     station.SystemUnits = CombUnits.Text();
-    if (!ShowsDensimeter()) {
-        station.AGA8Method = config::DetailMethod;
-        station.AGA8CalInput =
-            OptCromatografo.Value() ? config::CompositionMeasured : config::CompositionFixed;
-    }
     station.StandardT = TextDensityStandardTemp.Text();
     station.StandardP = TextDensityStandardP.Text();
     station.FlowingViscosity = Text1.Text();
@@ -40,22 +27,11 @@ void WizardFC::StoreChoices() {
 }
 
 void WizardFC::StorePressure() {
-    auto& station = session_.Station;
-    const bool external = OptGagePress.Value() && OptAtmPressExt.Value();
-    station.PressType = OptGagePress.Value() ? config::Gage : config::Absolute;
-    station.ExtAtmPress = YesOrNo(external);
-    if (!external)
-        station.AtmPress = txtAtmPress.Text();
+    forms::StorePressure(session_.Station, OptGagePress.Value(), OptAtmPressExt.Value(), txtAtmPress.Text());
 }
 
 void WizardFC::StoreTraces() {
-    auto& station = session_.Station;
-    station.EnableDataTraces = YesOrNo(Check1.Value());
-    // Without traces the model keeps what it holds, and that is what the file gets.
-    if (!Check1.Value())
-        return;
-    station.DeviceDataTraces = TextDevice.Text();
-    station.NumberTraces = TextNumTraces.Text();
+    forms::StoreTraces(session_.Station, Check1.Value(), TextDevice.Text(), TextNumTraces.Text());
 }
 
 void WizardFC::StoreModules() {

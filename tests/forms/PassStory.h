@@ -15,18 +15,28 @@ struct PassChoices {
     std::vector<int> Runs = {2, 5};
 };
 
+// The words of the pass that differ by who drives it; the wizard's, unless others are given.
+struct PassWords {
+    std::string Accelabar = " Mechanical parameters";
+    std::string ExternalGross = " external SGERG88 Gas Parameters I/O configuration";
+    bool StationFirst = false; // in the captions of the editors
+    std::string LastStepOf = " of ";
+};
+
 // One dialog of the pass: what Step announces before it, the window, and how it is gone through.
 struct PassDialog {
     std::string Announced;
     std::string Window;
     std::string Caption; // empty: not looked at
     std::function<void(Story&)> GoThrough;
+    std::string StepOf = " of ";
 };
 
 // The pass as a person meets it, told independently of the code that runs it.
 class PassStory {
 public:
-    explicit PassStory(PassChoices choices) : choices_(std::move(choices)) {
+    explicit PassStory(PassChoices choices, PassWords words = {})
+        : choices_(std::move(choices)), words_(std::move(words)) {
         if (choices_.External)
             AddCommon();
         for (const int run : choices_.Runs)
@@ -59,7 +69,7 @@ public:
             const auto& dialog = dialogs_.at(i);
             story.SeeText("Step", "Label1", dialog.Announced)
                 .SeeText("Step", "Label2",
-                         "Step " + std::to_string(i + 1) + " of " + std::to_string(dialogs_.size()))
+                         "Step " + std::to_string(i + 1) + dialog.StepOf + std::to_string(dialogs_.size()))
                 .Click("Step", "Command1")
                 .SeeShown(dialog.Window);
             if (!dialog.Caption.empty())
@@ -102,8 +112,8 @@ private:
         if (densimeter)
             return;
         AddGas(run, name);
-        dialogs_.push_back(
-            {name + " gas properties calculation output tag assignments", "TagRuns", "", AutoBind});
+        dialogs_.push_back({name + " gas properties calculation output tag assignments", "TagRuns", "",
+                            AutoBind, words_.LastStepOf});
     }
     [[nodiscard]] std::string InputCaption(const std::string& name) const {
         const char* system = choices_.Standard == 1   ? "AGA-7"
@@ -111,14 +121,17 @@ private:
                                                       : "AGA-3";
         return std::string("Configuring the ") + system + " Input Tags for " + name;
     }
+    [[nodiscard]] std::string EditorCaption(const std::string& what, int run) const {
+        const std::string where = "Station: North, Run: " + std::to_string(run);
+        return words_.StationFirst ? where + " " + what : what + " " + where;
+    }
     // Each run gets values of its own, so that none is found under another.
     void AddMechanical(int run, const std::string& name) {
         const bool accelabar = choices_.Standard == 2;
         const std::string window = accelabar ? "FrAccelabar" : "FrParMec";
         dialogs_.push_back(
-            {name + " Mechanical parameters", window,
-             (accelabar ? "Accelabar" : "Mechanical") + std::string(" Parameters Station: North, Run: ") +
-                 std::to_string(run),
+            {name + (accelabar ? words_.Accelabar : " Mechanical parameters"), window,
+             EditorCaption(accelabar ? "Accelabar Parameters" : "Mechanical Parameters", run),
              [run, accelabar](Story& story) {
                  if (accelabar)
                      story.Select("FrAccelabar", "Combo1", run).Click("FrAccelabar", "Command1");
@@ -131,9 +144,9 @@ private:
     void AddGas(int run, const std::string& name) {
         const bool gross = choices_.Source % 2 == 0;
         if (choices_.Outside) {
-            dialogs_.push_back({name + (gross ? " external SGERG88 Gas Parameters I/O configuration"
-                                              : " external AGA-8 Gas Composition I/O configuration."),
-                                "TagRuns", "", AutoBind});
+            dialogs_.push_back(
+                {name + (gross ? words_.ExternalGross : " external AGA-8 Gas Composition I/O configuration."),
+                 "TagRuns", "", AutoBind});
             return;
         }
         if (gross)
@@ -161,6 +174,7 @@ private:
     }
 
     PassChoices choices_;
+    PassWords words_;
     std::vector<PassDialog> dialogs_;
 };
 
