@@ -40,7 +40,7 @@ void GFCPrincipal::SelectRememberedNode() {
         session_.SelectedNodeText.clear();
     else if (selected != node::AllStations)
         // The command may have forgotten the station; the next one finds it selected.
-        session_.Station.CurrentStation = project::StationOfPath(session_.SelectedPath);
+        session_.Station.CurrentStation = StationOf(TreeGFC.SelectedNode());
 }
 
 void GFCPrincipal::HidePanes() {

@@ -7,9 +7,10 @@ namespace gfc::test {
 namespace {
 
 constexpr std::vector<Scenario> (*parts[])() = {
-    StartUpScenarios,    SummaryScenarios,    WizardPageScenarios,   BindingScenarios, EditorScenarios,
-    CancelScenarios,     CapacityScenarios,   BindingFieldScenarios, UnitScenarios,    GasEditorScenarios,
-    WizardFileScenarios, RunCommandScenarios, CopyScenarios,
+    StartUpScenarios, SummaryScenarios,      WizardPageScenarios, BindingScenarios,
+    EditorScenarios,  CancelScenarios,       CapacityScenarios,   BindingFieldScenarios,
+    UnitScenarios,    GasEditorScenarios,    WizardFileScenarios, RunCommandScenarios,
+    CopyScenarios,    ConfiguradorScenarios,
 };
 
 } // namespace
