@@ -3,6 +3,7 @@
 #include "config/Units.h"
 #include "config/Vocabulary.h"
 #include "forms/Configurador.h"
+#include "forms/ModuleLists.h"
 #include "services/Text.h"
 
 namespace gfc::forms {
@@ -16,21 +17,6 @@ void Fill(ui::DropDownList& list, const Choices& choices) {
     list.Clear();
     for (const auto& choice : choices)
         list.AddEntry(std::string(choice.InConfigurador));
-}
-
-void FillNames(ui::DropDownList& list, const std::vector<project::Candidate>& candidates) {
-    list.Clear();
-    for (const auto& candidate : candidates)
-        if (!candidate.ModuleName.empty())
-            list.AddEntry(candidate.ModuleName);
-}
-
-// A name that is no candidate any more selects nothing.
-void SelectName(ui::DropDownList& list, const std::string& name) {
-    const auto& entries = list.Entries();
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        if (services::EqualNoCase(entries[i], name))
-            return list.SetListIndex(static_cast<int>(i));
 }
 
 bool IsYes(const std::string& text) {
@@ -66,9 +52,9 @@ void Configurador::FillLists() {
     Fill(CombStandard, config::FlowAlgorithms);
     Fill(CombUnits, config::UnitSystems);
     Fill(cbSourceGas, config::GasDensitySources);
-    FillNames(Combo2, session_.Modules.LongCandidates);
-    FillNames(Combo1, session_.Modules.AnalogCandidates);
-    FillNames(Combo3, session_.Modules.FloatCandidates);
+    FillModuleNames(Combo2, session_.Modules.LongCandidates);
+    FillModuleNames(Combo1, session_.Modules.AnalogCandidates);
+    FillModuleNames(Combo3, session_.Modules.FloatCandidates);
 }
 
 void Configurador::LoadNew() {
@@ -116,9 +102,9 @@ void Configurador::ShowStored() {
 
 void Configurador::ShowStoredModules() {
     const auto& working = session_.Station.WorkingModules;
-    SelectName(Combo2, working.WrkIntLongModName);
-    SelectName(Combo1, working.WrkAnalogModName);
-    SelectName(Combo3, working.WrkFloatModName);
+    ShowModule(Combo2, working.WrkIntLongModName);
+    ShowModule(Combo1, working.WrkAnalogModName);
+    ShowModule(Combo3, working.WrkFloatModName);
 }
 
 void Configurador::ShowStoredTraces() {

@@ -2,8 +2,10 @@
 #include "binding/ExpectedTags.h"
 #include "config/Vocabulary.h"
 #include "forms/Configurador.h"
+#include "forms/FrModificarTags.h"
 #include "forms/GFCPrincipal.h"
 #include "forms/IOReports.h"
+#include "forms/RunCommands.h"
 #include "forms/StationCommands.h"
 #include "forms/StationNodes.h"
 
@@ -51,13 +53,6 @@ void PresetConfigurador(Program& program, int standard) {
     form.CombStandard.SetListIndex(standard);
 }
 
-void EditOneRun(Program& program) {
-    program.Screen.Ask({.Title = "Gas Flow Computer",
-                        .Text = "This command is not built yet.",
-                        .TheIcon = ui::Icon::Information});
-    program.Session.Modules.ClearCounts();
-}
-
 void EditStation(Program& program, int standard, bool stored) {
     if (!stored)
         PresetConfigurador(program, standard);
@@ -80,7 +75,7 @@ void Configure(Program& program) {
     (void)MaximumRuns(program, session.Station.FlagAGA7, !stored);
     session.SelectedNodeText = selected;
     if (IsForOneRun(selected))
-        return EditOneRun(program);
+        return program.Forms.Get<FrModificarTags>().ShowModal();
     EditStation(program, *standard, stored);
 }
 
@@ -93,8 +88,7 @@ bool ConfigureDisabledRun(Program& program, const std::string& nodeText) {
     const std::string key = "Run" + std::to_string(run);
     if (program.Ini.ReadKey("FlowRuns", key, program.Session.ConfigFile()) != config::No)
         return false;
-    const auto enable = program.Forms.Get<GFCPrincipal>().erun.OnClick;
-    enable();
+    EnableRunCommand(program);
     return true;
 }
 
@@ -105,6 +99,8 @@ void ConfigParCommand(Program& program) {
         program.Screen.Ask({.Title = "Orm Gas Flow Computer", .Text = "Please select one Station."});
         return;
     }
+    if (!HasPlaceForItsFile(program))
+        return;
     Configure(program);
     if (!program.Screen.Ended())
         program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();

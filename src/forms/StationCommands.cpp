@@ -82,19 +82,6 @@ void SelectRunsAndGoOn(Program& program) {
     selection.ShowModal();
 }
 
-// Said before the work is done, and not after it.
-bool HasPlaceForItsFile(Program& program) {
-    if (!program.Session.ConfigFile().empty())
-        return true;
-    program.Screen.Ask(
-        {.Title = "Gas Flow Computer",
-         .Text = "The configuration of this station could not be saved:\r\n"
-                 "the name of the station, or the path of the project, cannot be that of a file.\r\n"
-                 "Please rename the station, or open the project from its folder, in the I/O Workshop.",
-         .TheIcon = ui::Icon::Exclamation});
-    return false;
-}
-
 void NewConfiguration(Program& program) {
     int& activeRuns = program.Session.Station.ActiveRunCount;
     // Nothing is carried over from an earlier command.
@@ -112,6 +99,18 @@ void NewConfiguration(Program& program) {
 }
 
 } // namespace
+
+bool HasPlaceForItsFile(Program& program) {
+    if (!program.Session.ConfigFile().empty())
+        return true;
+    program.Screen.Ask(
+        {.Title = "Gas Flow Computer",
+         .Text = "The configuration of this station could not be saved:\r\n"
+                 "the name of the station, or the path of the project, cannot be that of a file.\r\n"
+                 "Please rename the station, or open the project from its folder, in the I/O Workshop.",
+         .TheIcon = ui::Icon::Exclamation});
+    return false;
+}
 
 void ReadStationTags(Program& program) {
     auto& session = program.Session;

@@ -13,6 +13,10 @@ void ReadStationTags(Program& program);
 // how every command on a station begins. True when every kind of working module has a candidate.
 bool OpenStation(Program& program);
 
+// False, after saying so, for a station whose configuration no file can hold: better before the work is done
+// than after it.
+[[nodiscard]] bool HasPlaceForItsFile(Program& program);
+
 // Forgets the station that is open. A command that ends with nothing configured calls it.
 void ClearSession(Program& program);
 

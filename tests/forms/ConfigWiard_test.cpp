@@ -243,12 +243,6 @@ TEST_F(ConfigWiard, presets_the_wizard_of_the_station_at_hand) {
     Play();
 }
 
-TEST_F(ConfigWiard, a_command_that_is_not_built_yet_says_so) {
-    TheStory.Menu("GFCPrincipal", "ConfigPar")
-        .Box("Gas Flow Computer", "This command is not built yet.", ui::Icon::Information);
-    Play();
-}
-
 } // namespace
 
 } // namespace gfc::test

@@ -7,7 +7,7 @@ namespace gfc::test {
 namespace {
 
 const std::string window = "GFCPrincipal";
-const std::string notBuilt = "This command is not built yet.";
+const std::string modify = "FrModificarTags";
 
 // 8 free floats and 5 free longs: too few for AGA-3, enough for one run of AGA-7.
 project::TagList TurbineTags() {
@@ -37,7 +37,10 @@ struct ConfigureCommand : testing::Test, World {
         Program.Forms.Get<forms::GFCPrincipal>().Show();
         Screen.RunToEnd();
     }
-    void TellNotBuilt() { TheStory.Box("Gas Flow Computer", notBuilt, ui::Icon::Information); }
+    void DeclineToConfigureTheRun() {
+        TheStory.Box("Configure Run", "The selected run is not configured. Do you want to configure it?",
+                     ui::Icon::Information, ui::Answer::No);
+    }
     void ExpectCleared() {
         EXPECT_EQ(Station.CurrentStation, "");
         EXPECT_EQ(Session.SelectedNodeText, "");
@@ -133,37 +136,41 @@ TEST_F(ConfigureCommand, says_once_what_is_missing_without_working_modules) {
     ExpectCleared();
 }
 
-TEST_F(ConfigureCommand, means_enable_at_a_run_that_is_off) {
+TEST_F(ConfigureCommand, means_enable_and_nothing_else_at_a_run_that_is_off) {
     File("North") = WizardFile("aga3_densimeter");
     Configure("North\\Individual Parameters\\Run 1");
-    TellNotBuilt();
+    DeclineToConfigureTheRun();
     Play();
-    EXPECT_FALSE(WasRead());
+    EXPECT_EQ(Screen.FormsShown, std::vector<std::string>{window});
     EXPECT_EQ(Session.SelectedNodeText, "Run 1");
 }
 
 TEST_F(ConfigureCommand, a_run_is_off_by_the_exact_word_only) {
     File("North") = With(WizardFile("aga3_densimeter"), "Run1=No", "Run1=no");
-    Station.CurrentStation = "North";
-    Program.Session.Project.Paths = config::PathsOf("/jobs/plant.KPJ");
-    Program.Session.Project.ProjectName = "plant";
-    EXPECT_FALSE(forms::ConfigureDisabledRun(Program, "Run 1"));
-    EXPECT_FALSE(forms::ConfigureDisabledRun(Program, "Run 2"));
-    EXPECT_FALSE(forms::ConfigureDisabledRun(Program, "North"));
-    TellNotBuilt();
-    EXPECT_TRUE(forms::ConfigureDisabledRun(Program, "Run 3"));
+    OpenProject();
+    OpenStation("North");
+    for (const char* node : {"Run 1", "Run 2", "North", "Individual Parameters", ""})
+        EXPECT_FALSE(forms::ConfigureDisabledRun(Program, node)) << node;
 }
 
 TEST_F(ConfigureCommand, leads_to_the_tags_at_nodes_of_runs) {
     File("North") = WizardFile("aga3_densimeter");
     for (const char* node : {"Individual Parameters", "Individual Parameters\\Run 2"}) {
         Configure(std::string("North\\") + node);
-        TellNotBuilt();
+        TheStory.SeeShown(modify).Click(modify, "Command2");
     }
     Play();
-    EXPECT_TRUE(WasRead());
     EXPECT_FALSE(Program.Forms.IsLoaded<forms::Configurador>());
     EXPECT_EQ(Session.Modules.NFX, 0);
+}
+
+TEST_F(ConfigureCommand, refuses_a_station_that_has_no_place_for_its_file) {
+    AddStation("North/South", LargeStationTags());
+    TheStory.ClickNode(window, "TreeGFC", "All Stations\\North/South")
+        .Menu(window, "ConfigPar")
+        .Box("Gas Flow Computer", "", ui::Icon::Exclamation);
+    Play();
+    EXPECT_FALSE(WasRead());
 }
 
 TEST_F(ConfigureCommand, ends_in_a_rebuilt_tree_with_the_station_still_selected) {
