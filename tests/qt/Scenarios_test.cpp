@@ -4,13 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 namespace gfc::test {
-
-void PrintTo(const Scenario& scenario, std::ostream* out) {
-    *out << scenario.Name;
-}
 
 class InWindows : public ::testing::TestWithParam<Scenario> {};
 
