@@ -164,6 +164,28 @@ TEST_F(ConfigureCommand, leads_to_the_tags_at_nodes_of_runs) {
     EXPECT_EQ(Session.Modules.NFX, 0);
 }
 
+TEST_F(ConfigureCommand, finds_the_run_still_selected_after_an_edit) {
+    File("North") = WizardFile("aga3_densimeter");
+    const std::string title = "Change I/O Tags and Gas Composition   Station : North (Run 5)";
+    Configure("North\\Individual Parameters\\Run 5");
+    TheStory
+        .SeeCaption(modify, title)
+        // The tags were read and compared before.
+        .Check([this](Driver&) {
+            EXPECT_FALSE(Session.Inventory.VirtFX.empty());
+            EXPECT_FALSE(Session.Expected.ExpectedFloat.empty());
+        })
+        .Click(modify, "Command2")
+        .Check([this](Driver&) {
+            EXPECT_EQ(Station.CurrentStation, "North");
+            EXPECT_EQ(Session.SelectedNodeText, "Run 5");
+        })
+        .Menu(window, "ConfigPar")
+        .SeeCaption(modify, title)
+        .Click(modify, "Command2");
+    Play();
+}
+
 TEST_F(ConfigureCommand, refuses_a_station_that_has_no_place_for_its_file) {
     AddStation("North/South", LargeStationTags());
     TheStory.ClickNode(window, "TreeGFC", "All Stations\\North/South")

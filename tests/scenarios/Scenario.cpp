@@ -10,7 +10,7 @@ constexpr std::vector<Scenario> (*parts[])() = {
     StartUpScenarios, SummaryScenarios,      WizardPageScenarios, BindingScenarios,
     EditorScenarios,  CancelScenarios,       CapacityScenarios,   BindingFieldScenarios,
     UnitScenarios,    GasEditorScenarios,    WizardFileScenarios, RunCommandScenarios,
-    CopyScenarios,    ConfiguradorScenarios,
+    CopyScenarios,    ConfiguradorScenarios, ModifyTagsScenarios,
 };
 
 } // namespace

@@ -37,6 +37,7 @@ void PrintTo(const Scenario& scenario, std::ostream* out);
 [[nodiscard]] std::vector<Scenario> RunCommandScenarios();
 [[nodiscard]] std::vector<Scenario> CopyScenarios();
 [[nodiscard]] std::vector<Scenario> ConfiguradorScenarios();
+[[nodiscard]] std::vector<Scenario> ModifyTagsScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test
