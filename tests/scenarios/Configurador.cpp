@@ -194,6 +194,61 @@ void WindowsOwnCommandCloses(Story& story) {
     story.Menu(configurador, "PG").CloseWindow(configurador).SeeShown("GFCPrincipal");
 }
 
+void ARunThatDoesNotFit(Story& story) {
+    story.ClickNode("GFCPrincipal", "TreeGFC", north)
+        .Menu("GFCPrincipal", "ConfigPar")
+        // The estimate and the gate deliberately count by different numbers.
+        .Box("Gas Flow Computer", "Only two Runs can be configured", Icon::Information)
+        .Menu(configurador, "ConfigAll")
+        .Click(configurador, "Run11")
+        .Click(configurador, "Run22")
+        .Box("Error: Configuring AGA3", "", Icon::Exclamation)
+        .SeeChecked(configurador, "Run22", false)
+        .SeeChecked(configurador, "Run11")
+        .Select(configurador, "cbSourceGas", 2)
+        .Box("Error: Configuring AGA3", "", Icon::Exclamation)
+        .SeeText(configurador, "cbSourceGas", "Densimeter");
+    Cancel(story);
+}
+
+// Under AGA-7 the viscosity can be edited after the list's click, until its tab is entered.
+void StandardChangesWhatIsEnabled(Story& story) {
+    Configure(story, north);
+    story.Menu(configurador, "ConfigAll")
+        .Select(configurador, "CombStandard", 1)
+        .SeeEnabled(configurador, "Text4_1")
+        .SeeEnabled(configurador, "FrameAtmPress", false)
+        .SelectTab(configurador, "SSTab2", 1)
+        .SeeEnabled(configurador, "Text4_1", false)
+        .SeeEnabled(configurador, "Text3_1", false)
+        .SelectTab(configurador, "SSTab2", 0)
+        .Select(configurador, "CombStandard", 3)
+        .SeeText(configurador, "CombUnits", "US")
+        .SelectTab(configurador, "SSTab2", 1)
+        .SeeEnabled(configurador, "Text4_1")
+        .SeeEnabled(configurador, "OptGagePress")
+        .Click(configurador, "OptGagePress")
+        .SeeEnabled(configurador, "txtAtmPress");
+    Cancel(story);
+}
+
+// At a run's node the command means its tags, and at one that is off its enabling.
+void NodesOfRuns(Story& story) {
+    story.ClickNode("GFCPrincipal", "TreeGFC", north + "\\Individual Parameters\\Run 1")
+        .Menu("GFCPrincipal", "ConfigPar")
+        .Box("Configure Run", "The selected run is not configured. Do you want to configure it?",
+             Icon::Information, Answer::No)
+        .ClickNode("GFCPrincipal", "TreeGFC", north + "\\Individual Parameters")
+        .Menu("GFCPrincipal", "ConfigPar")
+        .SeeShown("FrModificarTags")
+        .Click("FrModificarTags", "Command2")
+        .SeeShown("GFCPrincipal");
+}
+
+void RoomForOneRun(FakeProgram& program) {
+    program.AddStation("North", LargeStationTags(17));
+}
+
 void NothingWritten(FakeProgram& program) {
     EXPECT_FALSE(program.Files.Content.contains(northFile));
 }
@@ -213,6 +268,12 @@ std::vector<Scenario> ConfiguradorScenarios() {
              }),
         Told("configurator_comes_back_after_a_cancelled_pass", moves::ThreeStations, CancelledPassLeadsBack,
              NothingWritten),
+        Told("configurator_clears_a_run_that_does_not_fit", RoomForOneRun, ARunThatDoesNotFit,
+             NothingWritten),
+        Told("configurator_standard_changes_what_is_enabled", moves::ThreeStations,
+             StandardChangesWhatIsEnabled, NothingWritten),
+        Told("configure_at_the_nodes_of_runs", NorthIsConfigured, NodesOfRuns,
+             [](FakeProgram& program) { EXPECT_EQ(program.Files.Content[northFile], stored); }),
         Told("configurator_is_closed_by_its_window", NorthIsConfigured, WindowsOwnCommandCloses,
              [](FakeProgram& program) { EXPECT_EQ(program.Files.Content[northFile], stored); }),
     };

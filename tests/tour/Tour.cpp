@@ -82,6 +82,17 @@ void ReadSummaries(test::Story& story, const QString& station, int run) {
         story.SelectTab(window, "SSTab2", tab);
 }
 
+// Every tab of the configurator, on a station that is configured.
+void LookAtTheConfigurator(test::Story& story, const QString& station) {
+    const std::string form = "Configurador";
+    story.ClickNode("GFCPrincipal", "TreeGFC", "All Stations\\" + station.toStdString())
+        .Menu("GFCPrincipal", "ConfigPar")
+        .Menu(form, "PG");
+    for (const int tab : {1, 2, 3})
+        story.SelectTab(form, "SSTab2", tab);
+    story.Menu(form, "Salir2").Box("Orm Gas Flow Computer", "", ui::Icon::None, ui::Answer::Yes);
+}
+
 void Tell(test::Story& story) {
     moves::StartUp(story);
     ConfigureStation(story, single, {}, {1});
@@ -90,6 +101,7 @@ void Tell(test::Story& story) {
     ConfigureStation(story, delivery, {.Standard = 3, .Source = 1, .Chromatograph = true}, {1});
     for (const QString& station : {single, large, skid, delivery})
         ReadSummaries(story, station, 1);
+    LookAtTheConfigurator(story, large);
     moves::Exit(story);
 }
 
