@@ -123,8 +123,8 @@ TEST_F(Command, wrong_usage_has_a_status_of_its_own) {
 
 TEST_F(Command, each_one_explains_itself_with_an_example) {
     EXPECT_EQ(Run("--help").Status, 0);
-    for (const std::string name :
-         {"new", "demo", "open", "close", "import-tags", "stations", "tags", "files", "download"}) {
+    for (const std::string name : {"new", "demo", "open", "close", "import-tags", "stations", "tags",
+                                   "rename-tag", "move-tag", "remove-tag", "files", "download"}) {
         const Outcome help = Run(name + " --help");
         EXPECT_EQ(help.Status, 0) << name;
         EXPECT_THAT(help.Output, HasSubstr("Example:\n  io-workshop " + name));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "workshop/store/Project.h"
+#include "workshop/store/Stations.h"
 
 #include <string>
 
@@ -19,11 +20,14 @@ inline constexpr int WrongUsage = 2;
 /// Failed.
 void AddProjectCommands(CLI::App& app, int& status); ///< new, demo, open, close
 void AddTagCommands(CLI::App& app, int& status);     ///< import-tags, stations, tags
+void AddTagEditCommands(CLI::App& app);              ///< rename-tag, move-tag, remove-tag
 void AddFileCommands(CLI::App& app, int& status);    ///< files, download
 
 /// Adds --project to a command.
 void AddProjectOption(CLI::App& command, std::string& project);
 /// The project of that path, or the open one for an empty text.
 [[nodiscard]] Project ProjectFor(const std::string& path, Access access);
+/// By name, whatever the case of its letters. Throws Failure when the project has no such station.
+[[nodiscard]] Station StationNamed(Project& project, const std::string& name);
 
 } // namespace gfc::workshop

@@ -35,6 +35,7 @@ int main(int argc, char** argv) {
     int status = Succeeded;
     AddProjectCommands(app, status);
     AddTagCommands(app, status);
+    AddTagEditCommands(app);
     AddFileCommands(app, status);
     return RunCommand(app, argc, argv, status);
 }

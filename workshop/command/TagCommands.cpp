@@ -89,11 +89,7 @@ std::vector<Station> StationsToShow(Project& project, const std::string& name) {
     if (name.empty()) {
         return ListStations(project);
     }
-    const auto station = FindStation(project, name);
-    if (!station) {
-        throw Failure(name + ": the project has no such station; \"io-workshop stations\" lists them.");
-    }
-    return {*station};
+    return {StationNamed(project, name)};
 }
 
 void ShowTags(const std::string& path, const std::string& name) {
@@ -123,6 +119,14 @@ void AddTags(CLI::App& app) {
 }
 
 } // namespace
+
+Station StationNamed(Project& project, const std::string& name) {
+    auto station = FindStation(project, name);
+    if (!station) {
+        throw Failure(name + ": the project has no such station; \"io-workshop stations\" lists them.");
+    }
+    return *std::move(station);
+}
 
 void AddTagCommands(CLI::App& app, int& status) {
     AddImportTags(app, status);

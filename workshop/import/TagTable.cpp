@@ -111,9 +111,9 @@ bool CheckRow(const TableRow& row, std::vector<Complaint>& complaints) {
 
 using Heading = std::vector<const Column*>; // one per column of the file
 
-const Column* ColumnNamed(const std::string& title) {
+const Column* ColumnNamed(std::string_view title) {
     const auto found = std::find_if(Columns.begin(), Columns.end(), [&](const Column& column) {
-        return Upper(std::string(column.Title)) == Upper(title);
+        return Upper(std::string(column.Title)) == Upper(std::string(title));
     });
     return found == Columns.end() ? nullptr : &*found;
 }
@@ -155,6 +155,17 @@ std::string TextOf(const Complaint& complaint) {
         place += (place.empty() ? "column " : ", column ") + complaint.Column;
     }
     return place.empty() ? complaint.Text : place + ": " + complaint.Text;
+}
+
+std::string FaultUnder(std::string_view title, const std::string& text) {
+    const Column* column = ColumnNamed(title);
+    if (column == nullptr) {
+        return "\"" + std::string(title) + "\" is no column";
+    }
+    if (text.empty()) {
+        return column->Needed == Need::Never ? "" : "\"\" is empty";
+    }
+    return FaultOf(*column, text);
 }
 
 bool HoldsTag(const TableRow& row) {

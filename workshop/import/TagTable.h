@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace gfc::workshop {
@@ -19,6 +20,10 @@ struct Complaint {
 };
 /// "row 3, column Class: ..."
 [[nodiscard]] std::string TextOf(const Complaint& complaint);
+
+/// What keeps the text from standing under the column of that title, as "..." and a reason; empty when it
+/// may. An empty text is a fault under a column that a tag cannot be without.
+[[nodiscard]] std::string FaultUnder(std::string_view title, const std::string& text);
 
 /// One row as it was read; every field is text, and empty where the table has no such column.
 struct TableRow {

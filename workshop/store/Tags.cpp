@@ -4,9 +4,8 @@ namespace gfc::workshop {
 
 namespace {
 
-constexpr std::string_view TagQuery =
-    "SELECT t.name, t.class, t.register, m.name, m.type, t.description "
-    "FROM tags t JOIN modules m ON m.id = t.module WHERE t.station = ? ORDER BY t.place";
+constexpr const char* TagsOfStation = "SELECT t.name, t.class, t.register, m.name, m.type, t.description "
+                                      "FROM tags t JOIN modules m ON m.id = t.module WHERE t.station = ?";
 
 TagView ViewOf(const Statement& row) {
     return {row.Text(0), row.Text(1), static_cast<std::int32_t>(row.Integer(2)),
@@ -16,6 +15,10 @@ TagView ViewOf(const Statement& row) {
 Tag TagOf(const TagView& view) {
     return {std::string(view.Name),   std::string(view.Class),      view.Register,
             std::string(view.Module), std::string(view.ModuleType), std::string(view.Description)};
+}
+
+std::optional<Tag> NextTag(Statement& query) {
+    return query.Step() ? std::optional(TagOf(ViewOf(query))) : std::nullopt;
 }
 
 std::int64_t LastPlace(Project& project, std::int64_t station) {
@@ -28,7 +31,7 @@ std::int64_t LastPlace(Project& project, std::int64_t station) {
 void VisitTags(Project& project, std::int64_t station, const std::function<void(std::size_t)>& expect,
                const std::function<void(const TagView&)>& take) {
     expect(CountTags(project, station));
-    Statement query(project.Data(), TagQuery);
+    Statement query(project.Data(), std::string(TagsOfStation) + " ORDER BY t.place");
     query.With(station);
     while (query.Step()) {
         take(ViewOf(query));
@@ -46,6 +49,41 @@ std::vector<Tag> ListTags(Project& project, std::int64_t station) {
 std::size_t CountTags(Project& project, std::int64_t station) {
     Statement query(project.Data(), "SELECT count(*) FROM tags WHERE station = ?");
     return query.With(station).Step() ? static_cast<std::size_t>(query.Integer(0)) : 0;
+}
+
+std::optional<Tag> FindTag(Project& project, std::int64_t station, std::string_view name) {
+    Statement query(project.Data(), std::string(TagsOfStation) + " AND t.name = ?");
+    return NextTag(query.With(station, name));
+}
+
+std::optional<Tag> FindTagAt(Project& project, std::int64_t station, std::string_view registerClass,
+                             std::int32_t number) {
+    Statement query(project.Data(), std::string(TagsOfStation) + " AND t.class = ? AND t.register = ?");
+    return NextTag(query.With(station, registerClass, std::int64_t{number}));
+}
+
+void RenameTag(Project& project, std::int64_t station, std::string_view name, std::string_view newName) {
+    Statement(project.Data(), "UPDATE tags SET name = ? WHERE station = ? AND name = ?")
+        .With(newName, station, name)
+        .Execute();
+}
+
+void MoveTag(Project& project, std::int64_t station, std::string_view name, std::int32_t number) {
+    Statement(project.Data(), "UPDATE tags SET register = ? WHERE station = ? AND name = ?")
+        .With(std::int64_t{number}, station, name)
+        .Execute();
+}
+
+void RemoveTag(Project& project, std::int64_t station, std::string_view name) {
+    Statement(project.Data(), "DELETE FROM tags WHERE station = ? AND name = ?")
+        .With(station, name)
+        .Execute();
+    // One that stayed would force its type on a later module of its name.
+    Statement(
+        project.Data(),
+        "DELETE FROM modules WHERE station = ? AND id NOT IN (SELECT module FROM tags WHERE station = ?)")
+        .With(station, station)
+        .Execute();
 }
 
 void RemoveTags(Project& project, std::int64_t station) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,17 @@ void VisitTags(Project& project, std::int64_t station, const std::function<void(
                const std::function<void(const TagView&)>& take);
 [[nodiscard]] std::vector<Tag> ListTags(Project& project, std::int64_t station);
 [[nodiscard]] std::size_t CountTags(Project& project, std::int64_t station);
+/// By name, whatever the case of its letters; a station has one tag of a name.
+[[nodiscard]] std::optional<Tag> FindTag(Project& project, std::int64_t station, std::string_view name);
+/// A station has one tag at a register of a class.
+[[nodiscard]] std::optional<Tag> FindTagAt(Project& project, std::int64_t station,
+                                           std::string_view registerClass, std::int32_t number);
+/// The next three change one tag where it stands in the delivery order. Each throws Failure when the station
+/// has another tag of that name or place; one that the station does not have is let go by.
+void RenameTag(Project& project, std::int64_t station, std::string_view name, std::string_view newName);
+void MoveTag(Project& project, std::int64_t station, std::string_view name, std::int32_t number);
+/// Takes the tag out, and its module with the last tag of it.
+void RemoveTag(Project& project, std::int64_t station, std::string_view name);
 /// Takes out all tags and modules of the station.
 void RemoveTags(Project& project, std::int64_t station);
 
