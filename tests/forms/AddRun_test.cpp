@@ -124,6 +124,20 @@ INSTANTIATE_TEST_SUITE_P(Families, CancelledAddition,
                                          AddCase{"accelabar_densimeter", {2, 0}, 3}),
                          [](const auto& row) { return row.param.Name; });
 
+TEST(AddRun, announces_measured_gross_properties_in_words_of_their_own) {
+    AddRunWorld world("aga3_sgerg88_fixed", {0, 2, true});
+    world.Put("SGERG88", "AGA8CalInput", "MEASURED");
+    const std::string before = world.File();
+    world.Open();
+    world.Adding.Until(world.TheStory, 3);
+    world.TheStory
+        .Check([&](Driver&) { EXPECT_EQ(world.Session.BindingStage, forms::BindingStage::GasInputs); })
+        .Click("TagRuns", "Command2")
+        .Box("Gas Flow Computer", "", Icon::Question, Answer::Yes);
+    world.Play();
+    EXPECT_EQ(world.File(), before);
+}
+
 TEST(AddRun, a_no_at_the_end_leaves_the_file_alone) {
     AddRunWorld world("aga3_densimeter", {});
     const std::string before = world.File();
