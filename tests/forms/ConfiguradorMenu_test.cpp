@@ -21,6 +21,14 @@ TEST(ConfiguradorMenu, entries_bear_their_captions) {
     EXPECT_EQ(form.conver.Caption(), "Conversion Unidades");
 }
 
+TEST(ConfiguradorMenu, two_entries_do_nothing) {
+    ConfiguradorWorld world;
+    auto& form = world.Form();
+    EXPECT_FALSE(form.util.Enabled());
+    EXPECT_FALSE(form.util.OnClick);
+    EXPECT_FALSE(form.conver.OnClick);
+}
+
 TEST(ConfiguradorMenu, tabs_are_closed_until_an_entry_is_chosen) {
     ConfiguradorWorld world(WizardFile("aga3_densimeter"));
     world.TheStory.SeeEnabled(Configurator, "SSTab2", false)

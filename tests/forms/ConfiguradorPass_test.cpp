@@ -120,6 +120,15 @@ TEST(ConfiguradorPass, another_choice_of_runs_after_it_owes_another_pass) {
     EXPECT_EQ(world.File(), WizardFile("aga3_densimeter"));
 }
 
+// The tags of a pass were drawn without those of the modules, so that these are settled then.
+TEST(ConfiguradorPass, leaves_no_choice_of_modules_to_the_common_parameters) {
+    PassOfConfigurador world({0, 0, false, false, {2}});
+    world.AllRuns();
+    world.TheStory.Check([&](Driver&) { world.Form().PG.OnClick(); }).SelectTab(Configurator, "SSTab2", 2);
+    world.SeeAll({"Combo1", "Combo2", "Combo3"}, false);
+    world.PlayAndCancel();
+}
+
 TEST(ConfiguradorPass, is_refused_with_a_value_missing) {
     for (const char* field : {"Text1_1", "Text2_1", "Text3_1", "Text4_1"}) {
         ConfiguradorWorld world;
