@@ -71,9 +71,12 @@ bool WizardPass::Open() {
 }
 
 bool WizardPass::Common() {
-    // Also where it is not bound: an earlier configuration of the station must not shine through.
-    station_.CommonPa = {};
-    if (station_.ExtAtmPress != config::Yes)
+    const bool external = station_.ExtAtmPress == config::Yes;
+    // The wizard's file is a new one: an earlier configuration of the station must not shine through. What a
+    // stored configuration holds of a pressure that is not in use stays.
+    if (external || session_.EditMode != EditMode::Configurator)
+        station_.CommonPa = {};
+    if (!external)
         return true;
     ++total_;
     return Bind(BindingStage::CommonInputs, {1, 0}, AnnounceCommon);

@@ -187,5 +187,21 @@ TEST(ConfiguradorPass, of_a_stored_configuration_binds_what_is_common_alone) {
     EXPECT_EQ(world.File(), expected);
 }
 
+TEST(ConfiguradorPass, of_a_stored_configuration_keeps_a_common_tag_that_is_not_in_use) {
+    ConfiguradorWorld world(WizardFile("aga3_densimeter_external"));
+    world.TheStory.Menu(Configurator, "tg")
+        .Box("Orm Gas Flow Computer", "", ui::Icon::Information)
+        .SelectTab(Configurator, "SSTab2", 1)
+        .Click(Configurator, "OptAbsPress")
+        .SelectTab(Configurator, "SSTab2", 0)
+        .Click(Configurator, "Command1")
+        .Click("Step", "Command1");
+    world.ThenSave("SalvarSalir2");
+    world.Show();
+    EXPECT_TRUE(Holds(world.File(), "ExtAtmPress=No\n"));
+    EXPECT_TRUE(Holds(world.File(), "CommonPaKDIOTag=FT-1\n"));
+    EXPECT_TRUE(Holds(world.File(), "CommonPaKDIORegAddr=1001\n"));
+}
+
 } // namespace
 } // namespace gfc::test
