@@ -93,6 +93,25 @@ void LookAtTheConfigurator(test::Story& story, const QString& station) {
     story.Menu(form, "Salir2").Box("Orm Gas Flow Computer", "", ui::Icon::None, ui::Answer::Yes);
 }
 
+// A tag that the run is bound to gets another name in the project; the next edit of the run finds it out.
+void EditWithATagRenamed(test::Story& story, const QString& station) {
+    story
+        .Do("rename a tag in the project",
+            [station](test::Driver&) {
+                EXPECT_TRUE(Workshop({QStringLiteral("rename-tag"), station, QStringLiteral("TIT-101_PV"),
+                                      QStringLiteral("TIT-101_NEW")}));
+            })
+        .ClickNode("GFCPrincipal", "TreeGFC",
+                   "All Stations\\" + station.toStdString() + "\\Individual Parameters\\Run 1")
+        .Menu("GFCPrincipal", "ConfigPar")
+        .Click("FrModificarTags", "Check2")
+        .Click("FrModificarTags", "Command1")
+        .Click("TagRuns", "Command5")
+        .SeeShown("TagsChanged")
+        .Click("TagsChanged", "CmdIgnore")
+        .SeeShown("TagsChanged", false);
+}
+
 void Tell(test::Story& story) {
     moves::StartUp(story);
     ConfigureStation(story, single, {}, {1});
@@ -102,6 +121,7 @@ void Tell(test::Story& story) {
     for (const QString& station : {single, large, skid, delivery})
         ReadSummaries(story, station, 1);
     LookAtTheConfigurator(story, large);
+    EditWithATagRenamed(story, single);
     moves::Exit(story);
 }
 
