@@ -105,18 +105,22 @@ void CopyToStation(Program& program, const std::string& station) {
         ShowStation(program, station);
 }
 
-// A name that no file can bear, or that the file cannot hold, is not begun.
-bool CanBeNamed(const Destination& to) {
-    return !to.File().empty() && services::CodePageHolds(to.Station);
+// A file that nothing can be written to, or a name that the file cannot hold, is not begun.
+bool CanBeNamed(Program& program, const Destination& to) {
+    if (!to.File().empty() && services::CodePageHolds(to.Station))
+        return true;
+    program.Screen.Ask({.Title = "Error: Copy configuration file",
+                        .Text = "Could not copy the configuration file \r\n"
+                                "The name of the station has characters that the name of a file cannot have.",
+                        .TheIcon = ui::Icon::Exclamation});
+    return false;
 }
 
 // The name is taken as it is typed: what stations the other project has is not known here.
 void CopyToProject(Program& program, const Destination& to) {
     static const CopyWords words{"Please verify that the station has not been configured previously",
                                  "Copy configuration from a station to another station of another project"};
-    if (!CanBeNamed(to))
-        return FailCopy(program, words.Failed);
-    if (!CopyTo(program, to, words) || program.Screen.Ended())
+    if (!CanBeNamed(program, to) || !CopyTo(program, to, words) || program.Screen.Ended())
         return;
     // The other project may be the open one.
     if (to.File() == program.Session.Project.ConfigFileOf(to.Station))

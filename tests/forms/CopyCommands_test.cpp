@@ -289,7 +289,9 @@ TEST_F(CopyToProject, refuses_a_name_that_is_none_for_a_file) {
     for (const char* name : {"../Far", "..\\Far", "/etc/Far", "Fa\nr", "F\x01", "\xE4\xB8\xAD"}) {
         Choose("/jobs/other.KPJ");
         Answer(name);
-        ExpectFailure("Please verify that the station has not been configured previously");
+        TheStory.Box("Error: Copy configuration file",
+                     failed + "The name of the station has characters that the name of a file cannot have.",
+                     Icon::Exclamation);
     }
     Play();
     ExpectOnlyTheSource();
