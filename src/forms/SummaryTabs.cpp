@@ -10,7 +10,6 @@ namespace gfc::forms {
 
 namespace {
 
-using binding::SummaryList;
 using binding::SummaryPage;
 
 constexpr int numberColumnWidth = 5;
