@@ -25,7 +25,8 @@ endfunction()
 
 # gfc_layer(name [layers it may use ...]): all sources of the folder, and those of the machine's own form.
 function(gfc_layer name)
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/*.cpp)
+    list(FILTER sources EXCLUDE REGEX "/(posix|windows)/")
     if(WIN32)
         file(GLOB machine CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}/windows/*.cpp)
     else()

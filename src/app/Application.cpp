@@ -1,6 +1,6 @@
 #include "app/Application.h"
 
-#include "forms/StartUp.h"
+#include "forms/program/StartUp.h"
 
 namespace gfc::app {
 

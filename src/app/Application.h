@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Program.h"
+#include "forms/program/Program.h"
 #include "platform/Machine.h"
 #include "project/AddOnGate.h"
 

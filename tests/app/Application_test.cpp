@@ -1,5 +1,5 @@
 #include "app/Application.h"
-#include "forms/Program.h"
+#include "forms/program/Program.h"
 #include "project/AddOnInterface.h"
 #include "support/World.h"
 

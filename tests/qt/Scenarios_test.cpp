@@ -1,4 +1,4 @@
-#include "forms/StartUp.h"
+#include "forms/program/StartUp.h"
 #include "qt/support/StoryScreen.h"
 #include "scenarios/Scenario.h"
 

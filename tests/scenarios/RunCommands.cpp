@@ -1,4 +1,4 @@
-#include "forms/AddRunStory.h"
+#include "forms/runs/AddRunStory.h"
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
 

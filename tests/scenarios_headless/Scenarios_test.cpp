@@ -1,4 +1,4 @@
-#include "forms/StartUp.h"
+#include "forms/program/StartUp.h"
 #include "scenarios/Scenario.h"
 
 #include <gtest/gtest.h>

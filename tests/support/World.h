@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/Program.h"
+#include "forms/program/Program.h"
 #include "support/FakeTime.h"
 #include "support/Fakes.h"
 #include "support/HeadlessScreen.h"

@@ -1,7 +1,7 @@
 #include "PlainStation.h"
 #include "SweepWorld.h"
 #include "binding/ExpectedTags.h"
-#include "forms/StartUp.h"
+#include "forms/program/StartUp.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "PlainNeeds.h"
-#include "forms/GFCPrincipal.h"
-#include "forms/WizardWorld.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/wizard/WizardWorld.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "PlainNeeds.h"
-#include "forms/WizardWorld.h"
+#include "forms/wizard/WizardWorld.h"
 
 #include <gtest/gtest.h>
 

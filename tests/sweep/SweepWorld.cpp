@@ -2,8 +2,8 @@
 
 #include "PlainStation.h"
 #include "ReadBack.h"
-#include "forms/GFCPrincipal.h"
-#include "forms/WizardFC.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/wizard/WizardFC.h"
 
 #include <gtest/gtest.h>
 

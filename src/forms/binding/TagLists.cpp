@@ -1,0 +1,72 @@
+#include "forms/binding/TagLists.h"
+
+#include "binding/Catalogue.h"
+
+#include <charconv>
+
+namespace gfc::forms {
+
+namespace {
+
+std::int32_t RegisterOf(const std::string& text) {
+    std::int32_t value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+ui::ListView::Row RowOf(const project::Tag& tag, int number) {
+    // A blank where a sign would stand, and two behind the number.
+    std::string text = " " + std::to_string(number) + "  ";
+    if (!binding::ClassOf(tag.RegType))
+        return {std::move(text)};
+    return {std::move(text), tag.TagName, tag.RegType, std::to_string(tag.RegAddr)};
+}
+
+} // namespace
+
+void HeadTagList(ui::ListView& list, std::string_view heading) {
+    list.ClearRows();
+    list.ClearColumns();
+    list.AddColumn(std::string(heading), 12);
+    list.AddColumn("Tag Name");
+    list.AddColumn("Tag Type", 9);
+    list.AddColumn("Register Num.", 14);
+}
+
+void FillTagList(ui::ListView& list, const project::TagList& tags, int rowOffset) {
+    std::vector<ui::ListView::Row> rows;
+    rows.reserve(tags.size());
+    for (const project::Tag& tag : tags)
+        rows.push_back(RowOf(tag, static_cast<int>(rows.size()) + 1 + rowOffset));
+    list.AddRows(std::move(rows));
+}
+
+project::TagList TagsInList(const ui::ListView& list) {
+    project::TagList tags;
+    tags.reserve(static_cast<std::size_t>(list.Count()));
+    for (int row = 1; row <= list.Count(); ++row) {
+        auto shown = BindingInRow(list, row);
+        project::Tag tag;
+        tag.TagName = std::move(shown.Tag);
+        tag.RegAddr = RegisterOf(shown.RegAddr);
+        tag.RegType = std::move(shown.Type);
+        tags.push_back(std::move(tag));
+    }
+    return tags;
+}
+
+config::TagBinding BindingInRow(const ui::ListView& list, int row) {
+    return {.Tag = list.Cell(row, tag_column::Name),
+            .Type = list.Cell(row, tag_column::Type),
+            .RegAddr = list.Cell(row, tag_column::Register)};
+}
+
+void PutBack(ui::ListView& list, const config::TagBinding& tag) {
+    for (int row = 1; row <= list.Count(); ++row)
+        if (list.Cell(row, tag_column::Register) == tag.RegAddr &&
+            list.Cell(row, tag_column::Type) == tag.Type)
+            return;
+    list.AddRow({std::string(), tag.Tag, tag.Type, tag.RegAddr});
+}
+
+} // namespace gfc::forms

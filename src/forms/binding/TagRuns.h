@@ -1,0 +1,139 @@
+#pragma once
+
+#include "binding/Assignment.h"
+#include "binding/Catalogue.h"
+#include "forms/program/Program.h"
+#include "ui/Buttons.h"
+#include "ui/ControlArray.h"
+#include "ui/DropDownList.h"
+#include "ui/Frame.h"
+#include "ui/Label.h"
+#include "ui/ListView.h"
+#include "ui/Menu.h"
+#include "ui/TextBox.h"
+#include "ui/Tree.h"
+
+namespace gfc::forms {
+
+// Binds the variables of one stage of one run to tags of the station. The caller sets BindingStage,
+// RunPosition and RunNumber of the session, shows it modally and then looks at Cancelled. Nothing reaches the
+// records and the lists of free tags before Continue.
+class TagRuns : public ProgramForm {
+public:
+    explicit TagRuns(Program& program);
+
+    ui::Tree TreeAGA{*this, "TreeAGA"};
+    ui::ListView ListViewRuns{*this, "ListViewRuns"};
+    ui::ListView ListLong{*this, "ListLong"};
+    ui::ListView ListAnalogDig{*this, "ListAnalogDig"};
+    ui::CommandButton Command1{*this, "Command1", "Assign"};
+    ui::CommandButton Command4{*this, "Command4", "Undo Tag"};
+    ui::CommandButton Command3{*this, "Command3", "Undo All"};
+    ui::CommandButton Command6{*this, "Command6", "Auto-Assign"};
+
+    ui::Frame Frame1{*this, "Frame1", "Flow Factors"};
+    ui::Label Label2{Frame1, "Label2", "Calibration Factor"};
+    ui::TextBox Text1{Frame1, "Text1"};
+    ui::Label lbkfactor{Frame1, "lbkfactor", "Meter K-Factor"};
+    ui::TextBox kfactor{Frame1, "kfactor"};
+    ui::Label ukfactor{Frame1, "ukfactor"};
+
+    ui::Frame Frame2{*this, "Frame2", "Run's Daily Contract Time (24-hr)"};
+    ui::Label lbHour{Frame2, "lbHour", "Hour"};
+    ui::DropDownList ListHour{Frame2, "ListHour"};
+    ui::Label lbMin{Frame2, "lbMin", "Minute"};
+    ui::DropDownList ListMinx10{Frame2, "ListMinx10"};
+    ui::DropDownList ListMinx1{Frame2, "ListMinx1"};
+    ui::OptionButton OptionLocal{Frame2, "OptionLocal", "Local"};
+    ui::OptionButton OptionGMT{Frame2, "OptionGMT", "GMT"};
+
+    ui::Frame Frphostd{*this, "Frphostd", "Run's Gas Properties"};
+    ui::Label lbrhostd{Frphostd, "lbrhostd", "Density @ Std. Cond."};
+    ui::TextBox phostd{Frphostd, "phostd"};
+    ui::Label uphostd{Frphostd, "uphostd"};
+
+    ui::Frame FrameCopy{*this, "FrameCopy", "     Copy Tag assignments from:"};
+    ui::ControlArray<ui::OptionButton, config::MaxRuns> Option1{
+        FrameCopy, "Option1", [](int i) { return "Run " + std::to_string(i + 1); }};
+    ui::CommandButton CopyGasCompButton{FrameCopy, "CopyGasCompButton", "Copy"};
+
+    ui::CommandButton Command7{*this, "Command7", "Help"};
+    ui::CommandButton Command2{*this, "Command2", "Cancel"};
+    ui::CommandButton Command5{*this, "Command5", "Continue"};
+
+    ui::MenuEntry borrartodo{*this, "borrartodo", "&Undo All"};
+    ui::MenuEntry AutoAsociar{*this, "AutoAsociar", "&Auto-Assign"};
+    ui::MenuEntry salirform{*this, "salirform", "&Cancel"};
+
+protected:
+    void Load() override;
+    bool KeyDown(ui::Key key) override;
+
+private:
+    using BindingStage = binding::BindingStage;
+
+    // Loading
+    void ShowCopySources();
+    [[nodiscard]] bool IsCopySource(int run) const;
+    // -1 for a run that is not active.
+    [[nodiscard]] int ElementOfActiveRun(int run) const;
+    void PrepareStage();
+    void HideStageParts();
+    void FillLists();
+    void ShowRunInputs();
+    void TreAGA_3_8();
+    void AddVariable(const binding::Variable& variable);
+    void ShowFactors();
+    void ShowContractTime();
+
+    // Picking and assigning
+    [[nodiscard]] int SelectedPosition() const;
+    [[nodiscard]] ui::ListView& ListOf(binding::OfferList list);
+    [[nodiscard]] int& RowFieldOf(binding::OfferList list);
+    void ReadRowFields();
+    [[nodiscard]] bool IsBound(int position) const;
+    [[nodiscard]] config::TagBinding ShownBinding(int position) const;
+    void ShowBinding(int position, const config::TagBinding& binding);
+    void ShowUnbound(int position);
+    [[nodiscard]] int VariablesShown() const;
+    [[nodiscard]] int BoundVariables() const;
+    void Assign();
+    void UndoTag();
+    void UndoAll();
+    void UndoOneByOne();
+    void AutoAssign();
+    [[nodiscard]] bool MayAutoAssign();
+    void TakeRows();
+    void SelectFirstRows();
+
+    // Leaving
+    void Continue();
+    [[nodiscard]] bool MayContinue();
+    void StoreTree();
+    void StoreFields();
+    void UpdatePools();
+    void Cancel();
+    void Copy();
+    // 0 to 4; -1 if no source is chosen.
+    [[nodiscard]] int ChosenSource() const;
+    [[nodiscard]] config::TagBinding BindingOfSource(const binding::VariableRow& row, int run) const;
+    void Help();
+
+    void SaySomethingIsBound();
+    void Tell(const std::string& title, const std::string& text, ui::Icon icon);
+    [[nodiscard]] BindingStage Stage() const { return session_.BindingStage; }
+    [[nodiscard]] bool HasPulses() const;
+    [[nodiscard]] std::vector<binding::Variable> Variables();
+    // Null if the run arrays have no such element.
+    [[nodiscard]] config::RunIO* IO();
+
+    binding::TagCounts needed_;
+    // The row last clicked in each list, from 1; 0 is read as 1.
+    int floatRow_ = 1;
+    int analogDigRow_ = 1;
+    int longRow_ = 1;
+    int selectedNode_ = 0;
+    std::string configFilePath_;
+};
+
+} // namespace gfc::forms

@@ -1,0 +1,126 @@
+#include "forms/binding/TagLists.h"
+#include "forms/binding/TagRuns.h"
+
+#include <algorithm>
+
+namespace gfc::forms {
+
+using binding::OfferList;
+namespace node = binding::node;
+
+namespace {
+constexpr OfferList AllLists[] = {OfferList::Float, OfferList::Long, OfferList::AnalogDig};
+} // namespace
+
+void TagRuns::ReadRowFields() {
+    for (int* field : {&floatRow_, &analogDigRow_, &longRow_})
+        *field = std::max(*field, 1);
+}
+
+void TagRuns::Assign() {
+    ReadRowFields();
+    const int position = SelectedPosition();
+    if (position < 0)
+        return;
+    if (IsBound(position))
+        return Tell("Tags Configuration", "I/O tag already assigned", ui::Icon::Information);
+    const OfferList offer = binding::OfferListOf(position, needed_);
+    ui::ListView& list = ListOf(offer);
+    // The row field stays where it is, so it may point past the end.
+    const int row = RowFieldOf(offer);
+    if (row > list.Count())
+        return;
+    ShowBinding(position, BindingInRow(list, row));
+    list.RemoveRows(row, 1);
+    list.Renumber();
+    // The row that the next Assign takes.
+    list.SelectRow(row);
+}
+
+void TagRuns::UndoTag() {
+    const int position = SelectedPosition();
+    if (position < 0)
+        return;
+    if (!IsBound(position))
+        return Tell("Error undo Tag", "Can´t undo. No I/O assignments has been made for this variable",
+                    ui::Icon::Exclamation);
+    ui::ListView& list = ListOf(binding::OfferListOf(position, needed_));
+    PutBack(list, ShownBinding(position));
+    ShowUnbound(position);
+    list.Renumber();
+}
+
+// In the modify flow the tags go back one at a time. Elsewhere the form returns to the state in which it
+// opened, which need not be an empty one.
+void TagRuns::UndoAll() {
+    if (session_.EditMode == EditMode::ModifyTags)
+        UndoOneByOne();
+    else
+        PrepareStage();
+    floatRow_ = analogDigRow_ = longRow_ = 1;
+    ListViewRuns.SelectRow(1);
+    if (needed_.Long > 0)
+        ListLong.SelectRow(1);
+    if (needed_.Analog + needed_.Digital > 0)
+        ListAnalogDig.SelectRow(1);
+}
+
+// An unbound variable is deliberately not left out: the first one of a list adds a row that reads "Not
+// Configured", which the others find.
+void TagRuns::UndoOneByOne() {
+    for (int position = 0; position < std::min(needed_.Total(), VariablesShown()); ++position) {
+        PutBack(ListOf(binding::OfferListOf(position, needed_)), ShownBinding(position));
+        ShowUnbound(position);
+    }
+    for (const OfferList list : AllLists)
+        if (binding::NeededFrom(list, needed_) > 0)
+            ListOf(list).Renumber();
+}
+
+void TagRuns::AutoAssign() {
+    ReadRowFields();
+    // Said before anything is looked at, and it cannot refuse.
+    Tell("Automatic Tags assignments", "All variables will be assigned to tags automatically",
+         ui::Icon::Information);
+    if (MayAutoAssign())
+        TakeRows();
+    SelectFirstRows();
+}
+
+bool TagRuns::MayAutoAssign() {
+    if (BoundVariables() != 0) {
+        SaySomethingIsBound();
+        return false;
+    }
+    const binding::FreeRows free{binding::RowsFrom(floatRow_, ListViewRuns.Count()),
+                                 binding::RowsFrom(longRow_, ListLong.Count()),
+                                 binding::RowsFrom(analogDigRow_, ListAnalogDig.Count())};
+    if (binding::CanAutoAssign(needed_, free))
+        return true;
+    Tell("Tag Auto-assignments...", binding::AutoAssignShortage(needed_), ui::Icon::Exclamation);
+    return false;
+}
+
+// The tree holds floats first, then longs, then the rest, so this fills it from top to bottom.
+void TagRuns::TakeRows() {
+    int position = 0;
+    for (const OfferList offer : AllLists) {
+        ui::ListView& list = ListOf(offer);
+        const int first = RowFieldOf(offer);
+        const int count = std::min(binding::NeededFrom(offer, needed_), VariablesShown() - position);
+        for (int row = first; row < first + count; ++row)
+            ShowBinding(position++, BindingInRow(list, row));
+        list.RemoveRows(first, count);
+        list.Renumber();
+    }
+}
+
+// Also after a refusal: the rows that were clicked are forgotten.
+void TagRuns::SelectFirstRows() {
+    for (const OfferList list : AllLists) {
+        ListOf(list).SelectRow(1);
+        RowFieldOf(list) = 1;
+    }
+}
+
+} // namespace gfc::forms

@@ -1,0 +1,24 @@
+#include "forms/binding/UnusedTags.h"
+
+#include "config/Vocabulary.h"
+#include "forms/program/Program.h"
+
+namespace gfc::forms {
+
+void OfferUnusedTags(Program& program, const project::WorkingModuleNames& working) {
+    auto& session = program.Session;
+    auto& pools = session.Inventory;
+    auto& expected = session.Expected;
+    const bool isAGA7 = session.Station.FlowAlgorithm == config::algorithm::AGA7;
+    project::BuildAvailableLists(pools, working, isAGA7);
+    binding::BuildExpectedTags(program.Ini, session.ConfigFile(), session.Station, expected);
+    // Deliberately without a look at the result: an edit is how a person mends a file with errors.
+    (void)binding::CheckExpectedTags(expected, pools);
+    binding::RemoveUsedTags(pools.AvailFloat, expected.ExpectedFloat);
+    binding::RemoveUsedTags(pools.AvailAnalog, expected.ExpectedAnalog);
+    binding::RemoveUsedTags(pools.AvailDigital, expected.ExpectedDigital);
+    if (isAGA7)
+        binding::RemoveUsedTags(pools.AvailLong, expected.ExpectedLong);
+}
+
+} // namespace gfc::forms

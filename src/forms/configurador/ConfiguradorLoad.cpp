@@ -1,0 +1,192 @@
+// What the configurator opens with: the start values, or those of the station's file.
+#include "config/ConfigReader.h"
+#include "config/Units.h"
+#include "config/Vocabulary.h"
+#include "forms/configurador/Configurador.h"
+#include "forms/station/ModuleLists.h"
+#include "services/Text.h"
+
+namespace gfc::forms {
+
+namespace {
+
+constexpr int US = 0;
+
+template <class Choices>
+void Fill(ui::DropDownList& list, const Choices& choices) {
+    list.Clear();
+    for (const auto& choice : choices)
+        list.AddEntry(std::string(choice.InConfigurador));
+}
+
+bool IsYes(const std::string& text) {
+    return services::EqualNoCase(text, config::Yes);
+}
+
+} // namespace
+
+void Configurador::Load() {
+    session_.EditMode = EditMode::Configurator;
+    StartEmpty();
+    FillLists();
+    if (program_.Ini.FileExists(session_.ConfigFile()))
+        LoadStored();
+    else
+        LoadNew();
+    OpenAsChosen();
+}
+
+// Neither another station's values nor its runs may shine through.
+void Configurador::StartEmpty() {
+    auto& station = session_.Station;
+    const std::string name = station.CurrentStation;
+    config::ResetStationConfig(station);
+    station.CurrentStation = name;
+    station.Runs = {};
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        station.RunList.at(static_cast<std::size_t>(run - 1)) = {"Run " + std::to_string(run),
+                                                                 std::string(config::No)};
+}
+
+void Configurador::FillLists() {
+    Fill(CombStandard, config::FlowAlgorithms);
+    Fill(CombUnits, config::UnitSystems);
+    Fill(cbSourceGas, config::GasDensitySources);
+    FillModuleNames(Combo2, session_.Modules.LongCandidates);
+    FillModuleNames(Combo1, session_.Modules.AnalogCandidates);
+    FillModuleNames(Combo3, session_.Modules.FloatCandidates);
+}
+
+void Configurador::LoadNew() {
+    cbSourceGas.SetEnabled(true);
+    CombStandard.SetEnabled(true);
+    caso = 3;
+    session_.Station.ActiveRunCount = 1;
+    CombUnits.SetListIndex(US);
+    for (ui::DropDownList* modules : {&Combo1, &Combo2, &Combo3})
+        modules->SetListIndex(0);
+    const auto& defaults = config::DefaultsOf(config::units::US);
+    Text1.SetText(std::string(defaults.StandardT));
+    Text2.SetText(std::string(defaults.StandardP));
+    Text3.SetText(std::string(config::start::IsentropicCoeff));
+    Text4.SetText(std::string(config::start::FlowingViscosity));
+    txtAtmPress.SetText(std::string(defaults.AtmPress));
+    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
+    OptComprensible.SetValue(true);
+    ShowStoredTraces();
+    OptAbsPress.SetValue(true);
+}
+
+void Configurador::LoadStored() {
+    auto& station = session_.Station;
+    caso = CasoOfNode();
+    for (ui::CheckBox* box : RunBoxes())
+        box->SetEnabled(false);
+    config::LoadStationConfig(program_.Ini, station, session_.ConfigFile());
+    // No run is counted while the lists are set: the gates are for what a person chooses.
+    station.ActiveRunCount = 0;
+    ShowStored();
+}
+
+void Configurador::ShowStored() {
+    const auto& station = session_.Station;
+    ShowStoredModules();
+    ShowStoredTraces();
+    Text1.SetText(station.StandardT);
+    Text2.SetText(station.StandardP);
+    ShowStoredChoices();
+    ShowStoredPressure();
+    (services::EqualNoCase(station.Compressible, config::No) ? OptNoComprensible : OptComprensible)
+        .SetValue(true);
+}
+
+void Configurador::ShowStoredModules() {
+    const auto& working = session_.Station.WorkingModules;
+    ShowModule(Combo2, working.WrkIntLongModName);
+    ShowModule(Combo1, working.WrkAnalogModName);
+    ShowModule(Combo3, working.WrkFloatModName);
+}
+
+void Configurador::ShowStoredTraces() {
+    const auto& station = session_.Station;
+    const bool enabled = IsYes(station.EnableDataTraces);
+    Text8.SetText(enabled ? station.DeviceDataTraces : std::string(config::start::DeviceDataTraces));
+    Text9.SetText(enabled ? station.NumberTraces : std::string(config::start::NumberTraces));
+    Check1.SetValue(enabled);
+    TracesChanged();
+}
+
+void Configurador::ShowStoredChoices() {
+    auto& station = session_.Station;
+    CombStandard.SetListIndex(config::AlgorithmIndex(station.FlowAlgorithm));
+    EnableGasEntries(!ShowsAGA7());
+    CombUnits.SetListIndex(config::UnitsIndex(station.SystemUnits));
+    // Once more, since without stored units the list puts in what goes with those it shows.
+    Text1.SetText(station.StandardT);
+    Text2.SetText(station.StandardP);
+    cbSourceGas.SetListIndex(config::SourceIndex(station.GasDensitySource));
+    if (config::IsGasModel(station.GasDensitySource)) {
+        Option16.SetValue(true);
+        (station.AGA8CalInput == config::CompositionFixed ? Option6 : Option5).SetValue(true);
+    }
+    if (ShowsAGA7())
+        return;
+    Text3.SetText(station.IsentropicCoeff);
+    Text4.SetText(station.FlowingViscosity);
+}
+
+void Configurador::ShowStoredPressure() {
+    const auto& station = session_.Station;
+    const auto& defaults = config::DefaultsOf(CombUnits.Text());
+    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
+    txtAtmPress.SetText(station.AtmPress.empty() ? std::string(defaults.AtmPress) : station.AtmPress);
+    if (!services::EqualNoCase(station.PressType, config::Gage)) {
+        OptAbsPress.SetValue(true);
+        OptAtmPressFixed.SetValue(true);
+        return;
+    }
+    OptGagePress.SetValue(true);
+    if (!IsYes(station.ExtAtmPress))
+        return OptAtmPressFixed.SetValue(true);
+    OptAtmPressExt.SetValue(true);
+    ShowBoundPressure();
+}
+
+void Configurador::ShowBoundPressure() {
+    const auto& bound = session_.Station.CommonPa;
+    AtmExtName.SetCaption("Name: " + bound.Tag);
+    AtmExtType.SetCaption(" Type: " + bound.Type);
+    AtmExtAddr.SetCaption(" Addr: " + bound.RegAddr);
+}
+
+void Configurador::OpenAsChosen() {
+    if (Option == ConfiguradorOption::AllStation) {
+        NameStation("    ");
+        session_.Cancelled = true;
+        return ConfigureAll();
+    }
+    if (caso == 1) {
+        Label1.SetCaption("Individual Parameters");
+        CombStandard.SetEnabled(false);
+        return ChooseMode();
+    }
+    if (caso == 2)
+        Option == ConfiguradorOption::EditTags ? OpenForTags() : ChooseMode();
+}
+
+void Configurador::OpenForTags() {
+    // The letters of "ans" are those of the label.
+    Label1.SetCaption("Edit I/O tags ans Gas Composition");
+    Command1.SetEnabled(false);
+    ChooseMode();
+    Frame1.SetVisible(false);
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&Option5, &Option6, &CombStandard, &cbSourceGas})
+        control->SetEnabled(false);
+    if (!session_.Cancelled)
+        return SaveAndExit(false);
+    // It stays out of sight, and a window that nobody sees nobody could leave.
+    Unload();
+}
+
+} // namespace gfc::forms

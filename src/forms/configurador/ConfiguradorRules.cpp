@@ -1,0 +1,199 @@
+// What the controls of the configurator do to each other.
+#include "config/Units.h"
+#include "forms/configurador/Configurador.h"
+#include "forms/editors/NumericFields.h"
+#include "forms/station/CapacityGates.h"
+
+namespace gfc::forms {
+
+namespace {
+
+// Entries of the lists.
+constexpr int AGA3 = 0;
+constexpr int AGA7 = 1;
+constexpr int Accelabar = 2;
+constexpr int Densimeter = 0;
+constexpr int AGA8 = 1;
+constexpr int SGERG88 = 2;
+
+using Controls = std::initializer_list<ui::Control*>;
+
+void Enable(Controls controls, bool enabled) {
+    for (ui::Control* control : controls)
+        control->SetEnabled(enabled);
+}
+
+} // namespace
+
+void Configurador::BindRules() {
+    Check1.OnClick = [this] { TracesChanged(); };
+    OptAbsPress.OnClick = [this] { AbsoluteChosen(); };
+    OptGagePress.OnClick = [this] { GageChosen(); };
+    OptAtmPressFixed.OnClick = [this] { AtmPressFixedChosen(); };
+    OptAtmPressExt.OnClick = [this] { AtmPressExtChosen(); };
+    CombUnits.OnClick = [this] { UnitsChosen(); };
+    CombStandard.OnClick = [this] { StandardChosen(); };
+    cbSourceGas.OnClick = [this] { SourceChosen(); };
+    Option5.OnClick = [this] { CompositionFromOutsideChosen(); };
+    const auto boxes = RunBoxes();
+    for (int run = 0; run < config::MaxRuns; ++run)
+        boxes.at(static_cast<std::size_t>(run))->OnClick = [this, run] { RunBoxClicked(run); };
+    // For show: no other method than the detailed one is ever stored.
+    Enable({&Option17, &Option18}, false);
+    for (ui::TextBox* field : {&Text1, &Text3, &Text4})
+        MakeNumeric(program_.Screen, *field);
+    // Deliberately not alike: the standard pressure takes any key, the other two any shape.
+    CheckShapeOnLeaving(program_.Screen, Text2);
+    FilterKeys(txtAtmPress);
+    FilterKeys(Text9);
+}
+
+bool Configurador::ShowsAGA7() const {
+    return CombStandard.ListIndex() == AGA7;
+}
+
+bool Configurador::ShowsAccelabar() const {
+    return CombStandard.ListIndex() == Accelabar;
+}
+
+bool Configurador::ShowsDensimeter() const {
+    return cbSourceGas.ListIndex() == Densimeter;
+}
+
+void Configurador::TracesChanged() {
+    Enable({&LabelDevice, &Text8, &LabelNumTrace, &Text9}, Check1.Value());
+}
+
+void Configurador::EnableFixedPressure(bool enabled) {
+    Enable({&LbAtmPress, &txtAtmPress, &unitAtmPress}, enabled);
+}
+
+void Configurador::EnableExternalPressure(bool enabled) {
+    Enable({&FrameExtAtmPress, &AtmExtName, &AtmExtType, &AtmExtAddr, &btExtAtmChange}, enabled);
+}
+
+void Configurador::AbsoluteChosen() {
+    EnableFixedPressure(false);
+    EnableExternalPressure(false);
+    Enable({&OptAtmPressFixed, &OptAtmPressExt}, false);
+}
+
+void Configurador::GageChosen() {
+    Enable({&OptAtmPressFixed, &OptAtmPressExt}, true);
+    OptAtmPressExt.Value() ? AtmPressExtChosen() : AtmPressFixedChosen();
+}
+
+void Configurador::AtmPressFixedChosen() {
+    EnableFixedPressure(true);
+    EnableExternalPressure(false);
+}
+
+void Configurador::AtmPressExtChosen() {
+    EnableFixedPressure(false);
+    EnableExternalPressure(true);
+}
+
+void Configurador::MeasureAbsolute() {
+    OptAbsPress.SetValue(true);
+    Enable({&FrameAtmPress, &FrameType, &FrameAtmPressSource, &OptAbsPress, &OptGagePress}, true);
+}
+
+void Configurador::DisablePressureGroup() {
+    OptAbsPress.SetValue(true);
+    Enable({&FrameAtmPress, &FrameType, &FrameAtmPressSource, &OptAbsPress, &OptGagePress, &LbAtmPress,
+            &txtAtmPress, &unitAtmPress, &OptAtmPressFixed, &OptAtmPressExt, &AtmExtName, &AtmExtType,
+            &AtmExtAddr, &btExtAtmChange, &FrameExtAtmPress},
+           false);
+}
+
+void Configurador::EnableGasEntries(bool enabled) {
+    Enable({&LbIsentropic, &Text3, &LbViscosity, &Text4, &Label25}, enabled);
+}
+
+void Configurador::UnitsChosen() {
+    const std::string stored = program_.Ini.ReadKey("FlowRuns", "SystemUnits", session_.ConfigFile());
+    const std::string chosen = CombUnits.Text();
+    const auto& defaults = config::DefaultsOf(chosen);
+    session_.Station.SystemUnits = chosen;
+    Label25.SetCaption(std::string(defaults.ViscosityCaption));
+    unitStandardTemp.SetCaption(std::string(defaults.TemperatureCaption));
+    unitStandardP.SetCaption(std::string(defaults.PressureCaption));
+    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInConfigurador));
+    // A stored configuration keeps the numbers that a person sees, and the atmospheric pressure stays in any
+    // case.
+    if (stored.empty()) {
+        Text1.SetText(std::string(defaults.StandardT));
+        Text2.SetText(std::string(defaults.StandardP));
+    } else if (stored != chosen && IsShown()) {
+        program_.Screen.Ask(
+            {.Title = "System Units change...",
+             .Text = "Warning: When changing the system units, please make sure to convert any previously "
+                     "configured parameter values for temperatures, pressures and lengths to the new system "
+                     "units, so that the Orm Gas Flow Computer can continue to work correctly.",
+             .TheIcon = ui::Icon::Information});
+    }
+}
+
+// Touches neither units nor values, unlike the wizard.
+void Configurador::StandardChosen() {
+    session_.Station.FlagAGA7 = ShowsAGA7();
+    EnableGasEntries(!ShowsAGA7());
+    // Any click on one of these resets the pressure to absolute, whatever the file said.
+    if (!ShowsAGA7())
+        MeasureAbsolute();
+    else if (ShowsDensimeter())
+        DisablePressureGroup();
+    // Deliberately undone for this one entry: under AGA-7 the viscosity can be edited here, unlike in the
+    // wizard, until the tab of the common parameters is entered.
+    Text4.SetEnabled(!ShowsAccelabar());
+    if (session_.Station.ActiveRunCount < 1)
+        return;
+    const int verdict = SourceVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()});
+    if (verdict != 0)
+        FallBack(verdict <= 2 ? AGA3 : AGA7);
+}
+
+// A standard that does not fit either is reported a second time and stays: each is the other's fallback, and
+// taking it back too would go on for ever.
+void Configurador::FallBack(int standard) {
+    if (fallingBack_)
+        return;
+    fallingBack_ = true;
+    CombStandard.SetListIndex(standard);
+    fallingBack_ = false;
+}
+
+void Configurador::SourceChosen() {
+    const int source = cbSourceGas.ListIndex();
+    if (source != Densimeter)
+        MeasureAbsolute();
+    // The two sources of ISO 12213 deliberately go untested.
+    if (source == AGA8 || source == SGERG88)
+        GasModelChosen();
+    if (ShowsDensimeter() && ShowsAGA7())
+        DisablePressureGroup();
+}
+
+void Configurador::GasModelChosen() {
+    if (session_.Station.ActiveRunCount > 0) {
+        const int verdict = SourceVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()});
+        if (verdict == 2 || verdict == 4)
+            return cbSourceGas.SetListIndex(Densimeter);
+        Enable({&Option5, &Option6, &Option16}, true);
+        Option6.SetValue(true);
+        Option16.SetValue(true);
+    } else if (caso == 3) {
+        program_.Screen.Ask({.Title = "Orm Gas Flow Computer Configurator",
+                             .Text = "Error: please select at least one run",
+                             .TheIcon = ui::Icon::Exclamation});
+        cbSourceGas.SetListIndex(Densimeter);
+    }
+}
+
+void Configurador::CompositionFromOutsideChosen() {
+    if (session_.Station.ActiveRunCount > 0 &&
+        CompositionVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()}) != 0)
+        Option6.SetValue(true);
+}
+
+} // namespace gfc::forms

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "forms/editors/Composition.h"
+#include "forms/editors/GasSources.h"
+#include "forms/editors/NumericFields.h"
+#include "forms/program/Program.h"
+#include "ui/Buttons.h"
+#include "ui/Frame.h"
+#include "ui/Label.h"
+
+#include <string>
+
+namespace gfc::forms {
+
+// The fixed gas composition of one run. The caller sets Session::GasRun, and empties GC_N2 of GasComposition
+// for a run that has none yet; it finds the result in GasComposition, with GasAccepted set. On a cancel
+// Cancelled is set.
+class MDetail : public ProgramForm {
+public:
+    explicit MDetail(Program& program);
+
+    ui::Label lbPrompt{*this, "lbPrompt"};
+    ui::Frame Frame1{*this, "Frame1", "GAS COMPOSITION (Mole Fraction)"};
+    CompositionFields Text{Frame1};
+
+    ui::Frame Frame2{*this, "Frame2", "Copy gas composition from:"};
+    SourceRuns Option1{Frame2, "Option1", SourceRunCaption};
+    ui::CommandButton CopyGasCompButton{Frame2, "CopyGasCompButton", "Copy"};
+
+    ui::CommandButton Command1{*this, "Command1", "&Accept"};
+    ui::CommandButton Command2{*this, "Command2", "&Undo All"};
+    ui::CommandButton Command3{*this, "Command3", "&Cancel"};
+    ui::CommandButton HelpCompGas{*this, "HelpCompGas", "&Help"};
+
+protected:
+    void Load() override;
+    bool KeyDown(ui::Key key) override;
+
+private:
+    void CheckLeft(const ComponentRow& row);
+    [[nodiscard]] CheckedFields FieldsOf(const LeavingCheck& check);
+    void ShowComposition();
+    void Show(const config::RunGas& gas);
+    void Accept();
+    void UndoAll();
+    void Cancel();
+    void Copy();
+    void Help();
+
+    std::string file_; // of the current station, as at load
+};
+
+} // namespace gfc::forms

@@ -1,0 +1,71 @@
+// The "Delete" command.
+#include "forms/files/CopyCommands.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/main_window/StationNodes.h"
+
+namespace gfc::forms {
+
+namespace {
+
+// Some seconds of moments.
+constexpr int momentsBetweenQuestions = 200;
+
+bool HasConfiguration(const Program& program) {
+    const auto& session = program.Session;
+    return !node::NamesNoStation(session.SelectedNodeText) && program.Ini.FileExists(session.ConfigFile());
+}
+
+bool MayDelete(Program& program) {
+    const auto answer =
+        program.Screen.Ask({.Title = "Delete Configuration",
+                            .Text = "Are you sure that you want to delete the configuration of this station?",
+                            .TheButtons = ui::Buttons::YesNo});
+    return answer == ui::Answer::Yes && !program.Screen.Ended();
+}
+
+// A file that cannot be deleted would otherwise hold the program for ever.
+bool GoesOnWaiting(Program& program, const std::string& file) {
+    const auto answer = program.Screen.Ask(
+        {.Title = "Delete Configuration",
+         .Text = "The configuration file could not be deleted yet:\r\n" + file + "\r\nGo on trying?",
+         .TheIcon = ui::Icon::Exclamation,
+         .TheButtons = ui::Buttons::YesNo});
+    return answer == ui::Answer::Yes;
+}
+
+// What holds the file, another program perhaps, may let it go a little later.
+void WaitUntilGone(Program& program, const std::string& file) {
+    for (int moments = 1; program.Ini.FileExists(file) && !program.Screen.Ended(); ++moments) {
+        if (moments % momentsBetweenQuestions == 0 && !GoesOnWaiting(program, file))
+            return;
+        program.Screen.WaitAMoment();
+        program.Ini.DeleteConfigFile(file);
+    }
+}
+
+} // namespace
+
+void DeleteCommand(Program& program) {
+    if (!HasConfiguration(program)) {
+        program.Screen.Ask({.Title = "Orm Gas Flow Computer",
+                            .Text = "No configuration exists for the current station. Ignoring...",
+                            .TheIcon = ui::Icon::Exclamation});
+        return;
+    }
+    if (!MayDelete(program))
+        return;
+    const auto& session = program.Session;
+    const std::string& station = session.Station.CurrentStation;
+    const std::string file = session.ConfigFile();
+    program.Ini.DeleteConfigFile(file);
+    // Deliberately before the file is sure to be gone; at the program's end the list follows the files again.
+    (void)project::UnregisterStation(program.Library, session.Project, station, station);
+    WaitUntilGone(program, file);
+    if (program.Screen.Ended())
+        return;
+    auto& window = program.Forms.Get<GFCPrincipal>();
+    window.RebuildAfterCommand();
+    window.TreeGFC.EnsureVisible(1);
+}
+
+} // namespace gfc::forms

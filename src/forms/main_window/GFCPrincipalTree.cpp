@@ -1,0 +1,219 @@
+#include "config/ConfigReader.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/main_window/StationNodes.h"
+
+namespace gfc::forms {
+
+namespace {
+
+std::string YesOrNo(bool yes) {
+    return yes ? "Yes" : "No";
+}
+
+} // namespace
+
+void GFCPrincipal::ConnectPanes() {
+    TreeGFC.OnNodeClick = [this](int clicked) { NodeClicked(clicked); };
+    TreeGFC.OnMouseDown = [this](ui::MouseButton button) { TreePressed(button); };
+    SSTab1.OnClick = [this] { summary_.FillCommon(); };
+    SSTab2.OnClick = [this] { summary_.FillRun(); };
+}
+
+void GFCPrincipal::RebuildAfterCommand() {
+    TreeGFC.Clear();
+    HidePanes();
+    ClearLists();
+    BuildTree();
+    MarkRunNodes();
+    TreeGFC.EnsureVisible(2);
+    SelectRememberedNode();
+}
+
+// The commands go on working on the node that was selected last, so it is the one that shows as selected.
+void GFCPrincipal::SelectRememberedNode() {
+    const std::string& selected = session_.SelectedNodeText;
+    if (selected.empty())
+        return;
+    TreeGFC.Select(selected == node::AllStations ? 1 : TreeGFC.FindPath(session_.SelectedPath));
+    // A node that has gone with its file is no choice any more.
+    if (TreeGFC.SelectedNode() == 0)
+        session_.SelectedNodeText.clear();
+    else if (selected != node::AllStations)
+        // The command may have forgotten the station; the next one finds it selected.
+        session_.Station.CurrentStation = StationOf(TreeGFC.SelectedNode());
+}
+
+void GFCPrincipal::HidePanes() {
+    ListView2.SetVisible(false);
+    ListView3.SetVisible(false);
+    SSTab1.SetVisible(false);
+    SSTab2.SetVisible(false);
+    Label1.SetVisible(false);
+}
+
+void GFCPrincipal::ClearLists() {
+    for (auto* list : {&ListView1, &ListView2, &ListView3}) {
+        list->ClearRows();
+        list->ClearColumns();
+        list->SetVisible(false);
+    }
+    listShowsStations_ = false;
+}
+
+void GFCPrincipal::BuildTree() {
+    ListView1.SetVisible(true);
+    ListView2.SetVisible(false);
+    ListView3.SetVisible(false);
+    const int root =
+        TreeGFC.Add(0, "Stations", std::string(node::AllStations), ImageList1.Image(1), "CarpetaOpen");
+    const auto& stations = session_.Project.Stations;
+    for (std::size_t i = 0; i < stations.size(); ++i)
+        AddStation(root, stations[i], i);
+    TreeGFC.SetExpanded(root, true);
+    FillStationTable();
+}
+
+void GFCPrincipal::AddStation(int root, const project::Station& station, std::size_t index) {
+    const bool configured = IsConfigured(station.Name);
+    const int added =
+        TreeGFC.Add(root, station.Name, station.Name, configured ? "StationConfig" : "StationNoConfig");
+    TreeGFC.SetColour(added, configured ? ui::Colour::Blue : ui::Colour::Red);
+    if (configured)
+        AddStationChildren(added, station.Name, index);
+}
+
+void GFCPrincipal::AddStationChildren(int stationNode, const std::string& station, std::size_t index) {
+    const std::string number = std::to_string(index);
+    TreeGFC.Add(stationNode, "Comunes" + number, std::string(node::CommonParameters), "Carpeta", "Carpeta");
+    const int individual = TreeGFC.Add(stationNode, "Individuales" + number,
+                                       std::string(node::IndividualParameters), "Carpeta", "CarpetaOpen");
+    AddRunNodes(individual, station);
+}
+
+void GFCPrincipal::AddRunNodes(int parent, const std::string& station) {
+    const std::string file = session_.Project.ConfigFileOf(station);
+    const config::FileBatch batch(program_.Ini, file);
+    for (int run = 1; run <= config::MaxRuns; ++run) {
+        const std::string key = "Run" + std::to_string(run);
+        AddRunNode(parent, station, run, program_.Ini.ReadKey("FlowRuns", key, file) == "Yes");
+    }
+}
+
+void GFCPrincipal::AddRunNode(int parent, const std::string& station, int run, bool enabled) {
+    TreeGFC.Add(parent, station + std::to_string(run), node::RunText(run), enabled ? "Run" : "NoRun");
+}
+
+bool GFCPrincipal::IsConfigured(const std::string& station) const {
+    return config::ConfigFileExists(program_.Ini, session_.Project.Paths, session_.Project.ProjectName,
+                                    station);
+}
+
+// One row per station, in step with the tree's nodes.
+void GFCPrincipal::FillStationTable() {
+    ListView1.AddColumn("N\xC2\xB0", 4);
+    for (const char* heading :
+         {"Configured as FC", "Station Name", "Station Type", "IP Address", "Serial Number"})
+        ListView1.AddColumn(heading);
+    const auto& nodes = TreeGFC.At(1).Children;
+    const auto& stations = session_.Project.Stations;
+    std::vector<ui::ListView::Row> rows;
+    for (std::size_t i = 0; i < stations.size(); ++i) {
+        const auto& station = stations[i];
+        const bool configured = TreeGFC.At(nodes.at(i)).Image == "StationConfig";
+        rows.push_back({std::to_string(i + 1), YesOrNo(configured), station.Name, station.Type,
+                        station.Address, std::to_string(station.SerialNumber)});
+    }
+    ListView1.AddRows(std::move(rows));
+    listShowsStations_ = true;
+}
+
+void GFCPrincipal::MarkRunNodes() {
+    TreeGFC.SetBold(1, true);
+    for (int i = 1; i <= TreeGFC.Count(); ++i)
+        if (node::RunOf(TreeGFC.At(i).Text) > 0)
+            TreeGFC.SetColour(i, ui::Colour::Green);
+}
+
+void GFCPrincipal::SetRunImage(const std::string& path, bool enabled) {
+    if (const int found = TreeGFC.FindPath(path); found > 0)
+        TreeGFC.SetImage(found, enabled ? "Run" : "NoRun");
+}
+
+// The station that a node below the root belongs to. Cut from the path, a name with a backslash would give
+// another one.
+const std::string& GFCPrincipal::StationOf(int treeNode) const {
+    const int parent = TreeGFC.At(treeNode).Parent;
+    return TreeGFC.At(parent).Parent == 0 ? TreeGFC.At(treeNode).Text : StationOf(parent);
+}
+
+void GFCPrincipal::NodeClicked(int clicked) {
+    const std::string text = TreeGFC.At(clicked).Text;
+    if (text == node::AllStations) {
+        session_.SelectedNodeText = text;
+        return ShowStations("Gas Flow Computer");
+    }
+    const std::string path = TreeGFC.FullPath(clicked);
+    session_.Station.CurrentStation = StationOf(clicked);
+    session_.SelectedPath = path;
+    session_.SelectedNodeText = text;
+    SetEnabled(false);
+    ShowPaneFor(path);
+    SetEnabled(true);
+}
+
+void GFCPrincipal::ShowPaneFor(const std::string& path) {
+    const std::string& station = session_.Station.CurrentStation;
+    if (path == node::StationPath(station))
+        return ShowStations(station);
+    if (path == node::CommonPath(station))
+        return ShowCommon(station);
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        if (path == node::RunPath(station, run))
+            return ShowRun(station, run);
+}
+
+void GFCPrincipal::ShowStations(const std::string& statusText) {
+    HidePanes();
+    // The summaries use the same list.
+    if (!listShowsStations_) {
+        ClearLists();
+        FillStationTable();
+    }
+    ListView1.SetVisible(true);
+    StatusBar1.SetPanelText(1, statusText);
+}
+
+void GFCPrincipal::PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden) {
+    shown.SetVisible(true);
+    hidden.SetVisible(false);
+    ListView1.SetVisible(false);
+}
+
+void GFCPrincipal::ShowCommon(const std::string& station) {
+    const std::string file = session_.ConfigFile();
+    // The first page reads a few keys of each enabled run besides.
+    const config::FileBatch batch(program_.Ini, file);
+    config::LoadStationConfig(program_.Ini, session_.Station, file);
+    PlacePane(SSTab1, SSTab2);
+    SSTab1.SetTab(0);
+    summary_.FillCommon();
+    StatusBar1.SetPanelText(1, std::string(node::CommonParameters) + " (" + station + ")");
+}
+
+void GFCPrincipal::LoadRun(int run) {
+    const std::string file = session_.ConfigFile();
+    const config::FileBatch batch(program_.Ini, file);
+    config::LoadStationConfig(program_.Ini, session_.Station, file);
+    config::LoadRun(program_.Ini, session_.Station, file, run);
+}
+
+void GFCPrincipal::ShowRun(const std::string& station, int run) {
+    LoadRun(run);
+    PlacePane(SSTab2, SSTab1);
+    SSTab2.SetTab(0);
+    summary_.FillRun();
+    StatusBar1.SetPanelText(1, std::string(node::IndividualParameters) + " (" + station +
+                                   ") : " + node::RunText(run));
+}
+
+} // namespace gfc::forms

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "config/FileIni.h"
+#include "forms/program/FormStore.h"
+#include "forms/program/Session.h"
+#include "ui/Screen.h"
+
+namespace gfc::platform {
+struct Machine;
+}
+
+namespace gfc::forms {
+
+// All that a form can reach.
+struct Program {
+    Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen);
+
+    platform::Machine& Machine;
+    project::AddOnLibrary& Library;
+    ui::Screen& Screen;
+    config::FileIni Ini;
+    forms::Session Session;
+    FormStore Forms;
+};
+
+// A form of this program.
+class ProgramForm : public ui::Form {
+public:
+    ProgramForm(Program& program, std::string name, std::string caption = {})
+        : ui::Form(program.Screen, std::move(name), std::move(caption)), program_(program),
+          session_(program.Session) {}
+
+protected:
+    Program& program_;
+    Session& session_;
+};
+
+} // namespace gfc::forms

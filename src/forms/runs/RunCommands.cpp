@@ -1,0 +1,168 @@
+#include "forms/runs/RunCommands.h"
+
+#include "binding/ErrorLog.h"
+#include "config/ConfigReader.h"
+#include "config/Vocabulary.h"
+#include "forms/binding/ErrorLogView.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/main_window/StationNodes.h"
+#include "forms/runs/AddRun.h"
+#include "forms/runs/EnableFault.h"
+#include "forms/station/StationCommands.h"
+
+namespace gfc::forms {
+
+namespace {
+
+constexpr const char* flags = "FlowRuns";
+
+std::string EnabledKey(int run) {
+    return "Run" + std::to_string(run);
+}
+
+std::string ConfiguredKey(int run) {
+    return EnabledKey(run) + std::to_string(run);
+}
+
+void WriteEnabled(Program& program, int run, std::string_view flag) {
+    program.Ini.WriteKey(flags, EnabledKey(run), std::string(flag), program.Session.ConfigFile());
+}
+
+void ShowEnabled(Program& program, int run, bool enabled) {
+    const std::string path = node::RunPath(program.Session.Station.CurrentStation, run);
+    program.Forms.Get<GFCPrincipal>().SetRunImage(path, enabled);
+}
+
+// Empty if the node is not there any more.
+std::string ImageOfSelectedNode(Program& program) {
+    const auto& tree = program.Forms.Get<GFCPrincipal>().TreeGFC;
+    const int selected = tree.FindPath(program.Session.SelectedPath);
+    return selected == 0 ? std::string() : tree.At(selected).Image;
+}
+
+// Its result as a whole is not used: only the entries of the selected run count.
+void CheckTagsOfFile(Program& program) {
+    auto& session = program.Session;
+    ReadStationTags(program);
+    binding::BuildExpectedTags(program.Ini, session.ConfigFile(), session.Station, session.Expected);
+    (void)binding::CheckExpectedTags(session.Expected, session.Inventory);
+}
+
+void TurnOff(Program& program, int run, bool allRuns) {
+    const config::FileBatch batch(program.Ini, program.Session.ConfigFile());
+    for (int each = 1; each <= config::MaxRuns; ++each)
+        if (allRuns || each == run)
+            WriteEnabled(program, each, config::No);
+}
+
+// The image in the tree deliberately stays as it is until the tree is built anew.
+void Refuse(Program& program, int run, const EnableFault& fault) {
+    TurnOff(program, run, fault.OfAllRuns);
+    // Nothing writes the log here: it is the one of the last check that had an answer from a person.
+    const std::string log = binding::ErrorLogPath(program.Session.ConfigFile());
+    const auto answer = program.Screen.Ask({.Title = "Failed enable run",
+                                            .Text = EnableFaultText(fault, run, log),
+                                            .TheIcon = ui::Icon::Question,
+                                            .TheButtons = ui::Buttons::YesNo});
+    if (answer == ui::Answer::Yes && !program.Screen.Ended())
+        ViewErrorLog(program, log, ui::WindowState::Maximised);
+}
+
+// The station as its file has it, but with all runs off in memory: adding a run needs that one alone.
+void LoadWithoutRuns(Program& program) {
+    auto& session = program.Session;
+    auto& station = session.Station;
+    session.EditMode = EditMode::None;
+    config::LoadStationConfig(program.Ini, station, session.ConfigFile());
+    station.FlagAGA7 = station.FlowAlgorithm == config::algorithm::AGA7;
+    station.Measured = station.GasDensitySource == config::source::Measured;
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        SetRunInMemory(station, run, false);
+    station.ActiveRunCount = 1;
+}
+
+void OfferToConfigure(Program& program, int run) {
+    const auto answer =
+        program.Screen.Ask({.Title = "Configure Run",
+                            .Text = "The selected run is not configured. Do you want to configure it?",
+                            .TheIcon = ui::Icon::Information,
+                            .TheButtons = ui::Buttons::YesNo});
+    if (answer != ui::Answer::Yes || program.Screen.Ended())
+        return;
+    if (ChkRun(program)) {
+        SetRunInMemory(program.Session.Station, run, true);
+        AddRunSequence(program, run);
+    }
+    // The counts of the candidates add up over stations until somebody clears them.
+    program.Session.Modules.ClearCounts();
+}
+
+void Enable(Program& program, int run) {
+    const std::string configured =
+        program.Ini.ReadKey(flags, ConfiguredKey(run), program.Session.ConfigFile());
+    if (configured == config::Yes) {
+        ShowEnabled(program, run, true);
+        WriteEnabled(program, run, config::Yes);
+    } else if (configured == config::No) {
+        OfferToConfigure(program, run);
+    }
+    // Any other word, or none, is deliberately passed over in silence.
+}
+
+void EnableSelected(Program& program, int run) {
+    if (run == 0) {
+        program.Screen.Ask({.Title = "Error select run",
+                            .Text = "Please select the run that wish to enable at individual parameters",
+                            .TheIcon = ui::Icon::Exclamation});
+        return;
+    }
+    if (ImageOfSelectedNode(program) == "Run") {
+        program.Screen.Ask({.Title = "Run enabled",
+                            .Text = "The selected run is enabled already",
+                            .TheIcon = ui::Icon::Information});
+        return;
+    }
+    Enable(program, run);
+}
+
+} // namespace
+
+// The check comes first, deliberately whatever is selected.
+void EnableRunCommand(Program& program) {
+    auto& session = program.Session;
+    const int run = node::RunOf(session.SelectedNodeText);
+    CheckTagsOfFile(program);
+    if (program.Screen.Ended())
+        return;
+    if (const auto fault = FindEnableFault(session.Expected, run))
+        return Refuse(program, run, *fault);
+    LoadWithoutRuns(program);
+    EnableSelected(program, run);
+    // The panes go on showing the station: its flags are again those of the file.
+    if (!program.Screen.Ended() && !session.Station.CurrentStation.empty())
+        config::LoadStationConfig(program.Ini, session.Station, session.ConfigFile());
+}
+
+void DisableRunCommand(Program& program) {
+    const int run = node::RunOf(program.Session.SelectedNodeText);
+    if (run == 0) {
+        // Deliberately the words of the other command.
+        program.Screen.Ask({.Title = "Error select run",
+                            .Text = "Please select the run you wish to enable at individual parameters",
+                            .TheIcon = ui::Icon::Exclamation});
+        return;
+    }
+    if (ImageOfSelectedNode(program) == "NoRun") {
+        program.Screen.Ask({.Title = "Run disabled",
+                            .Text = "The run already selected is disabled",
+                            .TheIcon = ui::Icon::Information});
+        return;
+    }
+    // A key written now would make a file of its own, and with it a station that counts as configured.
+    if (!program.Ini.FileExists(program.Session.ConfigFile()))
+        return program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();
+    WriteEnabled(program, run, config::No);
+    ShowEnabled(program, run, false);
+}
+
+} // namespace gfc::forms

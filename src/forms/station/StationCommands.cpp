@@ -1,0 +1,162 @@
+#include "forms/station/StationCommands.h"
+
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/main_window/StationNodes.h"
+#include "forms/station/IOReports.h"
+#include "forms/wizard/SelectRuns.h"
+#include "forms/wizard/WizardFC.h"
+
+namespace gfc::forms {
+
+namespace {
+
+// A repaint for each of a hundred thousand tags would take longer than reading them.
+constexpr int tagsPerRepaint = 512;
+
+void LoadStationTags(Program& program) {
+    auto& session = program.Session;
+    auto& bar = program.Forms.Get<GFCPrincipal>().StatusBar1;
+    program.Screen.DoEvents();
+    int copied = 0;
+    const auto show = [&](const std::string& tagName) {
+        bar.SetVisible(true);
+        bar.SetPanelText(1, "Loading Tags:" + tagName);
+        if (++copied % tagsPerRepaint == 0)
+            program.Screen.DoEvents();
+    };
+    session.Tags =
+        program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, show);
+    program.Screen.DoEvents();
+    if (session.Tags.empty())
+        program.Screen.Ask({.Title = "Flow Gas Computer",
+                            .Text = "Error: There are not Tags in Station",
+                            .TheIcon = ui::Icon::Critical});
+}
+
+// Entries of the wizard's list of standards.
+constexpr int aga3 = 0;
+constexpr int aga7 = 1;
+
+void ReportShortageOfBoth(Program& program) {
+    ReportIOShortage(program, project::ShortageKind::AGA3Family);
+    ReportIOShortage(program, project::ShortageKind::AGA7);
+}
+
+// Asked for a station without a configuration too.
+bool MayReplaceConfiguration(Program& program) {
+    const auto answer = program.Screen.Ask({.Title = "Flow Gas Computer",
+                                            .Text = "Creating a new configuration for the station.\r\n"
+                                                    "The current configuration will be deleted.\r\n"
+                                                    "Proceed?",
+                                            .TheButtons = ui::Buttons::YesNo});
+    return answer == ui::Answer::Yes;
+}
+
+// The wizard starts on the algorithm that the station carries.
+void PresetWizard(Program& program, int standard) {
+    auto& wizard = program.Forms.Touch<WizardFC>();
+    wizard.cbSourceGas.SetListIndex(0);
+    wizard.CombStandard.SetListIndex(standard);
+    program.Session.EditMode = EditMode::Wizard;
+    program.Session.Station.FlagAGA7 = standard == aga7;
+}
+
+// False if the station carries neither algorithm.
+bool PresetWhatFits(Program& program) {
+    const auto capacity = CapacityOf(program.Session);
+    if (RunCapacity(capacity, 17, 1, 3)) {
+        PresetWizard(program, aga3);
+        return true;
+    }
+    if (!RunCapacity(capacity, 6, 1, 3) || !LongCapacity(capacity, 1))
+        return false;
+    PresetWizard(program, aga7);
+    return true;
+}
+
+void SelectRunsAndGoOn(Program& program) {
+    const bool isAGA7 = program.Session.Station.FlagAGA7;
+    (void)MaximumRuns(program, isAGA7, true);
+    auto& selection = program.Forms.Get<SelectRuns>();
+    selection.FlagAGA7 = isAGA7;
+    selection.ShowModal();
+}
+
+void NewConfiguration(Program& program) {
+    int& activeRuns = program.Session.Station.ActiveRunCount;
+    // Nothing is carried over from an earlier command.
+    activeRuns = 0;
+    if (!OpenStation(program)) {
+        activeRuns = 1;
+        ReportShortageOfBoth(program);
+        activeRuns = 0;
+        return ClearSession(program);
+    }
+    if (PresetWhatFits(program))
+        return SelectRunsAndGoOn(program);
+    ReportShortageOfBoth(program);
+    ClearSession(program);
+}
+
+} // namespace
+
+bool HasPlaceForItsFile(Program& program) {
+    if (!program.Session.ConfigFile().empty())
+        return true;
+    program.Screen.Ask(
+        {.Title = "Gas Flow Computer",
+         .Text = "The configuration of this station could not be saved:\r\n"
+                 "the name of the station, or the path of the project, cannot be that of a file.\r\n"
+                 "Please rename the station, or open the project from its folder, in the I/O Workshop.",
+         .TheIcon = ui::Icon::Exclamation});
+    return false;
+}
+
+void ReadStationTags(Program& program) {
+    auto& session = program.Session;
+    LoadStationTags(program);
+    project::BuildInventory(session.Tags, session.Inventory);
+}
+
+bool OpenStation(Program& program) {
+    auto& session = program.Session;
+    ReadStationTags(program);
+    return project::ChooseWorkingModules(session.Inventory, session.Modules);
+}
+
+void ClearSession(Program& program) {
+    auto& session = program.Session;
+    auto& inventory = session.Inventory;
+    auto& modules = session.Modules;
+    session.SelectedNodeText.clear();
+    // The names of VirtFX and the physical float and long lists deliberately stay.
+    for (auto* names :
+         {&modules.NamesLX, &modules.NamesLY, &modules.NamesAX, &modules.NamesAY, &modules.NamesFY})
+        names->clear();
+    for (auto* list : {&inventory.VirtX, &inventory.VirtY, &inventory.VirtFX, &inventory.VirtFY,
+                       &inventory.VirtAX, &inventory.VirtAY, &inventory.VirtLX, &inventory.VirtLY,
+                       &inventory.PhysAX, &inventory.PhysAY, &inventory.PhysX, &inventory.PhysY})
+        list->clear();
+    modules.ClearCounts();
+    config::ResetStationConfig(session.Station);
+    session.TreeRefreshNeeded = false;
+    auto& window = program.Forms.Get<GFCPrincipal>();
+    for (auto* combo : {&window.Combo1, &window.Combo2, &window.Combo3})
+        combo->Clear();
+}
+
+void ConfigWiardCommand(Program& program) {
+    if (node::NamesNoStation(program.Session.SelectedNodeText)) {
+        program.Screen.Ask({.Title = "Gas Flow Computer", .Text = "Please select a station..."});
+        return;
+    }
+    if (!HasPlaceForItsFile(program) || !MayReplaceConfiguration(program))
+        return;
+    NewConfiguration(program);
+    // Nobody drives dialogs any more.
+    program.Session.EditMode = EditMode::None;
+    if (!program.Screen.Ended())
+        program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();
+}
+
+} // namespace gfc::forms

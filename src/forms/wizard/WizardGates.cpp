@@ -1,0 +1,43 @@
+// Whether the station's registers carry what the wizard's pages choose.
+#include "forms/station/CapacityGates.h"
+#include "forms/wizard/WizardFC.h"
+
+namespace gfc::forms {
+
+bool WizardFC::ShowsAGA7() const {
+    return CombStandard.ListIndex() == 1;
+}
+
+bool WizardFC::ShowsDensimeter() const {
+    return cbSourceGas.ListIndex() == 0;
+}
+
+int WizardFC::SourceCapacityCheck() {
+    const int verdict = SourceVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()});
+    if (verdict == 0 && cbSourceGas.ListIndex() != ui::DropDownList::None)
+        TakeFittingSource();
+    return verdict;
+}
+
+void WizardFC::TakeFittingSource() {
+    OptComp.SetValue(!ShowsDensimeter());
+    FrCompGas.SetVisible(!ShowsDensimeter());
+    lastPage_ = 3;
+    RefreshStep();
+}
+
+int WizardFC::CompositionCapacityCheck() {
+    return OptCromatografo.Value() ? CompositionVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()}) : 0;
+}
+
+void WizardFC::FallBack(ui::DropDownList& list, int entry) {
+    // A fallback that does not fit either is reported a second time and stays: each entry is the other's
+    // fallback, and taking it back too would go on for ever.
+    if (fallingBack_)
+        return;
+    fallingBack_ = true;
+    list.SetListIndex(entry);
+    fallingBack_ = false;
+}
+
+} // namespace gfc::forms

@@ -1,0 +1,86 @@
+// The end of the wizard: the pass over the runs, the save, and the ways out.
+#include "config/ConfigWriter.h"
+#include "forms/binding/TagRuns.h"
+#include "forms/program/MainWindow.h"
+#include "forms/station/Step.h"
+#include "forms/station/WizardPass.h"
+#include "forms/wizard/SelectRuns.h"
+#include "forms/wizard/WizardFC.h"
+
+namespace gfc::forms {
+
+void WizardFC::Finish() {
+    if (LacksValue()) {
+        // The message is the same whichever of the four is missing.
+        program_.Screen.Ask({.Title = "Gas Flow Computer",
+                             .Text = "Error: Missing gas flowing viscosity or gas isentropic coefficient",
+                             .TheIcon = ui::Icon::Exclamation});
+        siguiente.SetVisible(true);
+        siguiente.SetEnabled(true);
+        return;
+    }
+    for (ui::CommandButton* button : {&atras, &siguiente, &finalizar})
+        button->SetVisible(false);
+    StoreWizardValues();
+    HideMainWindow(program_);
+    SetModulesAside();
+    Hide();
+    const bool through = WizardPass(program_, WizardPassTexts).Run();
+    if (program_.Screen.Ended())
+        return;
+    if (!through)
+        return Abandon();
+    program_.Forms.Unload<TagRuns>();
+    ShowClosingPage();
+    ShowModal();
+}
+
+// Their tags are not offered for binding.
+void WizardFC::SetModulesAside() {
+    project::BuildAvailableLists(session_.Inventory, {Combo1.Text(), Combo2.Text(), Combo3.Text()},
+                                 session_.Station.FlagAGA7);
+}
+
+// After a cancel in the pass. Nothing was written; all that was entered is lost.
+void WizardFC::Abandon() {
+    CloseForms();
+    ForgetStation(session_);
+    ShowMainWindow(program_);
+}
+
+void WizardFC::CloseForms() {
+    program_.Forms.Unload<TagRuns>();
+    program_.Forms.Unload<SelectRuns>();
+    program_.Forms.Unload<Step>();
+    Unload();
+}
+
+void WizardFC::Save() {
+    const std::string file = session_.ConfigFile();
+    // While the old file stands there is deliberately no other way out; the window still paints.
+    SetEnabled(false);
+    while (program_.Ini.FileExists(file)) {
+        if (program_.Ini.DeleteConfigFile(file))
+            continue;
+        if (program_.Screen.Ended())
+            return;
+        program_.Screen.WaitAMoment();
+    }
+    config::SaveWholeConfiguration(program_.Ini, session_.Station, file);
+    CloseForms();
+    ShowMainWindow(program_);
+    session_.TreeRefreshNeeded = true;
+}
+
+void WizardFC::Quit() {
+    const auto answer = program_.Screen.Ask({.Title = "Gas Flow Computer",
+                                             .Text = "Do you want to quit the configuration wizard ?",
+                                             .TheButtons = ui::Buttons::YesNo});
+    if (answer != ui::Answer::Yes)
+        return;
+    Unload();
+    ShowMainWindow(program_);
+    ForgetStation(session_);
+}
+
+} // namespace gfc::forms

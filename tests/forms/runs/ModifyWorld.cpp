@@ -1,0 +1,282 @@
+#include "ModifyWorld.h"
+
+#include "binding/Catalogue.h"
+#include "config/ConfigWriter.h"
+#include "config/Vocabulary.h"
+#include "forms/binding/TagRuns.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace gfc::test {
+
+namespace {
+
+using binding::BindingStage;
+constexpr const char* LineBreak = "\r\n";
+
+bool IsHeader(const std::string& line) {
+    return !line.empty() && line.front() == '[';
+}
+
+bool IsKey(const std::string& line) {
+    return !line.empty() && line.front() != ';' && line.find('=') != std::string::npos;
+}
+
+std::string SwapCase(std::string text) {
+    for (char& letter : text) {
+        const auto byte = static_cast<unsigned char>(letter);
+        letter = static_cast<char>(std::isupper(byte) != 0 ? std::tolower(byte) : std::toupper(byte));
+    }
+    return text;
+}
+
+// Names of sections and keys are plain letters.
+bool SameName(std::string_view left, std::string_view right) {
+    return std::ranges::equal(left, right, [](unsigned char a, unsigned char b) {
+        return a == b || std::tolower(a) == std::tolower(b);
+    });
+}
+
+std::vector<std::string> LinesOfText(const std::string& bytes, std::string& rest) {
+    std::vector<std::string> lines;
+    std::size_t begin = 0;
+    for (auto end = bytes.find(LineBreak); end != std::string::npos; end = bytes.find(LineBreak, begin)) {
+        lines.push_back(bytes.substr(begin, end - begin));
+        begin = end + 2;
+    }
+    rest = bytes.substr(begin);
+    return lines;
+}
+
+} // namespace
+
+FileText::FileText(const std::string& bytes) : lines_(LinesOfText(bytes, rest_)) {}
+
+FileText::Range FileText::LinesOf(const std::string& section) const {
+    std::size_t begin = 0;
+    const std::string header = "[" + section + "]";
+    while (begin < lines_.size() && !SameName(lines_[begin], header))
+        ++begin;
+    begin = std::min(begin + 1, lines_.size());
+    std::size_t end = begin;
+    while (end < lines_.size() && !IsHeader(lines_[end]))
+        ++end;
+    return {begin, end};
+}
+
+std::optional<std::size_t> FileText::LineOf(const std::string& section, const std::string& key) const {
+    const auto [begin, end] = LinesOf(section);
+    for (std::size_t i = begin; i < end; ++i)
+        if (const std::string& line = lines_[i]; line.size() > key.size() && line[key.size()] == '=' &&
+                                                 IsKey(line) &&
+                                                 SameName(std::string_view(line).substr(0, key.size()), key))
+            return i;
+    return std::nullopt;
+}
+
+std::optional<std::string> FileText::Value(const std::string& section, const std::string& key) const {
+    const auto line = LineOf(section, key);
+    if (!line)
+        return std::nullopt;
+    return lines_[*line].substr(lines_[*line].find('=') + 1);
+}
+
+FileText& FileText::Set(const std::string& section, const std::string& key, const std::string& value) {
+    const std::string text = key + "=" + value;
+    if (const auto line = LineOf(section, key)) {
+        lines_[*line] = text;
+        return *this;
+    }
+    auto [begin, end] = LinesOf(section);
+    while (end > begin && !IsKey(lines_[end - 1]))
+        --end;
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(end), text);
+    return *this;
+}
+
+FileText& FileText::Touch(const std::string& section, const std::vector<std::string>& keys) {
+    for (const auto& key : keys)
+        if (const auto value = Value(section, key))
+            Set(section, key, *value);
+    return *this;
+}
+
+FileText& FileText::Remove(const std::string& section, const std::string& key) {
+    if (const auto line = LineOf(section, key))
+        lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*line));
+    return *this;
+}
+
+FileText& FileText::Replace(const std::string& section, const std::vector<std::string>& lines) {
+    const auto [begin, end] = LinesOf(section);
+    const auto first = lines_.begin() + static_cast<std::ptrdiff_t>(begin);
+    lines_.erase(first, lines_.begin() + static_cast<std::ptrdiff_t>(end));
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(begin), lines.begin(), lines.end());
+    return *this;
+}
+
+std::string FileText::Bytes() const {
+    std::string bytes;
+    for (const auto& line : lines_)
+        bytes.append(line).append(LineBreak);
+    return bytes + rest_;
+}
+
+std::string EditedByHand(const std::string& file) {
+    std::string rest;
+    std::string edited =
+        "; looked after by the shift\r\n\r\n[Plant Notes]\r\nwritten = by hand\r\nno key\r\n";
+    for (const auto& line : LinesOfText(file, rest)) {
+        if (IsHeader(line)) {
+            edited.append(LineBreak).append(line).append("\r\n; about ").append(line).append(LineBreak);
+            continue;
+        }
+        const auto equals = line.find('=');
+        edited.append(SwapCase(line.substr(0, equals))).append(line.substr(equals)).append(LineBreak);
+    }
+    return edited + "\r\n[Maintenance]\r\nRun2=greased\r\nlast = 2021";
+}
+
+ModifyWorld::ModifyWorld(const ModifyChoices& choices) {
+    AddStation("North", LargeStationTags());
+    OpenProject();
+    OpenStation("North");
+    Choose(choices);
+    ActivateRuns(choices.Runs);
+    BindEverything();
+    FillFixedValues();
+    config::SaveWholeConfiguration(Program.Ini, Station, File());
+    Content() = EditedByHand(Content());
+    // As the command that opens the form leaves the session.
+    config::ResetStationConfig(Station);
+    Station.Runs = {};
+    OpenStation("North");
+    SelectRun(2);
+}
+
+void ModifyWorld::Choose(const ModifyChoices& choices) {
+    Station.FlowAlgorithm = choices.Algorithm;
+    Station.FlagAGA7 = choices.Algorithm == "AGA7";
+    Station.GasDensitySource = choices.Source;
+    Station.Measured = choices.Source == "MEASURED";
+    Station.AGA8CalInput = choices.CalInput;
+    Station.AGA8Method = "DETAIL";
+    Station.SystemUnits = "Metric";
+    Station.StandardT = "15.00";
+    Station.StandardP = "1.01325";
+    Station.Compressible = "Yes";
+    Station.FlowingViscosity = "0.010268";
+    Station.IsentropicCoeff = "1.3";
+    Station.PressType = "Absolute";
+    Station.ExtAtmPress = "No";
+    Station.AtmPress = "1.01325";
+    auto& working = Station.WorkingModules;
+    working = {"VF0", "FX", "1", "VL0", "LX", "1", "VA0", "AX", "1"};
+}
+
+void ModifyWorld::BindEverything() {
+    auto& pools = Session.Inventory;
+    const std::map<binding::TagClass, project::TagList*> lists = {
+        {binding::TagClass::Float, &pools.AvailFloat},
+        {binding::TagClass::Long, &pools.AvailLong},
+        {binding::TagClass::Analog, &pools.AvailAnalog},
+        {binding::TagClass::Digital, &pools.AvailDigital}};
+    for (int element = 0; element < Station.ActiveRunCount; ++element)
+        for (const auto stage : {BindingStage::RunInputs, BindingStage::RunOutputs, BindingStage::GasInputs,
+                                 BindingStage::GasOutputs})
+            for (const auto& variable : binding::VariablesOf(stage, Station, element)) {
+                auto& pool = *lists.at(variable.Class());
+                const auto& tag = pool.front();
+                *variable.Binding = {
+                    .Tag = tag.TagName, .Type = tag.RegType, .RegAddr = std::to_string(tag.RegAddr)};
+                pool.erase(pool.begin());
+            }
+}
+
+void ModifyWorld::FillFixedValues() {
+    using config::GasSlot;
+    for (std::size_t element = 0; element < Station.Runs.IO.size(); ++element) {
+        auto& io = Station.Runs.IO[element];
+        io.CalibrationFactor = "1.0";
+        io.meterKFactor = "250";
+        io.GasDensityStandard = "0.72";
+        io.ContractHour = "6";
+        io.ContractMin = "30";
+        auto& mechanical = Station.Runs.Mechanical[element];
+        mechanical = {"363.513", "CS",     "20.00", "193.675", "SS", "20.00", "Flange", "Up", "4",
+                      "0.6986",  "0.7106", "1.700", "",        "",   "No",    "",       "",   ""};
+        if (Station.AGA8CalInput == "MEASURED" || Station.Measured)
+            continue;
+        auto& gas = Station.Runs.Gas[element];
+        for (int slot = 0; slot < static_cast<int>(GasSlot::GCEnable); ++slot)
+            gas[static_cast<GasSlot>(slot)].Tag = "0.0" + std::to_string(10 + slot);
+    }
+}
+
+void ModifyWorld::SelectNode(const std::string& text) {
+    const auto separator = text.rfind('\\');
+    Session.SelectedNodeText = separator == std::string::npos ? text : text.substr(separator + 1);
+    Session.SelectedPath = "All Stations\\North\\" + text;
+}
+
+void ModifyWorld::Put(const std::string& section, const std::string& key, const std::string& value) {
+    Program.Ini.WriteKey(section, key, value, File());
+}
+
+std::string ModifyWorld::Key(const std::string& section, const std::string& key) {
+    return Program.Ini.ReadKey(section, key, File());
+}
+
+void ModifyWorld::RenameTag(const std::string& name, const std::string& newName) {
+    auto& tags = Library.TagsOf.at("North");
+    std::ranges::find(tags, name, &project::Tag::TagName)->TagName = newName;
+    OpenStation("North");
+}
+
+void ModifyWorld::TickAndAccept(const std::vector<int>& boxes) {
+    for (const int box : boxes)
+        TheStory.Click(Form, "Check" + std::to_string(box));
+    TheStory.Click(Form, "Command1");
+}
+
+void ModifyWorld::LookAndCancel() {
+    TheStory.Click(Form, "Command2").SeeShown(Form, false);
+    Play();
+    Screen.PlayOut();
+}
+
+void ModifyWorld::CancelTags() {
+    TheStory.Click("TagRuns", "Command2")
+        .Box("Gas Flow Computer",
+             "Are you sure you want to discard the changes made to the current configuration?",
+             ui::Icon::Question, ui::Answer::Yes);
+}
+
+void ModifyWorld::Rebind(int position, const std::string& list) {
+    TheStory
+        .Do("pick variable " + std::to_string(position),
+            [this, position](Driver& hands) {
+                const auto& tree = Program.Forms.Get<forms::TagRuns>().TreeAGA;
+                hands.ClickNode("TagRuns", "TreeAGA", tree.FullPath(binding::node::Variable(position)));
+            })
+        .Click("TagRuns", "Command4")
+        .Check([this, list](Driver& eyes) {
+            Assigned = {.Tag = eyes.Cell("TagRuns", list, 1, 1),
+                        .Type = eyes.Cell("TagRuns", list, 1, 2),
+                        .RegAddr = eyes.Cell("TagRuns", list, 1, 3)};
+        })
+        .Click("TagRuns", "Command1");
+}
+
+void ModifyWorld::AskedToSave(ui::Icon icon, ui::Answer answer) {
+    TheStory.Box("Configuration finished.", "Do you wish to save your changes ?", icon, answer);
+}
+
+std::vector<std::string> ModifyWorld::Windows() const {
+    const auto& shown = Screen.FormsShown;
+    const auto first = std::ranges::find(shown, std::string(Form));
+    return first == shown.end() ? std::vector<std::string>{} : std::vector(first + 1, shown.end());
+}
+
+} // namespace gfc::test

@@ -1,0 +1,225 @@
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/station/PassStory.h"
+#include "forms/wizard/WizardFC.h"
+
+#include <gtest/gtest.h>
+
+namespace gfc::test {
+namespace {
+
+constexpr const char* Form = "WizardFC";
+
+class MissingValue : public testing::TestWithParam<const char*> {};
+
+TEST_P(MissingValue, keeps_the_page_under_one_message) {
+    WizardWorld world;
+    (void)world.Preset(0, 0, 1);
+    for (int page = 0; page < 3; ++page)
+        world.TheStory.Click(Form, "siguiente");
+    world.TheStory.Type(Form, GetParam(), "")
+        .Click(Form, "finalizar")
+        .Box("Gas Flow Computer", "Error: Missing gas flowing viscosity or gas isentropic coefficient",
+             ui::Icon::Exclamation)
+        .SeeVisible(Form, "siguiente")
+        .SeeEnabled(Form, "siguiente")
+        .SeeText(Form, "lbStep", "Step 4 of 4")
+        .SeeVisible(Form, "Frame4")
+        .Check([&](Driver&) { EXPECT_EQ(world.Station.StandardT, ""); });
+    world.PlayPages();
+}
+
+INSTANTIATE_TEST_SUITE_P(Fields, MissingValue,
+                         testing::Values("TextDensityStandardTemp", "TextDensityStandardP", "Text1",
+                                         "Text2"));
+
+// Next is back beside Finish then, and leads nowhere; but it deliberately takes the frames away.
+TEST(WizardFinish, next_on_the_last_page_hides_the_composition_of_any_source_but_aga8) {
+    for (const int source : {1, 2, 3, 4}) {
+        WizardWorld world;
+        (void)world.Preset(0, source, 1);
+        for (int page = 0; page < 3; ++page)
+            world.TheStory.Click(Form, "siguiente");
+        world.TheStory.Type(Form, "Text1", "")
+            .Click(Form, "finalizar")
+            .Box("Gas Flow Computer", "", ui::Icon::Exclamation)
+            .SeeVisible(Form, "FrCompGas")
+            .Click(Form, "siguiente")
+            .SeeVisible(Form, "FrCompGas", source == 1)
+            .SeeVisible(Form, "FrMetAGA8", source == 1)
+            .SeeVisible(Form, "finalizar")
+            .SeeText(Form, "lbStep", "Step 4 of 4");
+        world.PlayPages();
+    }
+}
+
+TEST(WizardFinish, goes_on_once_the_missing_value_is_there) {
+    PassWorld world({0, 0});
+    world.Program.Forms.Get<forms::WizardFC>().Text1.SetText("");
+    world.TheStory
+        .Box("Gas Flow Computer", "Error: Missing gas flowing viscosity or gas isentropic coefficient",
+             ui::Icon::Exclamation)
+        .Type(Form, "Text1", "0.011")
+        .Click(Form, "finalizar");
+    world.ThePass.Open(world.TheStory);
+    world.ThePass.Through(world.TheStory);
+    world.TheStory.Check([&](Driver&) { EXPECT_EQ(world.Station.FlowingViscosity, "0.011"); });
+    world.PlayPages();
+}
+
+TEST(WizardFinish, the_closing_page_is_the_only_one_left) {
+    PassWorld world({0, 0});
+    world.ThePass.Open(world.TheStory);
+    world.ThePass.Through(world.TheStory);
+    for (const char* button : {"siguiente", "atras", "finalizar", "lbStep"})
+        world.TheStory.SeeVisible(Form, button, false);
+    world.TheStory.SeeText(Form, "lbInfo", "")
+        .SeeEnabled(Form, "Command1")
+        .SelectTab(Form, "wizard", 1)
+        .Check([](Driver& d) { EXPECT_EQ(d.Tab(Form, "wizard"), 4); })
+        .Click(Form, "Command2");
+    world.PlayPages();
+    EXPECT_EQ(world.Screen.HelpOpened.back(), std::pair(std::string("AGA.chm"), 3400));
+}
+
+// The save.
+
+// The story up to the closing page of a small configuration over an existing file.
+struct SaveWorld : PassWorld {
+    SaveWorld() : PassWorld({1, 0, false, false, {4}}) {
+        Files.Content[ConfigFile("North")] = "[Run1]\r\nold=1\r\n[Foreign]\r\nkept=no\r\n";
+        ThePass.Open(TheStory);
+        ThePass.Through(TheStory);
+        TheStory.Click(Form, "Command1");
+    }
+};
+
+TEST(WizardSave, replaces_an_older_file_and_all_its_sections) {
+    SaveWorld world;
+    world.Play();
+    EXPECT_EQ(world.File().find("Foreign"), std::string::npos);
+    EXPECT_EQ(world.File().find("[Run1]"), std::string::npos);
+    EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
+}
+
+TEST(WizardSave, waits_as_long_as_the_old_file_stands) {
+    SaveWorld world;
+    const std::string file = world.ConfigFile("North");
+    world.Files.Unwritable.insert(file);
+    int waited = 0;
+    world.Screen.OnWait = [&] {
+        // Nothing else can be done meanwhile.
+        EXPECT_FALSE(world.Program.Forms.Get<forms::WizardFC>().cancelar.PersonClicks());
+        EXPECT_FALSE(world.Program.Forms.Get<forms::WizardFC>().Command1.PersonClicks());
+        EXPECT_NE(world.File().find("old=1"), std::string::npos);
+        if (++waited == 3)
+            world.Files.Unwritable.erase(file);
+    };
+    world.Play();
+    EXPECT_EQ(waited, 3);
+    EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
+    EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
+}
+
+TEST(WizardSave, lets_the_program_end_while_the_old_file_stands) {
+    SaveWorld world;
+    world.Files.Unwritable.insert(world.ConfigFile("North"));
+    world.Screen.OnWait = [&] { world.Screen.EndProgram(0); };
+    world.Play();
+    EXPECT_NE(world.File().find("old=1"), std::string::npos);
+}
+
+// What keeps the file from coming into being is not reported; the station simply stays unconfigured.
+
+TEST(WizardSave, ends_quietly_where_the_folder_takes_no_file) {
+    SaveWorld world;
+    world.Files.Content.clear();
+    world.Files.Unwritable.insert(world.ConfigFile("North"));
+    world.Play();
+    EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
+    EXPECT_FALSE(world.Screen.Ended());
+}
+
+TEST(WizardSave, ends_quietly_for_a_station_whose_name_no_file_bears) {
+    for (const char* name : {"../North", "a\\b", "x\ny"}) {
+        SaveWorld world;
+        const auto before = world.Files.Content;
+        world.Station.CurrentStation = name;
+        world.Play();
+        EXPECT_EQ(world.Files.Content, before) << name;
+        EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>()) << name;
+        EXPECT_FALSE(world.Screen.Ended()) << name;
+    }
+}
+
+// The end of the program, wherever it comes, is met quietly.
+
+TEST(WizardFinish, unwinds_without_a_word_when_the_program_ends_between_two_dialogs) {
+    PassWorld world({0, 0});
+    world.ThePass.Open(world.TheStory);
+    world.ThePass.Until(world.TheStory, 0);
+    world.ThePass.Dialogs()[0].GoThrough(world.TheStory);
+    world.TheStory.SeeShown("Step").Do("end the program", [&](Driver&) { world.Screen.EndProgram(0); });
+    world.Play();
+    EXPECT_TRUE(world.Screen.BoxesShown.empty());
+    EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_EQ(world.Screen.FormsShown.back(), "Step");
+}
+
+TEST(WizardFinish, unwinds_without_a_word_when_the_program_ends_inside_a_dialog) {
+    PassWorld world({0, 0});
+    world.ThePass.Open(world.TheStory);
+    world.ThePass.Until(world.TheStory, 0);
+    world.TheStory.Do("end the program", [&](Driver&) { world.Screen.EndProgram(0); });
+    world.Play();
+    EXPECT_EQ(world.Screen.FormsShown.back(), "FrParMec");
+}
+
+// The main window behind the wizard.
+
+struct WithMainWindow : PassWorld {
+    WithMainWindow() : PassWorld({1, 0, false, false, {1}}) {
+        Program.Forms.Get<forms::GFCPrincipal>().Show();
+        Program.Session.EditMode = forms::EditMode::Wizard;
+    }
+    Story& SeeMainWindow(bool shown) { return TheStory.SeeShown("GFCPrincipal", shown); }
+};
+
+TEST(WizardFinish, the_main_window_is_away_during_the_pass_and_back_after_the_save) {
+    WithMainWindow world;
+    world.SeeMainWindow(false);
+    world.ThePass.Open(world.TheStory);
+    world.SeeMainWindow(false);
+    world.ThePass.Through(world.TheStory);
+    world.SeeMainWindow(false).Click(Form, "Command1").SeeShown("WizardFC", false);
+    world.SeeMainWindow(true);
+    world.Play();
+    world.Screen.PlayOut();
+    // Coming back, it has shown the new state.
+    EXPECT_FALSE(world.Session.TreeRefreshNeeded);
+    EXPECT_NE(world.Program.Forms.Get<forms::GFCPrincipal>().TreeGFC.FindPath(
+                  "All Stations\\North\\Individual Parameters\\Run 1"),
+              0);
+}
+
+TEST(WizardFinish, the_main_window_is_back_after_a_cancel) {
+    WithMainWindow world;
+    world.ThePass.Open(world.TheStory);
+    world.ThePass.Until(world.TheStory, 1);
+    world.TheStory.Click("TagRuns", "Command2")
+        .Box("Gas Flow Computer", "", ui::Icon::Question, ui::Answer::Yes);
+    world.Play();
+    EXPECT_TRUE(world.Program.Forms.Get<forms::GFCPrincipal>().IsShown());
+    EXPECT_TRUE(world.Program.Forms.Get<forms::GFCPrincipal>().Enabled());
+}
+
+TEST(WizardFC, quitting_on_a_page_leaves_the_main_window_where_it_is) {
+    WizardWorld world;
+    world.Program.Forms.Get<forms::GFCPrincipal>().Show();
+    (void)world.Preset(0, 0, 1);
+    world.PlayPages();
+    EXPECT_TRUE(world.Program.Forms.Get<forms::GFCPrincipal>().IsShown());
+}
+
+} // namespace
+} // namespace gfc::test
