@@ -4,9 +4,8 @@
 #include "binding/ExpectedTags.h"
 #include "config/Vocabulary.h"
 #include "support/MemoryFiles.h"
+#include "support/TestFolders.h"
 
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -97,12 +96,6 @@ inline Texts Missing(const binding::ExpectedTags& expected) {
             if (!entry.Found)
                 captions.push_back(entry.Caption);
     return captions;
-}
-
-// "log/all_sections.log"; empty if there is no such file.
-inline std::string Golden(const std::string& name) {
-    std::ifstream file(std::string(GFC_TEST_DATA) + "/golden/" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 } // namespace gfc::test

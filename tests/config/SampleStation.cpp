@@ -1,9 +1,8 @@
 #include "SampleStation.h"
 
 #include "config/Vocabulary.h"
+#include "support/TestFolders.h"
 
-#include <fstream>
-#include <sstream>
 #include <vector>
 
 namespace gfc::config {
@@ -198,10 +197,7 @@ StationConfig SampleRun(const SampleChoices& choices, int run) {
 }
 
 std::string GoldenFile(const std::string& name) {
-    std::ifstream file(std::string(GFC_TEST_DATA) + "/golden/config/" + name + ".ini", std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
+    return test::Golden("config/" + name + ".ini");
 }
 
 std::string Lines(std::initializer_list<const char*> lines) {

@@ -1,3 +1,4 @@
+#include "support/TestFolders.h"
 #include "tools/ProfileReplay.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +11,7 @@ namespace {
 using namespace gfc::test;
 
 TEST(ProfileGolden, holds_in_every_recorded_case) {
-    std::ifstream cases(GFC_TEST_DATA "/golden/profile/profile.jsonl", std::ios::binary);
+    std::ifstream cases(GoldenFolder() / "profile/profile.jsonl", std::ios::binary);
     ASSERT_TRUE(cases);
     const auto outcomes = ReplayProfileCases(cases);
     EXPECT_EQ(outcomes.size(), 258u);

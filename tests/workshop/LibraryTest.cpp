@@ -1,5 +1,6 @@
 #include "WorkshopFixture.h"
 #include "project/AddOnInterface.h"
+#include "support/TestFolders.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/store/OpenProject.h"
 
@@ -12,7 +13,8 @@ using namespace project;
 
 class Library : public WorkshopFixture {
 protected:
-    Library() : handle_(::dlopen(GFC_BIN "/kdaddon_VBwrapper.so", RTLD_NOW | RTLD_LOCAL)) {}
+    Library()
+        : handle_(::dlopen((test::BinFolder() / "kdaddon_VBwrapper.so").c_str(), RTLD_NOW | RTLD_LOCAL)) {}
     ~Library() override {
         if (handle_ != nullptr) {
             ::dlclose(handle_);

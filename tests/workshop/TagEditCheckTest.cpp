@@ -5,6 +5,7 @@
 #include "platform/DynamicLibrary.h"
 #include "project/AddOnGate.h"
 #include "project/Project.h"
+#include "support/TestFolders.h"
 #include "workshop/demo/SampleConfiguration.h"
 
 #include <gmock/gmock.h>
@@ -16,7 +17,7 @@ namespace {
 const std::string Lakeside{ConfiguredStation};
 
 std::string GoldenLog(const std::string& name) {
-    return ReadBytes(std::filesystem::path(GFC_TEST_DATA) / "golden" / "log" / name);
+    return test::Golden("log/" + name);
 }
 
 } // namespace
@@ -26,7 +27,7 @@ protected:
     void SetUp() override {
         ASSERT_EQ(Run("open " + Quoted("plant/plant.KPJ")).Status, 0);
         std::string error;
-        library_ = project::LoadAddOnLibrary(platform::LoadLibraryAt, GFC_BIN, error);
+        library_ = project::LoadAddOnLibrary(platform::LoadLibraryAt, test::BinFolder().string(), error);
         ASSERT_NE(library_, nullptr) << error;
         ASSERT_EQ(project::LoadProject(*library_, project_), project::LoadOutcome::Loaded);
         project_.Paths = config::PathsOf(project_.ProjectFile);

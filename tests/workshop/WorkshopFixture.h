@@ -1,6 +1,7 @@
 // A folder, a state folder and a way to run the command, all of them one test's own.
 #pragma once
 
+#include "support/TestFolders.h"
 #include "workshop/store/Project.h"
 #include "workshop/store/Stations.h"
 #include "workshop/store/Tags.h"
@@ -57,7 +58,8 @@ protected:
 
     /// Runs io-workshop with `arguments` as a shell would split them.
     static Outcome Run(const std::string& arguments) {
-        const std::string command = "'" GFC_BIN "/io-workshop' " + arguments + " 2>&1";
+        const std::string command =
+            "'" + (test::BinFolder() / "io-workshop").string() + "' " + arguments + " 2>&1";
         FILE* pipe = ::popen(command.c_str(), "r");
         std::string output;
         char chunk[4096];

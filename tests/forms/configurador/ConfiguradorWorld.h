@@ -2,11 +2,9 @@
 
 #include "forms/configurador/Configurador.h"
 #include "forms/wizard/WizardWorld.h"
+#include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace gfc::test {
 
@@ -14,10 +12,7 @@ constexpr const char* Configurator = "Configurador";
 
 // A file that the wizard has written.
 [[nodiscard]] inline std::string WizardFile(const std::string& name) {
-    std::ifstream in(std::string(GFC_TEST_DATA) + "/golden/wizard/" + name + ".ini", std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
+    return Golden("wizard/" + name + ".ini");
 }
 
 // With the line ends of the files.

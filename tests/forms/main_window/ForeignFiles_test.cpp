@@ -1,4 +1,5 @@
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/TestFolders.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -82,12 +83,12 @@ TEST_F(ForeignFiles, of_another_program_are_shown_as_not_configured) {
 }
 
 TEST_F(ForeignFiles, with_faults_are_shown_as_far_as_they_go) {
-    for (const auto& entry : std::filesystem::directory_iterator(GFC_TEST_DATA "/golden/bad"))
+    for (const auto& entry : std::filesystem::directory_iterator(GoldenFolder() / "bad"))
         Visit(BytesOf(entry.path()));
 }
 
 TEST_F(ForeignFiles, damaged_here_and_there_are_shown_as_far_as_they_go) {
-    const std::string sound = BytesOf(GFC_TEST_DATA "/golden/bad/sound.ini");
+    const std::string sound = Golden("bad/sound.ini");
     ASSERT_FALSE(sound.empty());
     for (unsigned seed = 1; seed <= 20; ++seed)
         Visit(Damaged(sound, seed));

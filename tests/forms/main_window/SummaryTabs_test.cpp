@@ -1,10 +1,8 @@
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/TestFolders.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace gfc::test {
 
@@ -29,12 +27,8 @@ struct SummaryTabs : testing::Test, World {
     }
 
     void Configure(const std::string& golden) {
-        std::ifstream file(std::string(GFC_TEST_DATA) + "/golden/config/" + golden + ".ini",
-                           std::ios::binary);
-        std::ostringstream bytes;
-        bytes << file.rdbuf();
-        ASSERT_FALSE(bytes.str().empty()) << golden;
-        File() = bytes.str();
+        File() = Golden("config/" + golden + ".ini");
+        ASSERT_FALSE(File().empty()) << golden;
     }
     std::string& File() { return Files.Content["/jobs/KDOrmAGA_plant_North.ini"]; }
     void Replace(const std::string& from, const std::string& to) {

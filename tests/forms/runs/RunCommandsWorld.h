@@ -1,20 +1,15 @@
 #pragma once
 
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/TestFolders.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 namespace gfc::test {
 
 inline std::string GoldenText(const std::string& name) {
-    std::ifstream in(std::string(GFC_TEST_DATA) + "/golden/" + name + ".ini", std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
+    return Golden(name + ".ini");
 }
 
 // The main window over station North as the wizard has configured it on large tags, runs 2 and 5.

@@ -4,22 +4,17 @@
 #include "forms/editors/MDetail.h"
 #include "forms/station/Step.h"
 #include "forms/station/WizardPass.h"
+#include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace gfc::test {
 namespace {
 
 constexpr const char* Form = "WizardFC";
 
-std::string Golden(const std::string& name) {
-    std::ifstream in(std::string(GFC_TEST_DATA) + "/golden/wizard/" + name + ".ini", std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
+std::string WizardGolden(const std::string& name) {
+    return Golden("wizard/" + name + ".ini");
 }
 
 struct GoldenCase {
@@ -41,7 +36,7 @@ TEST_P(WholePass, from_the_pages_to_the_written_file) {
         })
         .Click(Form, "Command1");
     world.Play();
-    EXPECT_EQ(world.File(), Golden(GetParam().Name));
+    EXPECT_EQ(world.File(), WizardGolden(GetParam().Name));
     EXPECT_TRUE(world.Session.TreeRefreshNeeded);
     EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
     EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::Step>());

@@ -1,0 +1,21 @@
+#include "support/TestFolders.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace gfc::test {
+
+std::filesystem::path GoldenFolder() {
+    return std::filesystem::path(GFC_TEST_DATA) / "golden";
+}
+
+std::filesystem::path BinFolder() {
+    return GFC_BIN;
+}
+
+std::string Golden(const std::string& name) {
+    std::ifstream file(GoldenFolder() / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+} // namespace gfc::test
