@@ -47,12 +47,11 @@ void Configurador::ConfigureAll() {
 void Configurador::ConfigureCommon() {
     OfferInPlaceSave(true);
     for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&Option16, &Option5, &Option6, &Command1, &cbSourceGas,
-                                             &CombStandard, &Run11, &Run22, &Run33, &Run44, &Run55})
+         std::initializer_list<ui::Control*>{&Option16, &Option5, &Option6, &Command1, &general.cbSourceGas,
+                                             &general.CombStandard, &Run11, &Run22, &Run33, &Run44, &Run55})
         control->SetEnabled(false);
     OpenTabs();
-    for (ui::DropDownList* modules : {&Combo1, &Combo2, &Combo3})
-        modules->SetEnabled(!finished_);
+    modules.SetListsEnabled(!finished_);
 }
 
 void Configurador::ConfigureTags() {
@@ -83,8 +82,8 @@ void Configurador::OfferInPlaceSave(bool inPlace) {
 void Configurador::TabEntered() {
     if (SSTab2.Tab() != 1)
         return;
-    Text3.SetEnabled(!ShowsAGA7());
-    Text4.SetEnabled(!ShowsAGA7() && !ShowsAccelabar());
+    Text3.SetEnabled(!general.ShowsAGA7());
+    Text4.SetEnabled(!general.ShowsAGA7() && !general.ShowsAccelabar());
 }
 
 void Configurador::Quit() {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "forms/program/Program.h"
+#include "forms/station/CommonGroups.h"
 #include "ui/Buttons.h"
-#include "ui/DropDownList.h"
 #include "ui/Frame.h"
 #include "ui/Label.h"
 #include "ui/Menu.h"
@@ -50,13 +50,7 @@ public:
     ui::CheckBox Run33{FrameRuns, "Run33", "Run 3"};
     ui::CheckBox Run44{FrameRuns, "Run44", "Run 4"};
     ui::CheckBox Run55{FrameRuns, "Run55", "Run 5"};
-    ui::Frame Frame1{SSTab2.OnPage(0), "Frame1", "GENERAL"};
-    ui::Label LbStandard{Frame1, "LbStandard", "Flow Calculation Standard"};
-    ui::DropDownList CombStandard{Frame1, "CombStandard"};
-    ui::Label LbUnits{Frame1, "LbUnits", "System Units"};
-    ui::DropDownList CombUnits{Frame1, "CombUnits"};
-    ui::Label LbSourceGas{Frame1, "LbSourceGas", "Gas Density Source"};
-    ui::DropDownList cbSourceGas{Frame1, "cbSourceGas"};
+    GeneralGroup general{SSTab2.OnPage(0)};
     ui::Label Label1{SSTab2.OnPage(0), "Label1", "Common and Individual Parameters"};
     ui::CommandButton Command1{SSTab2.OnPage(0), "Command1", "", "MenuWizard"};
 
@@ -75,30 +69,10 @@ public:
     ui::Label Label25{Frame4, "Label25", "cP"};
     ui::OptionButton OptComprensible{Frame4, "OptComprensible", "Compressible fluid"};
     ui::OptionButton OptNoComprensible{Frame4, "OptNoComprensible", "Incompressible fluid"};
-    ui::Frame FrameAtmPress{SSTab2.OnPage(1), "FrameAtmPress", "PRESSURE MEASUREMENT"};
-    ui::Frame FrameType{FrameAtmPress, "FrameType", "Pressure type"};
-    ui::OptionButton OptAbsPress{FrameType, "OptAbsPress", "Absolute"};
-    ui::OptionButton OptGagePress{FrameType, "OptGagePress", "Gage"};
-    ui::Frame FrameAtmPressSource{FrameAtmPress, "FrameAtmPressSource_1", "Atmospheric pressure source"};
-    ui::OptionButton OptAtmPressFixed{FrameAtmPressSource, "OptAtmPressFixed", "Fixed", true};
-    ui::OptionButton OptAtmPressExt{FrameAtmPressSource, "OptAtmPressExt", "External I/O"};
-    ui::Label LbAtmPress{FrameAtmPressSource, "LbAtmPress", "Atmospheric Pressure"};
-    ui::TextBox txtAtmPress{FrameAtmPressSource, "txtAtmPress"};
-    ui::Label unitAtmPress{FrameAtmPressSource, "unitAtmPress", "PSI"};
-    ui::Frame Frame2{SSTab2.OnPage(1), "Frame2", "DEBUGGING OUTPUT"};
-    ui::CheckBox Check1{Frame2, "Check1", "Enable data traces"};
-    ui::Label LabelDevice{Frame2, "LabelDevice", "Device"};
-    ui::TextBox Text8{Frame2, "Text8"};
-    ui::Label LabelNumTrace{Frame2, "LabelNumTrace", "Number of traces"};
-    ui::TextBox Text9{Frame2, "Text9"};
+    PressureGroup pressure{SSTab2.OnPage(1), "FrameAtmPressSource_1"};
+    TracesGroup traces{SSTab2.OnPage(1), "Text8", "Text9"};
 
-    ui::Frame Frame9{SSTab2.OnPage(2), "Frame9", "DATALOG WORKING MODULES"};
-    ui::Label LbAnalogModule{Frame9, "LbAnalogModule", "Analog Input Module"};
-    ui::DropDownList Combo1{Frame9, "Combo1"};
-    ui::Label LbLongModule{Frame9, "LbLongModule", "Long Input Module"};
-    ui::DropDownList Combo2{Frame9, "Combo2"};
-    ui::Label LbFloatModule{Frame9, "LbFloatModule", "Float Input Module"};
-    ui::DropDownList Combo3{Frame9, "Combo3"};
+    ModulesGroup modules{SSTab2.OnPage(2)};
 
     ui::Frame FrCompGas{SSTab2.OnPage(3), "FrCompGas", "GAS COMPOSITION SOURCE"};
     ui::OptionButton Option6{FrCompGas, "Option6", "Manual", true};
@@ -154,12 +128,10 @@ private:
 
     // What the controls do to each other (ConfiguradorRules.cpp)
     void BindRules();
-    void TracesChanged();
     void AbsoluteChosen();
     void GageChosen();
     void AtmPressFixedChosen();
     void AtmPressExtChosen();
-    void EnableFixedPressure(bool enabled);
     void EnableExternalPressure(bool enabled);
     void MeasureAbsolute();
     void DisablePressureGroup();
@@ -170,9 +142,6 @@ private:
     void GasModelChosen();
     void CompositionFromOutsideChosen();
     void FallBack(int standard);
-    [[nodiscard]] bool ShowsAGA7() const;
-    [[nodiscard]] bool ShowsAccelabar() const;
-    [[nodiscard]] bool ShowsDensimeter() const;
 
     // The pass over the runs and the common pressure (ConfiguradorPass.cpp)
     void RunPass();
@@ -191,8 +160,6 @@ private:
     void Write(bool inPlace);
     void StoreValues();
     void StoreChoices();
-    void StoreModules();
-    [[nodiscard]] project::WorkingModuleNames ChosenModules() const;
     [[nodiscard]] std::array<std::string, config::MaxRuns> RunFlags() const;
 
     bool finished_ = false;                               // the pass went through all runs

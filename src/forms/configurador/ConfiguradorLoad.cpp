@@ -49,32 +49,29 @@ void Configurador::StartEmpty() {
 }
 
 void Configurador::FillLists() {
-    Fill(CombStandard, config::FlowAlgorithms);
-    Fill(CombUnits, config::UnitSystems);
-    Fill(cbSourceGas, config::GasDensitySources);
-    FillModuleNames(Combo2, session_.Modules.LongCandidates);
-    FillModuleNames(Combo1, session_.Modules.AnalogCandidates);
-    FillModuleNames(Combo3, session_.Modules.FloatCandidates);
+    Fill(general.CombStandard, config::FlowAlgorithms);
+    Fill(general.CombUnits, config::UnitSystems);
+    Fill(general.cbSourceGas, config::GasDensitySources);
+    modules.Fill(session_.Modules);
 }
 
 void Configurador::LoadNew() {
-    cbSourceGas.SetEnabled(true);
-    CombStandard.SetEnabled(true);
+    general.cbSourceGas.SetEnabled(true);
+    general.CombStandard.SetEnabled(true);
     caso = 3;
     session_.Station.ActiveRunCount = 1;
-    CombUnits.SetListIndex(US);
-    for (ui::DropDownList* modules : {&Combo1, &Combo2, &Combo3})
-        modules->SetListIndex(0);
+    general.CombUnits.SetListIndex(US);
+    modules.SelectFirst();
     const auto& defaults = config::DefaultsOf(config::units::US);
     Text1.SetText(std::string(defaults.StandardT));
     Text2.SetText(std::string(defaults.StandardP));
     Text3.SetText(std::string(config::start::IsentropicCoeff));
     Text4.SetText(std::string(config::start::FlowingViscosity));
-    txtAtmPress.SetText(std::string(defaults.AtmPress));
-    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
+    pressure.txtAtmPress.SetText(std::string(defaults.AtmPress));
+    pressure.unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
     OptComprensible.SetValue(true);
     ShowStoredTraces();
-    OptAbsPress.SetValue(true);
+    pressure.OptAbsPress.SetValue(true);
 }
 
 void Configurador::LoadStored() {
@@ -102,34 +99,34 @@ void Configurador::ShowStored() {
 
 void Configurador::ShowStoredModules() {
     const auto& working = session_.Station.WorkingModules;
-    ShowModule(Combo2, working.WrkIntLongModName);
-    ShowModule(Combo1, working.WrkAnalogModName);
-    ShowModule(Combo3, working.WrkFloatModName);
+    ShowModule(modules.Combo2, working.WrkIntLongModName);
+    ShowModule(modules.Combo1, working.WrkAnalogModName);
+    ShowModule(modules.Combo3, working.WrkFloatModName);
 }
 
 void Configurador::ShowStoredTraces() {
     const auto& station = session_.Station;
     const bool enabled = IsYes(station.EnableDataTraces);
-    Text8.SetText(enabled ? station.DeviceDataTraces : std::string(config::start::DeviceDataTraces));
-    Text9.SetText(enabled ? station.NumberTraces : std::string(config::start::NumberTraces));
-    Check1.SetValue(enabled);
-    TracesChanged();
+    traces.Device.SetText(enabled ? station.DeviceDataTraces : std::string(config::start::DeviceDataTraces));
+    traces.Number.SetText(enabled ? station.NumberTraces : std::string(config::start::NumberTraces));
+    traces.Check1.SetValue(enabled);
+    traces.Refresh();
 }
 
 void Configurador::ShowStoredChoices() {
     auto& station = session_.Station;
-    CombStandard.SetListIndex(config::AlgorithmIndex(station.FlowAlgorithm));
-    EnableGasEntries(!ShowsAGA7());
-    CombUnits.SetListIndex(config::UnitsIndex(station.SystemUnits));
+    general.CombStandard.SetListIndex(config::AlgorithmIndex(station.FlowAlgorithm));
+    EnableGasEntries(!general.ShowsAGA7());
+    general.CombUnits.SetListIndex(config::UnitsIndex(station.SystemUnits));
     // Once more, since without stored units the list puts in what goes with those it shows.
     Text1.SetText(station.StandardT);
     Text2.SetText(station.StandardP);
-    cbSourceGas.SetListIndex(config::SourceIndex(station.GasDensitySource));
+    general.cbSourceGas.SetListIndex(config::SourceIndex(station.GasDensitySource));
     if (config::IsGasModel(station.GasDensitySource)) {
         Option16.SetValue(true);
         (station.AGA8CalInput == config::CompositionFixed ? Option6 : Option5).SetValue(true);
     }
-    if (ShowsAGA7())
+    if (general.ShowsAGA7())
         return;
     Text3.SetText(station.IsentropicCoeff);
     Text4.SetText(station.FlowingViscosity);
@@ -137,18 +134,19 @@ void Configurador::ShowStoredChoices() {
 
 void Configurador::ShowStoredPressure() {
     const auto& station = session_.Station;
-    const auto& defaults = config::DefaultsOf(CombUnits.Text());
-    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
-    txtAtmPress.SetText(station.AtmPress.empty() ? std::string(defaults.AtmPress) : station.AtmPress);
+    const auto& defaults = config::DefaultsOf(general.CombUnits.Text());
+    pressure.unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
+    pressure.txtAtmPress.SetText(station.AtmPress.empty() ? std::string(defaults.AtmPress)
+                                                          : station.AtmPress);
     if (!services::EqualNoCase(station.PressType, config::Gage)) {
-        OptAbsPress.SetValue(true);
-        OptAtmPressFixed.SetValue(true);
+        pressure.OptAbsPress.SetValue(true);
+        pressure.OptAtmPressFixed.SetValue(true);
         return;
     }
-    OptGagePress.SetValue(true);
+    pressure.OptGagePress.SetValue(true);
     if (!IsYes(station.ExtAtmPress))
-        return OptAtmPressFixed.SetValue(true);
-    OptAtmPressExt.SetValue(true);
+        return pressure.OptAtmPressFixed.SetValue(true);
+    pressure.OptAtmPressExt.SetValue(true);
     ShowBoundPressure();
 }
 
@@ -167,7 +165,7 @@ void Configurador::OpenAsChosen() {
     }
     if (caso == 1) {
         Label1.SetCaption("Individual Parameters");
-        CombStandard.SetEnabled(false);
+        general.CombStandard.SetEnabled(false);
         return ChooseMode();
     }
     if (caso == 2)
@@ -179,9 +177,9 @@ void Configurador::OpenForTags() {
     Label1.SetCaption("Edit I/O tags ans Gas Composition");
     Command1.SetEnabled(false);
     ChooseMode();
-    Frame1.SetVisible(false);
+    general.Frame1.SetVisible(false);
     for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&Option5, &Option6, &CombStandard, &cbSourceGas})
+         std::initializer_list<ui::Control*>{&Option5, &Option6, &general.CombStandard, &general.cbSourceGas})
         control->SetEnabled(false);
     if (!session_.Cancelled)
         return SaveAndExit(false);

@@ -86,7 +86,7 @@ void Configurador::RunBoxClicked(int run) {
         return;
     }
     ++station.ActiveRunCount;
-    if (!RunsFit(program_, {ShowsAGA7(), cbSourceGas.ListIndex()}, Option5.Value()))
+    if (!RunsFit(program_, general.Choices(), Option5.Value()))
         box.SetValue(false);
 }
 

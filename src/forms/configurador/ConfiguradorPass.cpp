@@ -29,7 +29,8 @@ void Configurador::RunPass() {
         return;
     StoreValues();
     HideMainWindow(program_);
-    project::BuildAvailableLists(session_.Inventory, ChosenModules(), session_.Station.FlagAGA7);
+    project::BuildAvailableLists(session_.Inventory, modules.Chosen(session_.Station.WorkingModules),
+                                 session_.Station.FlagAGA7);
     SSTab2.SetEnabled(false);
     Hide();
     const bool through = WizardPass(program_, ConfiguradorPassTexts).Run();
@@ -82,8 +83,8 @@ bool Configurador::BindExternalPressure() {
     auto& runs = session_.Station.Runs;
     // What a pass has bound stays bound, and its tags stay off the list.
     if (!finished_)
-        inventory.AvailFloat =
-            project::MergeWithout(inventory.VirtFX, inventory.VirtFY, ChosenModules().Float);
+        inventory.AvailFloat = project::MergeWithout(inventory.VirtFX, inventory.VirtFY,
+                                                     modules.Chosen(session_.Station.WorkingModules).Float);
     if (runs.IO.empty())
         runs.PrepareWholeStation(1);
     session_.BindingStage = BindingStage::CommonInputs;

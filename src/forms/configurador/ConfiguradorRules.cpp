@@ -11,7 +11,6 @@ namespace {
 // Entries of the lists.
 constexpr int AGA3 = 0;
 constexpr int AGA7 = 1;
-constexpr int Accelabar = 2;
 constexpr int Densimeter = 0;
 constexpr int AGA8 = 1;
 constexpr int SGERG88 = 2;
@@ -26,14 +25,13 @@ void Enable(Controls controls, bool enabled) {
 } // namespace
 
 void Configurador::BindRules() {
-    Check1.OnClick = [this] { TracesChanged(); };
-    OptAbsPress.OnClick = [this] { AbsoluteChosen(); };
-    OptGagePress.OnClick = [this] { GageChosen(); };
-    OptAtmPressFixed.OnClick = [this] { AtmPressFixedChosen(); };
-    OptAtmPressExt.OnClick = [this] { AtmPressExtChosen(); };
-    CombUnits.OnClick = [this] { UnitsChosen(); };
-    CombStandard.OnClick = [this] { StandardChosen(); };
-    cbSourceGas.OnClick = [this] { SourceChosen(); };
+    pressure.OptAbsPress.OnClick = [this] { AbsoluteChosen(); };
+    pressure.OptGagePress.OnClick = [this] { GageChosen(); };
+    pressure.OptAtmPressFixed.OnClick = [this] { AtmPressFixedChosen(); };
+    pressure.OptAtmPressExt.OnClick = [this] { AtmPressExtChosen(); };
+    general.CombUnits.OnClick = [this] { UnitsChosen(); };
+    general.CombStandard.OnClick = [this] { StandardChosen(); };
+    general.cbSourceGas.OnClick = [this] { SourceChosen(); };
     Option5.OnClick = [this] { CompositionFromOutsideChosen(); };
     const auto boxes = RunBoxes();
     for (int run = 0; run < config::MaxRuns; ++run)
@@ -44,28 +42,8 @@ void Configurador::BindRules() {
         MakeNumeric(program_.Screen, *field);
     // Deliberately not alike: the standard pressure takes any key, the other two any shape.
     CheckShapeOnLeaving(program_.Screen, Text2);
-    FilterKeys(txtAtmPress);
-    FilterKeys(Text9);
-}
-
-bool Configurador::ShowsAGA7() const {
-    return CombStandard.ListIndex() == AGA7;
-}
-
-bool Configurador::ShowsAccelabar() const {
-    return CombStandard.ListIndex() == Accelabar;
-}
-
-bool Configurador::ShowsDensimeter() const {
-    return cbSourceGas.ListIndex() == Densimeter;
-}
-
-void Configurador::TracesChanged() {
-    Enable({&LabelDevice, &Text8, &LabelNumTrace, &Text9}, Check1.Value());
-}
-
-void Configurador::EnableFixedPressure(bool enabled) {
-    Enable({&LbAtmPress, &txtAtmPress, &unitAtmPress}, enabled);
+    FilterKeys(pressure.txtAtmPress);
+    FilterKeys(traces.Number);
 }
 
 void Configurador::EnableExternalPressure(bool enabled) {
@@ -73,36 +51,39 @@ void Configurador::EnableExternalPressure(bool enabled) {
 }
 
 void Configurador::AbsoluteChosen() {
-    EnableFixedPressure(false);
+    pressure.EnableFixed(false);
     EnableExternalPressure(false);
-    Enable({&OptAtmPressFixed, &OptAtmPressExt}, false);
+    pressure.EnableSources(false);
 }
 
 void Configurador::GageChosen() {
-    Enable({&OptAtmPressFixed, &OptAtmPressExt}, true);
-    OptAtmPressExt.Value() ? AtmPressExtChosen() : AtmPressFixedChosen();
+    pressure.EnableSources(true);
+    pressure.OptAtmPressExt.Value() ? AtmPressExtChosen() : AtmPressFixedChosen();
 }
 
 void Configurador::AtmPressFixedChosen() {
-    EnableFixedPressure(true);
+    pressure.EnableFixed(true);
     EnableExternalPressure(false);
 }
 
 void Configurador::AtmPressExtChosen() {
-    EnableFixedPressure(false);
+    pressure.EnableFixed(false);
     EnableExternalPressure(true);
 }
 
 void Configurador::MeasureAbsolute() {
-    OptAbsPress.SetValue(true);
-    Enable({&FrameAtmPress, &FrameType, &FrameAtmPressSource, &OptAbsPress, &OptGagePress}, true);
+    pressure.OptAbsPress.SetValue(true);
+    Enable({&pressure.FrameAtmPress, &pressure.FrameType, &pressure.FrameAtmPressSource,
+            &pressure.OptAbsPress, &pressure.OptGagePress},
+           true);
 }
 
 void Configurador::DisablePressureGroup() {
-    OptAbsPress.SetValue(true);
-    Enable({&FrameAtmPress, &FrameType, &FrameAtmPressSource, &OptAbsPress, &OptGagePress, &LbAtmPress,
-            &txtAtmPress, &unitAtmPress, &OptAtmPressFixed, &OptAtmPressExt, &AtmExtName, &AtmExtType,
-            &AtmExtAddr, &btExtAtmChange, &FrameExtAtmPress},
+    pressure.OptAbsPress.SetValue(true);
+    Enable({&pressure.FrameAtmPress, &pressure.FrameType, &pressure.FrameAtmPressSource,
+            &pressure.OptAbsPress, &pressure.OptGagePress, &pressure.LbAtmPress, &pressure.txtAtmPress,
+            &pressure.unitAtmPress, &pressure.OptAtmPressFixed, &pressure.OptAtmPressExt, &AtmExtName,
+            &AtmExtType, &AtmExtAddr, &btExtAtmChange, &FrameExtAtmPress},
            false);
 }
 
@@ -112,13 +93,13 @@ void Configurador::EnableGasEntries(bool enabled) {
 
 void Configurador::UnitsChosen() {
     const std::string stored = program_.Ini.ReadKey("FlowRuns", "SystemUnits", session_.ConfigFile());
-    const std::string chosen = CombUnits.Text();
+    const std::string chosen = general.CombUnits.Text();
     const auto& defaults = config::DefaultsOf(chosen);
     session_.Station.SystemUnits = chosen;
     Label25.SetCaption(std::string(defaults.ViscosityCaption));
     unitStandardTemp.SetCaption(std::string(defaults.TemperatureCaption));
     unitStandardP.SetCaption(std::string(defaults.PressureCaption));
-    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInConfigurador));
+    pressure.unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInConfigurador));
     // A stored configuration keeps the numbers that a person sees, and the atmospheric pressure stays in any
     // case.
     if (stored.empty()) {
@@ -136,19 +117,19 @@ void Configurador::UnitsChosen() {
 
 // Touches neither units nor values, unlike the wizard.
 void Configurador::StandardChosen() {
-    session_.Station.FlagAGA7 = ShowsAGA7();
-    EnableGasEntries(!ShowsAGA7());
+    session_.Station.FlagAGA7 = general.ShowsAGA7();
+    EnableGasEntries(!general.ShowsAGA7());
     // Any click on one of these resets the pressure to absolute, whatever the file said.
-    if (!ShowsAGA7())
+    if (!general.ShowsAGA7())
         MeasureAbsolute();
-    else if (ShowsDensimeter())
+    else if (general.ShowsDensimeter())
         DisablePressureGroup();
     // Deliberately undone for this one entry: under AGA-7 the viscosity can be edited here, unlike in the
     // wizard, until the tab of the common parameters is entered.
-    Text4.SetEnabled(!ShowsAccelabar());
+    Text4.SetEnabled(!general.ShowsAccelabar());
     if (session_.Station.ActiveRunCount < 1)
         return;
-    const int verdict = SourceVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()});
+    const int verdict = SourceVerdict(program_, general.Choices());
     if (verdict != 0)
         FallBack(verdict <= 2 ? AGA3 : AGA7);
 }
@@ -159,26 +140,26 @@ void Configurador::FallBack(int standard) {
     if (fallingBack_)
         return;
     fallingBack_ = true;
-    CombStandard.SetListIndex(standard);
+    general.CombStandard.SetListIndex(standard);
     fallingBack_ = false;
 }
 
 void Configurador::SourceChosen() {
-    const int source = cbSourceGas.ListIndex();
+    const int source = general.cbSourceGas.ListIndex();
     if (source != Densimeter)
         MeasureAbsolute();
     // The two sources of ISO 12213 deliberately go untested.
     if (source == AGA8 || source == SGERG88)
         GasModelChosen();
-    if (ShowsDensimeter() && ShowsAGA7())
+    if (general.ShowsDensimeter() && general.ShowsAGA7())
         DisablePressureGroup();
 }
 
 void Configurador::GasModelChosen() {
     if (session_.Station.ActiveRunCount > 0) {
-        const int verdict = SourceVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()});
+        const int verdict = SourceVerdict(program_, general.Choices());
         if (verdict == 2 || verdict == 4)
-            return cbSourceGas.SetListIndex(Densimeter);
+            return general.cbSourceGas.SetListIndex(Densimeter);
         Enable({&Option5, &Option6, &Option16}, true);
         Option6.SetValue(true);
         Option16.SetValue(true);
@@ -186,13 +167,12 @@ void Configurador::GasModelChosen() {
         program_.Screen.Ask({.Title = "Orm Gas Flow Computer Configurator",
                              .Text = "Error: please select at least one run",
                              .TheIcon = ui::Icon::Exclamation});
-        cbSourceGas.SetListIndex(Densimeter);
+        general.cbSourceGas.SetListIndex(Densimeter);
     }
 }
 
 void Configurador::CompositionFromOutsideChosen() {
-    if (session_.Station.ActiveRunCount > 0 &&
-        CompositionVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()}) != 0)
+    if (session_.Station.ActiveRunCount > 0 && CompositionVerdict(program_, general.Choices()) != 0)
         Option6.SetValue(true);
 }
 

@@ -6,7 +6,6 @@
 #include "forms/editors/NumericFields.h"
 #include "forms/program/MainWindow.h"
 #include "forms/station/CommonStore.h"
-#include "project/WorkingModules.h"
 #include "services/Funciones_III.h"
 
 namespace gfc::forms {
@@ -76,9 +75,8 @@ bool Configurador::LacksGasValue() const {
 }
 
 bool Configurador::LacksParameter() {
-    const bool external = OptGagePress.Value() && OptAtmPressExt.Value();
     return (caso == 3 && NoRunBoxSet()) || LacksGasValue() ||
-           (external && !session_.Station.CommonPa.IsMade());
+           (pressure.IsExternal() && !session_.Station.CommonPa.IsMade());
 }
 
 void Configurador::Write(bool inPlace) {
@@ -93,27 +91,27 @@ void Configurador::Write(bool inPlace) {
 
 void Configurador::StoreValues() {
     StoreChoices();
-    forms::StorePressure(session_.Station, OptGagePress.Value(), OptAtmPressExt.Value(), txtAtmPress.Text());
-    forms::StoreTraces(session_.Station, Check1.Value(), Text8.Text(), Text9.Text());
-    StoreModules();
+    pressure.Store(session_.Station);
+    traces.Store(session_.Station);
+    modules.Store(session_.Station.WorkingModules, session_.Inventory);
 }
 
 void Configurador::StoreChoices() {
     auto& station = session_.Station;
-    const int standard = CombStandard.ListIndex();
+    const int standard = general.CombStandard.ListIndex();
     const auto& algorithm = standard == ui::DropDownList::None
                                 ? config::FlowAlgorithms.back()
                                 : config::FlowAlgorithms.at(static_cast<std::size_t>(standard));
     station.FlowAlgorithm = algorithm.Stored;
-    station.FlagAGA7 = ShowsAGA7();
+    station.FlagAGA7 = general.ShowsAGA7();
     // A source that the list does not know stays what the file says.
-    const int source = cbSourceGas.ListIndex();
+    const int source = general.cbSourceGas.ListIndex();
     StoreSource(station,
                 source == ui::DropDownList::None
                     ? std::string(station.GasDensitySource)
                     : std::string(config::GasDensitySources.at(static_cast<std::size_t>(source)).Stored),
                 Option5.Value());
-    station.SystemUnits = CombUnits.Text();
+    station.SystemUnits = general.CombUnits.Text();
     station.StandardT = Text1.Text();
     station.StandardP = Text2.Text();
     // Under AGA-7 a stored file shows no values here; those that it holds stay.
@@ -122,25 +120,6 @@ void Configurador::StoreChoices() {
     if (!station.FlagAGA7 || !Text3.Text().empty())
         station.IsentropicCoeff = Text3.Text();
     station.Compressible = YesOrNo(OptComprensible.Value());
-}
-
-// A stored module that is no candidate any more stays until a person picks another one.
-project::WorkingModuleNames Configurador::ChosenModules() const {
-    const auto& working = session_.Station.WorkingModules;
-    const auto chosen = [](const ui::DropDownList& list, const std::string& stored) {
-        return list.ListIndex() == ui::DropDownList::None ? stored : list.Text();
-    };
-    return {chosen(Combo1, working.WrkAnalogModName), chosen(Combo2, working.WrkIntLongModName),
-            chosen(Combo3, working.WrkFloatModName)};
-}
-
-void Configurador::StoreModules() {
-    auto& working = session_.Station.WorkingModules;
-    const auto names = ChosenModules();
-    working.WrkAnalogModName = names.Analog;
-    working.WrkIntLongModName = names.Long;
-    working.WrkFloatModName = names.Float;
-    project::ResolveWorkingModuleRegisters(session_.Inventory, names, working);
 }
 
 } // namespace gfc::forms

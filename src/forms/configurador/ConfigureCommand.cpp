@@ -49,8 +49,8 @@ void CheckStoredTags(Program& program) {
 // A new configuration starts on what the station carries.
 void PresetConfigurador(Program& program, int standard) {
     auto& form = program.Forms.Touch<Configurador>();
-    form.cbSourceGas.SetListIndex(0);
-    form.CombStandard.SetListIndex(standard);
+    form.general.cbSourceGas.SetListIndex(0);
+    form.general.CombStandard.SetListIndex(standard);
 }
 
 void EditStation(Program& program, int standard, bool stored) {

@@ -55,8 +55,8 @@ bool MayReplaceConfiguration(Program& program) {
 // The wizard starts on the algorithm that the station carries.
 void PresetWizard(Program& program, int standard) {
     auto& wizard = program.Forms.Touch<WizardFC>();
-    wizard.cbSourceGas.SetListIndex(0);
-    wizard.CombStandard.SetListIndex(standard);
+    wizard.general.cbSourceGas.SetListIndex(0);
+    wizard.general.CombStandard.SetListIndex(standard);
     program.Session.EditMode = EditMode::Wizard;
     program.Session.Station.FlagAGA7 = standard == aga7;
 }

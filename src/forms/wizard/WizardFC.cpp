@@ -2,7 +2,6 @@
 
 #include "config/Units.h"
 #include "config/Vocabulary.h"
-#include "forms/station/ModuleLists.h"
 
 #include <array>
 
@@ -28,11 +27,6 @@ void Fill(ui::DropDownList& list, const Choices& choices) {
         list.AddEntry(std::string(choice.InWizard));
 }
 
-void Offer(ui::DropDownList& list, const std::vector<project::Candidate>& candidates) {
-    FillModuleNames(list, candidates);
-    list.SetListIndex(0);
-}
-
 } // namespace
 
 WizardFC::WizardFC(Program& program) : ProgramForm(program, "WizardFC", "Gas Flow Computer Wizard") {
@@ -51,13 +45,14 @@ void WizardFC::Load() {
     RemoveCloseCommand();
     SetCaption("Gas Flow Computer Wizard     Station Name : " + session_.Station.CurrentStation);
     SetDefaults();
-    FillModules();
+    modules.Fill(session_.Modules);
+    modules.SelectFirst();
     FillChoices();
     Command1.SetEnabled(false);
     finalizar.SetEnabled(false);
     finalizar.SetVisible(false);
     atras.SetEnabled(false);
-    for (ui::Frame* frame : {&Frame9, &Frame4, &FrCompGas, &FrMetAGA8})
+    for (ui::Frame* frame : {&modules.Frame9, &Frame4, &FrCompGas, &FrMetAGA8})
         frame->SetVisible(false);
 }
 
@@ -67,31 +62,25 @@ void WizardFC::Unloading() {
 
 void WizardFC::SetDefaults() {
     OptComprensible.SetValue(true);
-    OptAbsPress.SetValue(true);
-    OptAtmPressFixed.SetValue(true);
+    pressure.OptAbsPress.SetValue(true);
+    pressure.OptAtmPressFixed.SetValue(true);
     OptComp.SetValue(true);
     OptDetail.SetValue(true);
     // The gross methods stand there for show: no other method than the detailed one is ever stored.
     OptGross1.SetEnabled(false);
     OptGross2.SetEnabled(false);
     Text2.SetText(std::string(config::start::IsentropicCoeff));
-    TextNumTraces.SetText(std::string(config::start::NumberTraces));
-    TextDevice.SetText(std::string(config::start::DeviceDataTraces));
-    TracesChanged();
-}
-
-void WizardFC::FillModules() {
-    Offer(Combo2, session_.Modules.LongCandidates);
-    Offer(Combo1, session_.Modules.AnalogCandidates);
-    Offer(Combo3, session_.Modules.FloatCandidates);
+    traces.Number.SetText(std::string(config::start::NumberTraces));
+    traces.Device.SetText(std::string(config::start::DeviceDataTraces));
+    traces.Refresh();
 }
 
 void WizardFC::FillChoices() {
     // The standard and the source stay without a selection: a person has to pick.
-    Fill(CombStandard, config::FlowAlgorithms);
-    Fill(CombUnits, config::UnitSystems);
-    Fill(cbSourceGas, config::GasDensitySources);
-    CombUnits.SetListIndex(0);
+    Fill(general.CombStandard, config::FlowAlgorithms);
+    Fill(general.CombUnits, config::UnitSystems);
+    Fill(general.cbSourceGas, config::GasDensitySources);
+    general.CombUnits.SetListIndex(0);
     // Deliberately another degree sign (U+00B0) than that of the unit table, until the units are chosen.
     unitStandardTemp.SetCaption("°F");
 }
@@ -99,7 +88,7 @@ void WizardFC::FillChoices() {
 void WizardFC::ShowPage(int page) {
     wizard.SetTab(page);
     lbInfo.SetCaption(PageInfo.at(static_cast<std::size_t>(page)));
-    Frame9.SetVisible(page == Modules);
+    modules.Frame9.SetVisible(page == Modules);
     Frame4.SetVisible(page == Gas);
     if (page == Gas)
         ShowGasFrames();
@@ -107,10 +96,10 @@ void WizardFC::ShowPage(int page) {
 }
 
 void WizardFC::ShowGasFrames() {
-    FrCompGas.SetVisible(!ShowsDensimeter());
-    FrMetAGA8.SetVisible(!ShowsDensimeter());
+    FrCompGas.SetVisible(!general.ShowsDensimeter());
+    FrMetAGA8.SetVisible(!general.ShowsDensimeter());
     // Alone on the page, the frame stands in its middle.
-    Frame4.SetCentred(ShowsDensimeter());
+    Frame4.SetCentred(general.ShowsDensimeter());
 }
 
 void WizardFC::RefreshStep() {
@@ -118,14 +107,14 @@ void WizardFC::RefreshStep() {
 }
 
 void WizardFC::Next() {
-    if (cbSourceGas.ListIndex() != IndexOfAGA8) {
+    if (general.cbSourceGas.ListIndex() != IndexOfAGA8) {
         FrCompGas.SetVisible(false);
         FrMetAGA8.SetVisible(false);
     }
     if (nStep_ < 0 || nStep_ >= lastPage_)
         return;
     // A turbine meter with a densimeter reads no pressure.
-    const bool skips = ShowsDensimeter() && nStep_ == Modules && session_.Station.FlagAGA7;
+    const bool skips = general.ShowsDensimeter() && nStep_ == Modules && session_.Station.FlagAGA7;
     nStep_ += skips ? 2 : 1;
     ShowPage(nStep_);
     finalizar.SetEnabled(false);
@@ -147,7 +136,7 @@ void WizardFC::Back() {
     siguiente.SetVisible(true);
     siguiente.SetEnabled(true);
     if (nStep_ >= 1 && nStep_ <= lastPage_) {
-        const bool skips = ShowsDensimeter() && nStep_ == Gas && session_.Station.FlagAGA7;
+        const bool skips = general.ShowsDensimeter() && nStep_ == Gas && session_.Station.FlagAGA7;
         nStep_ -= skips ? 2 : 1;
     }
     ShowPage(nStep_);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "forms/program/Program.h"
+#include "forms/station/CommonGroups.h"
 #include "ui/Buttons.h"
-#include "ui/DropDownList.h"
 #include "ui/Frame.h"
 #include "ui/Label.h"
 #include "ui/TabbedPane.h"
@@ -20,39 +20,10 @@ public:
     ui::Label lbInfo{*this, "lbInfo", "Common parameters to all runs"};
     ui::TabbedPane wizard{*this, "wizard", {"Common", "Modules", "Pressure", "Gas", "Finished"}};
 
-    ui::Frame Frame1{wizard.OnPage(0), "Frame1", "GENERAL"};
-    ui::Label LbStandard{Frame1, "LbStandard", "Flow Calculation Standard"};
-    ui::DropDownList CombStandard{Frame1, "CombStandard"};
-    ui::Label LbUnits{Frame1, "LbUnits", "System Units"};
-    ui::DropDownList CombUnits{Frame1, "CombUnits"};
-    ui::Label LbSourceGas{Frame1, "LbSourceGas", "Gas Density Source"};
-    ui::DropDownList cbSourceGas{Frame1, "cbSourceGas"};
-    ui::Frame Frame2{wizard.OnPage(0), "Frame2", "DEBUGGING OUTPUT"};
-    ui::CheckBox Check1{Frame2, "Check1", "Enable data traces"};
-    ui::Label LabelDevice{Frame2, "LabelDevice", "Device"};
-    ui::TextBox TextDevice{Frame2, "TextDevice"};
-    ui::Label LabelNumTrace{Frame2, "LabelNumTrace", "Number of traces"};
-    ui::TextBox TextNumTraces{Frame2, "TextNumTraces"};
-
-    ui::Frame Frame9{wizard.OnPage(1), "Frame9", "DATALOG WORKING MODULES"};
-    ui::Label LbAnalogModule{Frame9, "LbAnalogModule", "Analog Input Module"};
-    ui::DropDownList Combo1{Frame9, "Combo1"};
-    ui::Label LbLongModule{Frame9, "LbLongModule", "Long Input Module"};
-    ui::DropDownList Combo2{Frame9, "Combo2"};
-    ui::Label LbFloatModule{Frame9, "LbFloatModule", "Float Input Module"};
-    ui::DropDownList Combo3{Frame9, "Combo3"};
-
-    ui::Frame FrameAtmPress{wizard.OnPage(2), "FrameAtmPress", "PRESSURE MEASUREMENT"};
-    ui::Frame FrameType{FrameAtmPress, "FrameType", "Pressure type"};
-    ui::OptionButton OptAbsPress{FrameType, "OptAbsPress", "Absolute"};
-    ui::OptionButton OptGagePress{FrameType, "OptGagePress", "Gage"};
-    ui::Frame FrameAtmPressSource{FrameAtmPress, "FrameAtmPressSource", "Atmospheric pressure source"};
-    // Selected by design, so that the load does not run its handling after that of the absolute pressure.
-    ui::OptionButton OptAtmPressFixed{FrameAtmPressSource, "OptAtmPressFixed", "Fixed", true};
-    ui::OptionButton OptAtmPressExt{FrameAtmPressSource, "OptAtmPressExt", "External I/O"};
-    ui::Label LbAtmPress{FrameAtmPressSource, "LbAtmPress", "Atmospheric Pressure"};
-    ui::TextBox txtAtmPress{FrameAtmPressSource, "txtAtmPress"};
-    ui::Label unitAtmPress{FrameAtmPressSource, "unitAtmPress", "PSI"};
+    GeneralGroup general{wizard.OnPage(0)};
+    TracesGroup traces{wizard.OnPage(0), "TextDevice", "TextNumTraces"};
+    ModulesGroup modules{wizard.OnPage(1)};
+    PressureGroup pressure{wizard.OnPage(2), "FrameAtmPressSource"};
 
     ui::Frame Frame4{wizard.OnPage(3), "Frame4", "GAS PROPERTIES"};
     ui::Label LbStandardTemp{Frame4, "LbStandardTemp", "Standard Temperature"};
@@ -101,7 +72,6 @@ protected:
 private:
     // Pages (WizardFC.cpp)
     void SetDefaults();
-    void FillModules();
     void FillChoices();
     void ShowPage(int page);
     void ShowGasFrames();
@@ -115,10 +85,8 @@ private:
 
     // What the controls do to each other (WizardRules.cpp)
     void BindRules();
-    void TracesChanged();
     void AbsoluteChosen();
     void GageChosen();
-    void EnableAtmPress(bool enabled);
     void UnitsChosen();
     void StandardChosen();
     void EnableGasEntries();
@@ -127,17 +95,12 @@ private:
     void CompositionFromOutsideChosen();
 
     // Gates (WizardGates.cpp)
-    [[nodiscard]] bool ShowsAGA7() const;
-    [[nodiscard]] bool ShowsDensimeter() const;
     void FallBack(ui::DropDownList& list, int entry);
     void TakeFittingSource();
 
     // The commit of the pages (WizardStore.cpp)
     [[nodiscard]] bool LacksValue() const;
     void StoreChoices();
-    void StorePressure();
-    void StoreTraces();
-    void StoreModules();
 
     // The end (WizardSave.cpp)
     void Finish();

@@ -4,30 +4,22 @@
 
 namespace gfc::forms {
 
-bool WizardFC::ShowsAGA7() const {
-    return CombStandard.ListIndex() == 1;
-}
-
-bool WizardFC::ShowsDensimeter() const {
-    return cbSourceGas.ListIndex() == 0;
-}
-
 int WizardFC::SourceCapacityCheck() {
-    const int verdict = SourceVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()});
-    if (verdict == 0 && cbSourceGas.ListIndex() != ui::DropDownList::None)
+    const int verdict = SourceVerdict(program_, general.Choices());
+    if (verdict == 0 && general.cbSourceGas.ListIndex() != ui::DropDownList::None)
         TakeFittingSource();
     return verdict;
 }
 
 void WizardFC::TakeFittingSource() {
-    OptComp.SetValue(!ShowsDensimeter());
-    FrCompGas.SetVisible(!ShowsDensimeter());
+    OptComp.SetValue(!general.ShowsDensimeter());
+    FrCompGas.SetVisible(!general.ShowsDensimeter());
     lastPage_ = 3;
     RefreshStep();
 }
 
 int WizardFC::CompositionCapacityCheck() {
-    return OptCromatografo.Value() ? CompositionVerdict(program_, {ShowsAGA7(), cbSourceGas.ListIndex()}) : 0;
+    return OptCromatografo.Value() ? CompositionVerdict(program_, general.Choices()) : 0;
 }
 
 void WizardFC::FallBack(ui::DropDownList& list, int entry) {

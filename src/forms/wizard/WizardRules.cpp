@@ -20,77 +20,60 @@ constexpr int ISO12213_3 = 4;
 } // namespace
 
 void WizardFC::BindRules() {
-    Check1.OnClick = [this] { TracesChanged(); };
-    OptAbsPress.OnClick = [this] { AbsoluteChosen(); };
-    OptGagePress.OnClick = [this] { GageChosen(); };
-    OptAtmPressFixed.OnClick = [this] { EnableAtmPress(true); };
-    OptAtmPressExt.OnClick = [this] { EnableAtmPress(false); };
-    CombUnits.OnClick = [this] { UnitsChosen(); };
-    CombStandard.OnClick = [this] { StandardChosen(); };
-    cbSourceGas.OnClick = [this] { SourceChosen(); };
+    pressure.OptAbsPress.OnClick = [this] { AbsoluteChosen(); };
+    pressure.OptGagePress.OnClick = [this] { GageChosen(); };
+    pressure.OptAtmPressFixed.OnClick = [this] { pressure.EnableFixed(true); };
+    pressure.OptAtmPressExt.OnClick = [this] { pressure.EnableFixed(false); };
+    general.CombUnits.OnClick = [this] { UnitsChosen(); };
+    general.CombStandard.OnClick = [this] { StandardChosen(); };
+    general.cbSourceGas.OnClick = [this] { SourceChosen(); };
     OptCromatografo.OnClick = [this] { CompositionFromOutsideChosen(); };
     for (ui::TextBox* field : {&Text1, &Text2, &TextDensityStandardTemp})
         MakeNumeric(program_.Screen, *field);
     // Deliberately not alike: the standard pressure takes any key, the atmospheric pressure any shape.
     CheckShapeOnLeaving(program_.Screen, TextDensityStandardP);
-    FilterKeys(txtAtmPress);
-}
-
-void WizardFC::TracesChanged() {
-    const bool enabled = Check1.Value();
-    TextDevice.SetEnabled(enabled);
-    TextNumTraces.SetEnabled(enabled);
-    LabelDevice.SetEnabled(enabled);
-    LabelNumTrace.SetEnabled(enabled);
-}
-
-void WizardFC::EnableAtmPress(bool enabled) {
-    LbAtmPress.SetEnabled(enabled);
-    txtAtmPress.SetEnabled(enabled);
-    unitAtmPress.SetEnabled(enabled);
+    FilterKeys(pressure.txtAtmPress);
 }
 
 void WizardFC::AbsoluteChosen() {
-    EnableAtmPress(false);
-    OptAtmPressFixed.SetEnabled(false);
-    OptAtmPressExt.SetEnabled(false);
+    pressure.EnableFixed(false);
+    pressure.EnableSources(false);
 }
 
 void WizardFC::GageChosen() {
-    OptAtmPressFixed.SetEnabled(true);
-    OptAtmPressExt.SetEnabled(true);
-    EnableAtmPress(!OptAtmPressExt.Value());
+    pressure.EnableSources(true);
+    pressure.EnableFixed(!pressure.OptAtmPressExt.Value());
 }
 
 // Overwrites what was entered, without a question and without converting anything.
 void WizardFC::UnitsChosen() {
-    session_.Station.SystemUnits = CombUnits.Text();
-    const auto& defaults = config::DefaultsOf(CombUnits.Text());
+    session_.Station.SystemUnits = general.CombUnits.Text();
+    const auto& defaults = config::DefaultsOf(general.CombUnits.Text());
     Label6.SetCaption(std::string(defaults.ViscosityCaption));
     Text1.SetText(std::string(config::start::FlowingViscosity));
     unitStandardTemp.SetCaption(std::string(defaults.TemperatureCaption));
     TextDensityStandardTemp.SetText(std::string(defaults.StandardT));
     unitStandardP.SetCaption(std::string(defaults.PressureCaption));
     TextDensityStandardP.SetText(std::string(defaults.StandardP));
-    unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
-    txtAtmPress.SetText(std::string(defaults.AtmPress));
+    pressure.unitAtmPress.SetCaption(std::string(defaults.AtmCaptionInWizard));
+    pressure.txtAtmPress.SetText(std::string(defaults.AtmPress));
 }
 
 void WizardFC::StandardChosen() {
-    session_.Station.FlagAGA7 = ShowsAGA7();
+    session_.Station.FlagAGA7 = general.ShowsAGA7();
     EnableGasEntries();
-    if (cbSourceGas.ListIndex() != ui::DropDownList::None) {
+    if (general.cbSourceGas.ListIndex() != ui::DropDownList::None) {
         const int verdict = SourceCapacityCheck();
         if (verdict != 0)
-            FallBack(CombStandard, verdict <= 2 ? AGA3 : AGA7);
+            FallBack(general.CombStandard, verdict <= 2 ? AGA3 : AGA7);
     }
     PresetValues();
-    const int standard = CombStandard.ListIndex();
+    const int standard = general.CombStandard.ListIndex();
     Text1.SetEnabled(standard == AGA3 || standard == GBT);
 }
 
 void WizardFC::EnableGasEntries() {
-    const bool enabled = !ShowsAGA7();
+    const bool enabled = !general.ShowsAGA7();
     LbViscosity.SetEnabled(enabled);
     Text1.SetEnabled(enabled);
     Label6.SetEnabled(enabled);
@@ -99,22 +82,22 @@ void WizardFC::EnableGasEntries() {
 }
 
 void WizardFC::PresetValues() {
-    if (CombStandard.ListIndex() == GBT) {
-        CombUnits.SetListIndex(PracticalSI);
+    if (general.CombStandard.ListIndex() == GBT) {
+        general.CombUnits.SetListIndex(PracticalSI);
         Text1.SetText(std::string(config::start::ViscosityOfGBT));
         Text2.SetText(std::string(config::start::IsentropicOfGBT));
         return;
     }
     // The isentropic coefficient deliberately stays: that of GBT21446 survives a change of the standard.
-    CombUnits.SetListIndex(US);
+    general.CombUnits.SetListIndex(US);
     Text1.SetText(std::string(config::start::FlowingViscosity));
 }
 
 void WizardFC::SourceChosen() {
     const int verdict = SourceCapacityCheck();
     if (verdict != 0)
-        FallBack(cbSourceGas, verdict % 2 == 0 ? 0 : 1);
-    const int source = cbSourceGas.ListIndex();
+        FallBack(general.cbSourceGas, verdict % 2 == 0 ? 0 : 1);
+    const int source = general.cbSourceGas.ListIndex();
     const bool gross = source == SGERG88 || source == ISO12213_3;
     OptCromatografo.SetEnabled(!gross);
     OptDetail.SetEnabled(!gross);

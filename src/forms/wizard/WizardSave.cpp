@@ -37,7 +37,7 @@ void WizardFC::Finish() {
 
 // Their tags are not offered for binding.
 void WizardFC::SetModulesAside() {
-    project::BuildAvailableLists(session_.Inventory, {Combo1.Text(), Combo2.Text(), Combo3.Text()},
+    project::BuildAvailableLists(session_.Inventory, modules.Chosen(session_.Station.WorkingModules),
                                  session_.Station.FlagAGA7);
 }
 

@@ -13,17 +13,17 @@ TEST_P(ConfiguradorUnitSystem, bring_captions_and_without_a_file_the_standard_co
     const auto& [index, shown] = GetParam();
     ConfiguradorWorld world;
     auto& form = world.Preset();
-    form.CombUnits.SetListIndex(index == 0 ? 1 : 0);
-    form.CombUnits.SetListIndex(index);
+    form.general.CombUnits.SetListIndex(index == 0 ? 1 : 0);
+    form.general.CombUnits.SetListIndex(index);
     EXPECT_EQ(form.Text1.Text(), shown[0]);
     EXPECT_EQ(form.Text2.Text(), shown[1]);
     EXPECT_EQ(form.unitStandardTemp.Caption(), shown[2]);
     EXPECT_EQ(form.unitStandardP.Caption(), shown[3]);
-    EXPECT_EQ(form.unitAtmPress.Caption(), shown[4]);
+    EXPECT_EQ(form.pressure.unitAtmPress.Caption(), shown[4]);
     EXPECT_EQ(form.Label25.Caption(), shown[5]);
-    EXPECT_EQ(form.txtAtmPress.Text(), "14.695949"); // deliberately not changed with the units
+    EXPECT_EQ(form.pressure.txtAtmPress.Text(), "14.695949"); // deliberately not changed with the units
     EXPECT_EQ(form.Text4.Text(), "0.010268");
-    EXPECT_EQ(world.Station.SystemUnits, form.CombUnits.Text());
+    EXPECT_EQ(world.Station.SystemUnits, form.general.CombUnits.Text());
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -37,8 +37,8 @@ struct NewWorld : ConfiguradorWorld {
         auto& form = Form();
         Station.ActiveRunCount = 0;
         form.caso = 1; // the complaint about runs is another test's
-        form.cbSourceGas.SetListIndex(source);
-        form.CombStandard.SetListIndex(standard);
+        form.general.cbSourceGas.SetListIndex(source);
+        form.general.CombStandard.SetListIndex(standard);
         (outside ? form.Option5 : form.Option6).SetValue(true);
         form.caso = 3;
     }
@@ -141,8 +141,8 @@ TEST(ConfiguradorStandardGate, falls_back_from_aga7_to_aga3) {
     NewWorld world({17, 1, 3, 0}, AGA3, Densimeter); // no longs for AGA-7
     world.Station.ActiveRunCount = 1;
     Say(world, true, 1);
-    world.Form().CombStandard.SetListIndex(AGA7);
-    EXPECT_EQ(world.Form().CombStandard.ListIndex(), AGA3);
+    world.Form().general.CombStandard.SetListIndex(AGA7);
+    EXPECT_EQ(world.Form().general.CombStandard.ListIndex(), AGA3);
     EXPECT_FALSE(world.Station.FlagAGA7);
 }
 
@@ -151,8 +151,8 @@ TEST(ConfiguradorStandardGate, falls_back_from_any_other_to_aga7) {
         NewWorld world({11, 2, 3, 1}, AGA7, AGA8);
         world.Station.ActiveRunCount = 1;
         Say(world, false, 1);
-        world.Form().CombStandard.SetListIndex(standard);
-        EXPECT_EQ(world.Form().CombStandard.ListIndex(), AGA7);
+        world.Form().general.CombStandard.SetListIndex(standard);
+        EXPECT_EQ(world.Form().general.CombStandard.ListIndex(), AGA7);
         EXPECT_TRUE(world.Station.FlagAGA7);
     }
 }
@@ -162,15 +162,15 @@ TEST(ConfiguradorStandardGate, reports_twice_and_ends_where_nothing_fits) {
     world.Station.ActiveRunCount = 1;
     Say(world, true, 1);
     Say(world, false, 1);
-    world.Form().CombStandard.SetListIndex(AGA7);
-    EXPECT_EQ(world.Form().CombStandard.ListIndex(), AGA3);
+    world.Form().general.CombStandard.SetListIndex(AGA7);
+    EXPECT_EQ(world.Form().general.CombStandard.ListIndex(), AGA3);
     EXPECT_TRUE(world.TheStory.Done());
 }
 
 TEST(ConfiguradorStandardGate, is_silent_while_no_run_is_counted) {
     NewWorld world({0, 0, 0, 0}, AGA3, Densimeter);
-    world.Form().CombStandard.SetListIndex(AGA7);
-    EXPECT_EQ(world.Form().CombStandard.ListIndex(), AGA7);
+    world.Form().general.CombStandard.SetListIndex(AGA7);
+    EXPECT_EQ(world.Form().general.CombStandard.ListIndex(), AGA7);
 }
 
 // The gates of source and composition.
@@ -181,9 +181,9 @@ TEST(ConfiguradorSourceGate, falls_back_to_the_densimeter) {
             NewWorld world({17, 1, 3, 1}, standard, Densimeter);
             world.Station.ActiveRunCount = 1;
             Say(world, standard == AGA7, 1);
-            world.Form().cbSourceGas.SetListIndex(source);
-            EXPECT_EQ(world.Form().cbSourceGas.ListIndex(), Densimeter);
-            EXPECT_EQ(world.Form().FrameAtmPress.Enabled(), standard == AGA3);
+            world.Form().general.cbSourceGas.SetListIndex(source);
+            EXPECT_EQ(world.Form().general.cbSourceGas.ListIndex(), Densimeter);
+            EXPECT_EQ(world.Form().pressure.FrameAtmPress.Enabled(), standard == AGA3);
         }
 }
 

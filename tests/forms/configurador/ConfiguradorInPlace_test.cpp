@@ -228,7 +228,7 @@ TEST(ConfiguradorInPlace, takes_every_common_value) {
 // Which only a program's hand can do here, since the list is closed to a person.
 TEST(ConfiguradorInPlace, another_standard_leaves_the_bindings_as_they_are) {
     ConfiguradorWorld world(WizardFile("aga3_densimeter"));
-    world.Form().CombStandard.SetListIndex(1);
+    world.Form().general.CombStandard.SetListIndex(1);
     world.TheStory.Menu(Configurator, "PG");
     world.ThenSave("SalvarSalir2");
     world.Show();

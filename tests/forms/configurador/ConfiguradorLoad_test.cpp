@@ -22,51 +22,52 @@ TEST(ConfiguradorLoad, a_new_configuration_starts_with_the_start_values) {
     EXPECT_EQ(form.Text2.Text(), "14.73");
     EXPECT_EQ(form.Text3.Text(), "1.3");
     EXPECT_EQ(form.Text4.Text(), "0.010268");
-    EXPECT_EQ(form.txtAtmPress.Text(), "14.695949");
-    EXPECT_EQ(form.unitAtmPress.Caption(), "PSI");
+    EXPECT_EQ(form.pressure.txtAtmPress.Text(), "14.695949");
+    EXPECT_EQ(form.pressure.unitAtmPress.Caption(), "PSI");
     EXPECT_EQ(form.unitStandardTemp.Caption(), "\u00BAF");
     EXPECT_EQ(form.unitStandardP.Caption(), "psia");
     EXPECT_EQ(form.Label25.Caption(), "cP");
-    EXPECT_EQ(form.Text8.Text(), "/nvram/kdormaga.txt");
-    EXPECT_EQ(form.Text9.Text(), "1000");
-    EXPECT_EQ(form.CombUnits.Text(), "US");
+    EXPECT_EQ(form.traces.Device.Text(), "/nvram/kdormaga.txt");
+    EXPECT_EQ(form.traces.Number.Text(), "1000");
+    EXPECT_EQ(form.general.CombUnits.Text(), "US");
     EXPECT_TRUE(form.OptComprensible.Value());
-    EXPECT_TRUE(form.OptAbsPress.Value());
-    EXPECT_TRUE(form.OptAtmPressFixed.Value());
+    EXPECT_TRUE(form.pressure.OptAbsPress.Value());
+    EXPECT_TRUE(form.pressure.OptAtmPressFixed.Value());
     EXPECT_EQ(form.Caption(), base);
     EXPECT_EQ(world.Session.EditMode, forms::EditMode::Configurator);
 }
 
 TEST(ConfiguradorLoad, a_new_configuration_leaves_standard_and_source_to_be_chosen) {
     ConfiguradorWorld world;
-    EXPECT_EQ(world.Form().CombStandard.ListIndex(), -1);
-    EXPECT_EQ(world.Form().cbSourceGas.ListIndex(), -1);
-    EXPECT_TRUE(world.Form().CombStandard.Enabled());
-    EXPECT_TRUE(world.Form().cbSourceGas.Enabled());
+    EXPECT_EQ(world.Form().general.CombStandard.ListIndex(), -1);
+    EXPECT_EQ(world.Form().general.cbSourceGas.ListIndex(), -1);
+    EXPECT_TRUE(world.Form().general.CombStandard.Enabled());
+    EXPECT_TRUE(world.Form().general.cbSourceGas.Enabled());
     for (ui::Control* box : std::initializer_list<ui::Control*>{&world.Form().Run11, &world.Form().Run55})
         EXPECT_TRUE(box->Enabled());
 }
 
 TEST(ConfiguradorLoad, lists_hold_their_own_texts) {
     ConfiguradorWorld world;
-    EXPECT_EQ(world.Form().CombStandard.Entries(),
+    EXPECT_EQ(world.Form().general.CombStandard.Entries(),
               (Texts{"AGA-3 1992", "AGA-7", "Accelabar-AGA-3-1992", "GBT21446-2008"}));
-    EXPECT_EQ(world.Form().cbSourceGas.Entries(),
+    EXPECT_EQ(world.Form().general.cbSourceGas.Entries(),
               (Texts{"Densimeter", "AGA-8", "SGERG-88", "ISO 12213-2 1997", "ISO 12213-3 1997"}));
-    EXPECT_EQ(world.Form().CombUnits.Entries(),
+    EXPECT_EQ(world.Form().general.CombUnits.Entries(),
               (Texts{"US", "US-degC", "Metric", "Metric-degF", "Practical-SI"}));
-    EXPECT_EQ(world.Form().Combo1.Text(), "VA0");
-    EXPECT_EQ(world.Form().Combo2.Text(), "VL0");
-    EXPECT_EQ(world.Form().Combo3.Text(), "VF0");
+    EXPECT_EQ(world.Form().modules.Combo1.Text(), "VA0");
+    EXPECT_EQ(world.Form().modules.Combo2.Text(), "VL0");
+    EXPECT_EQ(world.Form().modules.Combo3.Text(), "VF0");
 }
 
 TEST(ConfiguradorLoad, absolute_pressure_disables_what_it_does_not_need) {
     ConfiguradorWorld world;
     auto& form = world.Form();
     for (const ui::Control* control : std::initializer_list<ui::Control*>{
-             &form.LbAtmPress, &form.txtAtmPress, &form.unitAtmPress, &form.OptAtmPressFixed,
-             &form.OptAtmPressExt, &form.btExtAtmChange, &form.Text8, &form.Text9, &form.LabelDevice,
-             &form.LabelNumTrace, &form.Option17, &form.Option18})
+             &form.pressure.LbAtmPress, &form.pressure.txtAtmPress, &form.pressure.unitAtmPress,
+             &form.pressure.OptAtmPressFixed, &form.pressure.OptAtmPressExt, &form.btExtAtmChange,
+             &form.traces.Device, &form.traces.Number, &form.traces.LabelDevice, &form.traces.LabelNumTrace,
+             &form.Option17, &form.Option18})
         EXPECT_FALSE(control->Enabled()) << control->Name();
 }
 
@@ -79,18 +80,18 @@ TEST(ConfiguradorLoad, a_stored_file_shows_its_values) {
     ConfiguradorWorld world(file);
     auto& form = world.Form();
     EXPECT_EQ(form.caso, 1);
-    EXPECT_TRUE(form.Check1.Value());
-    EXPECT_EQ(form.Text8.Text(), "/tmp/trace");
-    EXPECT_EQ(form.Text9.Text(), "7");
-    EXPECT_TRUE(form.Text8.Enabled());
-    EXPECT_TRUE(form.Text9.Enabled());
+    EXPECT_TRUE(form.traces.Check1.Value());
+    EXPECT_EQ(form.traces.Device.Text(), "/tmp/trace");
+    EXPECT_EQ(form.traces.Number.Text(), "7");
+    EXPECT_TRUE(form.traces.Device.Enabled());
+    EXPECT_TRUE(form.traces.Number.Enabled());
     EXPECT_EQ(form.Text1.Text(), "61");
     EXPECT_EQ(form.Text2.Text(), "15");
     EXPECT_EQ(form.Text3.Text(), "1.3");
     EXPECT_EQ(form.Text4.Text(), "0.02");
-    EXPECT_EQ(form.CombStandard.Text(), "AGA-3 1992");
-    EXPECT_EQ(form.cbSourceGas.Text(), "Densimeter");
-    EXPECT_TRUE(form.OptAbsPress.Value());
+    EXPECT_EQ(form.general.CombStandard.Text(), "AGA-3 1992");
+    EXPECT_EQ(form.general.cbSourceGas.Text(), "Densimeter");
+    EXPECT_TRUE(form.pressure.OptAbsPress.Value());
     EXPECT_TRUE(world.Screen.BoxesShown.empty());
 }
 
@@ -106,7 +107,7 @@ TEST_P(ConfiguradorStandardShown, shows_as_its_entry) {
                                  std::string("FlowAlgorithm=") + GetParam().Stored));
     const bool aga7 = std::string(GetParam().Shown) == "AGA-7";
     auto& form = world.Form();
-    EXPECT_EQ(form.CombStandard.Text(), GetParam().Shown);
+    EXPECT_EQ(form.general.CombStandard.Text(), GetParam().Shown);
     EXPECT_EQ(world.Station.FlagAGA7, aga7);
     for (const ui::Control* control : std::initializer_list<ui::Control*>{
              &form.LbIsentropic, &form.Text3, &form.LbViscosity, &form.Text4, &form.Label25})
@@ -123,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(Words, ConfiguradorStandardShown,
 TEST(ConfiguradorLoad, a_stored_file_is_shown_whatever_the_station_carries) {
     ConfiguradorWorld world(TagsOf({0, 0, 0, 0}), WizardFile("aga3_aga8_outside"));
     world.Station.ActiveRunCount = 5;
-    EXPECT_EQ(world.Form().cbSourceGas.Text(), "AGA-8");
+    EXPECT_EQ(world.Form().general.cbSourceGas.Text(), "AGA-8");
     EXPECT_TRUE(world.Form().Option5.Value());
     EXPECT_TRUE(world.Form().Option16.Value());
     EXPECT_TRUE(world.Screen.BoxesShown.empty());
@@ -131,7 +132,7 @@ TEST(ConfiguradorLoad, a_stored_file_is_shown_whatever_the_station_carries) {
 
 TEST(ConfiguradorLoad, a_fixed_composition_shows_as_manual) {
     ConfiguradorWorld world(WizardFile("aga3_sgerg88_fixed"));
-    EXPECT_EQ(world.Form().cbSourceGas.Text(), "SGERG-88");
+    EXPECT_EQ(world.Form().general.cbSourceGas.Text(), "SGERG-88");
     EXPECT_TRUE(world.Form().Option6.Value());
     EXPECT_FALSE(world.Form().Option5.Value());
 }
@@ -142,21 +143,22 @@ TEST(ConfiguradorLoad, aga7_leaves_the_gas_entries_empty) {
     EXPECT_EQ(world.Form().Text4.Text(), "");
     EXPECT_EQ(world.Station.FlowingViscosity, "0.010268");
     for (const ui::Control* control : std::initializer_list<ui::Control*>{
-             &world.Form().FrameAtmPress, &world.Form().FrameExtAtmPress, &world.Form().OptAbsPress})
+             &world.Form().pressure.FrameAtmPress, &world.Form().FrameExtAtmPress,
+             &world.Form().pressure.OptAbsPress})
         EXPECT_FALSE(control->Enabled()) << control->Name();
 }
 
 TEST(ConfiguradorLoad, a_gage_pressure_with_a_tag_shows_the_tag) {
     ConfiguradorWorld world(WizardFile("aga3_densimeter_external"));
     auto& form = world.Form();
-    EXPECT_TRUE(form.OptGagePress.Value());
-    EXPECT_TRUE(form.OptAtmPressExt.Value());
+    EXPECT_TRUE(form.pressure.OptGagePress.Value());
+    EXPECT_TRUE(form.pressure.OptAtmPressExt.Value());
     EXPECT_EQ(form.AtmExtName.Caption(), "Name: FT-1");
     EXPECT_EQ(form.AtmExtType.Caption(), " Type: FX");
     EXPECT_EQ(form.AtmExtAddr.Caption(), " Addr: 1001");
     EXPECT_TRUE(form.btExtAtmChange.Enabled());
-    EXPECT_FALSE(form.txtAtmPress.Enabled());
-    EXPECT_EQ(form.txtAtmPress.Text(), "14.695949");
+    EXPECT_FALSE(form.pressure.txtAtmPress.Enabled());
+    EXPECT_EQ(form.pressure.txtAtmPress.Text(), "14.695949");
 }
 
 struct ShownPressure {
@@ -171,11 +173,11 @@ TEST_P(ConfiguradorPressureByUnits, stands_where_the_file_holds_none) {
     std::string file = With(WizardFile("aga3_densimeter_external"), "SystemUnits=US",
                             std::string("SystemUnits=") + GetParam().Units);
     ConfiguradorWorld world(With(file, "ExtAtmPress=Yes", "ExtAtmPress="));
-    EXPECT_TRUE(world.Form().OptGagePress.Value());
-    EXPECT_TRUE(world.Form().OptAtmPressFixed.Value());
-    EXPECT_TRUE(world.Form().txtAtmPress.Enabled());
-    EXPECT_EQ(world.Form().unitAtmPress.Caption(), GetParam().Caption);
-    EXPECT_EQ(world.Form().txtAtmPress.Text(), GetParam().Text);
+    EXPECT_TRUE(world.Form().pressure.OptGagePress.Value());
+    EXPECT_TRUE(world.Form().pressure.OptAtmPressFixed.Value());
+    EXPECT_TRUE(world.Form().pressure.txtAtmPress.Enabled());
+    EXPECT_EQ(world.Form().pressure.unitAtmPress.Caption(), GetParam().Caption);
+    EXPECT_EQ(world.Form().pressure.txtAtmPress.Text(), GetParam().Text);
     EXPECT_EQ(world.Form().Text1.Text(), "60.00");
 }
 
@@ -191,13 +193,13 @@ TEST(ConfiguradorLoad, a_stored_pressure_takes_the_place_of_the_default) {
     std::string file = With(WizardFile("aga3_densimeter_external"), "ExtAtmPress=Yes\nAtmPress=\n",
                             "ExtAtmPress=No\nAtmPress=13.9\n");
     ConfiguradorWorld world(file);
-    EXPECT_EQ(world.Form().txtAtmPress.Text(), "13.9");
+    EXPECT_EQ(world.Form().pressure.txtAtmPress.Text(), "13.9");
 }
 
 TEST(ConfiguradorLoad, values_without_stored_units_stay) {
     std::string file = With(WizardFile("aga3_densimeter"), "SystemUnits=US", "SystemUnits=");
     ConfiguradorWorld world(With(file, "[AGA3]\nStandardT=60.00", "[AGA3]\nStandardT=61"));
-    EXPECT_EQ(world.Form().CombUnits.Text(), "Practical-SI");
+    EXPECT_EQ(world.Form().general.CombUnits.Text(), "Practical-SI");
     EXPECT_EQ(world.Form().Text1.Text(), "61");
     EXPECT_EQ(world.Form().Text2.Text(), "14.73");
 }
@@ -210,8 +212,8 @@ TEST(ConfiguradorLoad, a_compressibility_is_shown_as_stored) {
 TEST(ConfiguradorLoad, a_module_that_is_no_candidate_any_more_is_not_replaced) {
     ConfiguradorWorld world(
         With(WizardFile("aga3_densimeter"), "WrkFloatModName=VF0", "WrkFloatModName=GONE"));
-    EXPECT_EQ(world.Form().Combo3.ListIndex(), -1);
-    EXPECT_EQ(world.Form().Combo1.Text(), "VA0");
+    EXPECT_EQ(world.Form().modules.Combo3.ListIndex(), -1);
+    EXPECT_EQ(world.Form().modules.Combo1.Text(), "VA0");
     world.TheStory.Menu(Configurator, "PG");
     world.ThenSave("SalvarSalir2");
     world.Show();

@@ -15,7 +15,7 @@ TEST(ConfiguradorMode, the_station_counts_one_run) {
     EXPECT_EQ(world.Form().Caption(), base + "   Station : North");
     EXPECT_EQ(world.Form().Label1.Caption(), "Individual Parameters");
     EXPECT_EQ(world.Station.ActiveRunCount, 1);
-    EXPECT_FALSE(world.Form().CombStandard.Enabled());
+    EXPECT_FALSE(world.Form().general.CombStandard.Enabled());
     EXPECT_FALSE(world.Form().Run11.Enabled());
 }
 
@@ -123,8 +123,9 @@ TEST(ConfiguradorOptions, edit_tags_with_a_parameter_missing_shows_what_is_left)
     // Their own state: the tabs around them are closed anyway.
     world.TheStory.Check([&](Driver&) {
         auto& form = world.Form();
-        for (const ui::Control* control : std::initializer_list<const ui::Control*>{
-                 &form.Command1, &form.Option5, &form.Option6, &form.CombStandard, &form.cbSourceGas})
+        for (const ui::Control* control :
+             std::initializer_list<const ui::Control*>{&form.Command1, &form.Option5, &form.Option6,
+                                                       &form.general.CombStandard, &form.general.cbSourceGas})
             EXPECT_FALSE(control->Enabled()) << control->Name();
     });
     world.PlayAndCancel();

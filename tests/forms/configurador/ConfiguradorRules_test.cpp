@@ -28,9 +28,9 @@ void ExpectEnabled(forms::Configurador& form, const Texts& controls, bool enable
 
 TEST(ConfiguradorStandard, a_click_resets_the_pressure_to_absolute_whatever_the_file_says) {
     ConfiguradorWorld world(WizardFile("aga3_densimeter_external"));
-    ASSERT_TRUE(world.Form().OptGagePress.Value());
-    world.Form().CombStandard.SetListIndex(3);
-    EXPECT_TRUE(world.Form().OptAbsPress.Value());
+    ASSERT_TRUE(world.Form().pressure.OptGagePress.Value());
+    world.Form().general.CombStandard.SetListIndex(3);
+    EXPECT_TRUE(world.Form().pressure.OptAbsPress.Value());
     ExpectEnabled(world.Form(), pressureFrames, true);
 }
 
@@ -38,8 +38,8 @@ TEST(ConfiguradorStandard, touches_neither_units_nor_values) {
     ConfiguradorWorld world;
     auto& form = world.Preset();
     form.Text1.SetText("70");
-    form.CombStandard.SetListIndex(3);
-    EXPECT_EQ(form.CombUnits.Text(), "US");
+    form.general.CombStandard.SetListIndex(3);
+    EXPECT_EQ(form.general.CombUnits.Text(), "US");
     EXPECT_EQ(form.Text1.Text(), "70");
     EXPECT_EQ(form.Text3.Text(), "1.3");
     EXPECT_EQ(form.Text4.Text(), "0.010268");
@@ -48,29 +48,29 @@ TEST(ConfiguradorStandard, touches_neither_units_nor_values) {
 TEST(ConfiguradorStandard, aga7_with_a_densimeter_has_no_pressure_at_all) {
     ConfiguradorWorld world;
     auto& form = world.Preset();
-    form.OptGagePress.SetValue(true);
-    form.CombStandard.SetListIndex(1);
+    form.pressure.OptGagePress.SetValue(true);
+    form.general.CombStandard.SetListIndex(1);
     EXPECT_TRUE(world.Station.FlagAGA7);
-    EXPECT_TRUE(form.OptAbsPress.Value());
+    EXPECT_TRUE(form.pressure.OptAbsPress.Value());
     ExpectEnabled(form, pressureGroup, false);
 }
 
 TEST(ConfiguradorStandard, aga7_with_a_gas_model_keeps_the_pressure) {
     ConfiguradorWorld world;
     auto& form = world.Preset(0, 1);
-    form.OptGagePress.SetValue(true);
-    form.CombStandard.SetListIndex(1);
-    EXPECT_TRUE(form.OptGagePress.Value());
+    form.pressure.OptGagePress.SetValue(true);
+    form.general.CombStandard.SetListIndex(1);
+    EXPECT_TRUE(form.pressure.OptGagePress.Value());
     ExpectEnabled(form, pressureFrames, true);
 }
 
 TEST(ConfiguradorStandard, leaving_aga7_gives_the_pressure_back) {
     ConfiguradorWorld world;
     auto& form = world.Preset(1);
-    form.CombStandard.SetListIndex(2);
+    form.general.CombStandard.SetListIndex(2);
     EXPECT_FALSE(world.Station.FlagAGA7);
     ExpectEnabled(form, pressureFrames, true);
-    form.OptGagePress.SetValue(true);
+    form.pressure.OptGagePress.SetValue(true);
     ExpectEnabled(form, {"txtAtmPress", "OptAtmPressFixed", "OptAtmPressExt"}, true);
 }
 
@@ -83,13 +83,13 @@ TEST(ConfiguradorStandard, viscosity_follows_the_list_click_until_the_tab_is_ent
     form.SSTab2.SetTab(1);
     ExpectEnabled(form, {"Text3_1", "Text4_1"}, false);
     form.SSTab2.SetTab(0);
-    form.CombStandard.SetListIndex(2);
+    form.general.CombStandard.SetListIndex(2);
     ExpectEnabled(form, {"Text4_1"}, false);
     ExpectEnabled(form, {"Text3_1", "LbIsentropic", "LbViscosity", "Label25"}, true);
     form.SSTab2.SetTab(1);
     ExpectEnabled(form, {"Text4_1"}, false);
     ExpectEnabled(form, {"Text3_1"}, true);
-    form.CombStandard.SetListIndex(0);
+    form.general.CombStandard.SetListIndex(0);
     form.SSTab2.SetTab(2);
     form.SSTab2.SetTab(1);
     ExpectEnabled(form, {"Text3_1", "Text4_1"}, true);
@@ -126,8 +126,8 @@ TEST(ConfiguradorSource, iso_sources_go_untested) {
         ConfiguradorWorld world(TagsOf({0, 0, 0, 0}));
         auto& form = world.Form();
         world.Station.ActiveRunCount = 5;
-        form.cbSourceGas.SetListIndex(source);
-        EXPECT_EQ(form.cbSourceGas.ListIndex(), source);
+        form.general.cbSourceGas.SetListIndex(source);
+        EXPECT_EQ(form.general.cbSourceGas.ListIndex(), source);
         EXPECT_TRUE(world.Screen.BoxesShown.empty());
     }
 }
@@ -139,7 +139,7 @@ TEST(ConfiguradorSource, a_gas_model_starts_with_a_manual_composition) {
     for (ui::Control* control :
          std::initializer_list<ui::Control*>{&form.Option5, &form.Option6, &form.Option16})
         control->SetEnabled(false);
-    form.cbSourceGas.SetListIndex(2);
+    form.general.cbSourceGas.SetListIndex(2);
     EXPECT_TRUE(form.Option6.Value());
     EXPECT_TRUE(form.Option16.Value());
     ExpectEnabled(form, {"Option5", "Option6", "Option16"}, true);
@@ -148,10 +148,10 @@ TEST(ConfiguradorSource, a_gas_model_starts_with_a_manual_composition) {
 TEST(ConfiguradorSource, a_gas_model_gives_aga7_its_pressure_back) {
     ConfiguradorWorld world;
     auto& form = world.Preset(1);
-    form.cbSourceGas.SetListIndex(1);
-    EXPECT_TRUE(form.OptAbsPress.Value());
+    form.general.cbSourceGas.SetListIndex(1);
+    EXPECT_TRUE(form.pressure.OptAbsPress.Value());
     ExpectEnabled(form, pressureFrames, true);
-    form.cbSourceGas.SetListIndex(0);
+    form.general.cbSourceGas.SetListIndex(0);
     ExpectEnabled(form, pressureGroup, false);
 }
 

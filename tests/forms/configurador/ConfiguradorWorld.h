@@ -57,8 +57,8 @@ struct ConfiguradorWorld : World {
     forms::Configurador& Form() { return Program.Forms.Touch<forms::Configurador>(); }
     // As the command presets a new configuration.
     forms::Configurador& Preset(int standard = 0, int source = 0) {
-        Form().cbSourceGas.SetListIndex(source);
-        Form().CombStandard.SetListIndex(standard);
+        Form().general.cbSourceGas.SetListIndex(source);
+        Form().general.CombStandard.SetListIndex(standard);
         return Form();
     }
     void Show() {

@@ -112,8 +112,8 @@ TEST_F(ConfigWiard, opens_on_the_first_standard_where_the_station_carries_it) {
     Answer(ui::Answer::Yes);
     TheStory.Check([this](Driver&) {
         EXPECT_TRUE(WasRead("Large"));
-        EXPECT_EQ(Program.Forms.Get<WizardFC>().cbSourceGas.ListIndex(), 0);
-        EXPECT_EQ(Program.Forms.Get<WizardFC>().CombStandard.Text(), "AGA-3 1992");
+        EXPECT_EQ(Program.Forms.Get<WizardFC>().general.cbSourceGas.ListIndex(), 0);
+        EXPECT_EQ(Program.Forms.Get<WizardFC>().general.CombStandard.Text(), "AGA-3 1992");
         EXPECT_FALSE(Program.Forms.Get<SelectRuns>().FlagAGA7);
         EXPECT_FALSE(Station.FlagAGA7);
         EXPECT_EQ(Session.EditMode, forms::EditMode::Wizard);
@@ -131,8 +131,8 @@ TEST_F(ConfigWiard, opens_on_aga7_where_the_station_carries_that_alone) {
     Answer(ui::Answer::Yes);
     TheStory.Box("Gas Flow Computer", "Only one Run can be configured", ui::Icon::Information);
     TheStory.Check([this](Driver&) {
-        EXPECT_EQ(Program.Forms.Get<WizardFC>().cbSourceGas.ListIndex(), 0);
-        EXPECT_EQ(Program.Forms.Get<WizardFC>().CombStandard.Text(), "AGA-7");
+        EXPECT_EQ(Program.Forms.Get<WizardFC>().general.cbSourceGas.ListIndex(), 0);
+        EXPECT_EQ(Program.Forms.Get<WizardFC>().general.CombStandard.Text(), "AGA-7");
         EXPECT_TRUE(Program.Forms.Get<SelectRuns>().FlagAGA7);
         EXPECT_TRUE(Station.FlagAGA7);
         EXPECT_EQ(Session.EditMode, forms::EditMode::Wizard);
@@ -175,7 +175,7 @@ TEST_F(ConfigWiard, goes_by_the_last_register_of_each_kind) {
                 .Box("Error: Configuring AGA7", {}, ui::Icon::Exclamation);
         else
             world.TheStory.SeeShown("SelectRuns").Check([&](Driver&) {
-                EXPECT_EQ(world.Program.Forms.Get<WizardFC>().CombStandard.Text(), row.Standard);
+                EXPECT_EQ(world.Program.Forms.Get<WizardFC>().general.CombStandard.Text(), row.Standard);
                 world.Screen.EndProgram(0);
             });
         world.Program.Forms.Get<GFCPrincipal>().Show();
@@ -237,7 +237,7 @@ TEST_F(ConfigWiard, presets_the_wizard_of_the_station_at_hand) {
     TheStory.Check([this](Driver&) {
         const auto& wizard = Program.Forms.Get<WizardFC>();
         EXPECT_EQ(wizard.Caption(), "Gas Flow Computer Wizard     Station Name : Turbine");
-        EXPECT_EQ(wizard.Combo3.Entries(), Names{"VF0"});
+        EXPECT_EQ(wizard.modules.Combo3.Entries(), Names{"VF0"});
     });
     CancelSelection();
     Play();

@@ -52,7 +52,7 @@ TEST(WizardFC, starts_on_the_first_page_with_the_ways_on_and_out_alone) {
 TEST(WizardFC, hides_the_frames_of_later_pages_at_load) {
     WizardWorld world;
     auto& form = world.Program.Forms.Touch<forms::WizardFC>();
-    EXPECT_FALSE(form.Frame9.Visible());
+    EXPECT_FALSE(form.modules.Frame9.Visible());
     EXPECT_FALSE(form.Frame4.Visible());
     EXPECT_FALSE(form.FrCompGas.Visible());
     EXPECT_FALSE(form.FrMetAGA8.Visible());
@@ -82,21 +82,22 @@ TEST(WizardFC, lists_the_working_modules_inputs_first_and_skips_those_without_a_
     world.Session.Modules.LongCandidates = {{8, "VL0"}, {9, ""}, {10, "VLO"}};
     world.Session.Modules.AnalogCandidates = {{32, "VA1"}, {32, "VAO"}};
     auto& form = world.Program.Forms.Touch<forms::WizardFC>();
-    EXPECT_EQ(form.Combo2.Entries(), (std::vector<std::string>{"VL0", "VLO"}));
-    EXPECT_EQ(form.Combo1.Entries(), (std::vector<std::string>{"VA1", "VAO"}));
-    EXPECT_EQ(form.Combo3.Entries(), (std::vector<std::string>{"VF0"}));
-    EXPECT_EQ(form.Combo1.Text() + form.Combo2.Text() + form.Combo3.Text(), "VA1VL0VF0");
+    EXPECT_EQ(form.modules.Combo2.Entries(), (std::vector<std::string>{"VL0", "VLO"}));
+    EXPECT_EQ(form.modules.Combo1.Entries(), (std::vector<std::string>{"VA1", "VAO"}));
+    EXPECT_EQ(form.modules.Combo3.Entries(), (std::vector<std::string>{"VF0"}));
+    EXPECT_EQ(form.modules.Combo1.Text() + form.modules.Combo2.Text() + form.modules.Combo3.Text(),
+              "VA1VL0VF0");
 }
 
 TEST(WizardFC, lists_the_choices_with_the_blank_of_the_last_source) {
     WizardWorld world;
     auto& form = world.Program.Forms.Touch<forms::WizardFC>();
-    EXPECT_EQ(form.CombStandard.Entries(),
+    EXPECT_EQ(form.general.CombStandard.Entries(),
               (std::vector<std::string>{"AGA-3 1992", "AGA-7", "Accelabar-AGA-3 1992", "GBT21446-2008"}));
-    EXPECT_EQ(form.cbSourceGas.Entries(),
+    EXPECT_EQ(form.general.cbSourceGas.Entries(),
               (std::vector<std::string>{"Densimeter", "AGA-8", "SGERG-88", "ISO 12213-2 1997",
                                         "ISO 12213-3 1997 "}));
-    EXPECT_EQ(form.CombUnits.Entries(),
+    EXPECT_EQ(form.general.CombUnits.Entries(),
               (std::vector<std::string>{"US", "US-degC", "Metric", "Metric-degF", "Practical-SI"}));
 }
 

@@ -143,15 +143,15 @@ TEST(WizardGates, without_a_source_no_row_decides) {
     auto& wizard = world.Program.Forms.Touch<forms::WizardFC>();
     world.ActivateFirst(5);
     EXPECT_EQ(wizard.SourceCapacityCheck(), 0);
-    wizard.CombStandard.SetListIndex(AGA7);
-    EXPECT_EQ(wizard.CombStandard.ListIndex(), AGA7);
+    wizard.general.CombStandard.SetListIndex(AGA7);
+    EXPECT_EQ(wizard.general.CombStandard.ListIndex(), AGA7);
     EXPECT_EQ(wizard.lbStep.Caption(), "Step 1 of 3");
 }
 
 TEST(WizardGates, the_preset_of_the_command_passes_while_no_run_is_counted) {
     WizardWorld world(Room{});
     auto& wizard = world.Preset(AGA7, Densimeter);
-    EXPECT_EQ(wizard.CombStandard.ListIndex(), AGA7);
+    EXPECT_EQ(wizard.general.CombStandard.ListIndex(), AGA7);
     EXPECT_TRUE(world.Screen.BoxesShown.empty());
 }
 
@@ -286,8 +286,8 @@ TEST(WizardGates, whatever_is_chosen_where_all_fits_stays) {
             world.TheStory.Select(Form, "CombStandard", standard)
                 .Select(Form, "cbSourceGas", source)
                 .Check([&, standard, source](Driver&) {
-                    EXPECT_EQ(world.Wizard.CombStandard.ListIndex(), standard);
-                    EXPECT_EQ(world.Wizard.cbSourceGas.ListIndex(), source);
+                    EXPECT_EQ(world.Wizard.general.CombStandard.ListIndex(), standard);
+                    EXPECT_EQ(world.Wizard.general.cbSourceGas.ListIndex(), source);
                 });
     world.PlayPages();
 }

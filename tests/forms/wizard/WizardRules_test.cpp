@@ -98,7 +98,7 @@ TEST_P(WizardUnits, overwrite_what_was_entered_with_their_row) {
     auto& form = world.Preset(AGA3, Densimeter, 1);
     const auto& row = GetParam();
     for (auto* field :
-         {&form.TextDensityStandardTemp, &form.TextDensityStandardP, &form.txtAtmPress, &form.Text1})
+         {&form.TextDensityStandardTemp, &form.TextDensityStandardP, &form.pressure.txtAtmPress, &form.Text1})
         field->SetText("70");
     world.TheStory.Select(Form, "CombUnits", row.Entry)
         .SeeText(Form, "TextDensityStandardTemp", row.StandardT)

@@ -62,7 +62,7 @@ TEST(StoreWizardValues, takes_a_composition_from_outside) {
 TEST(StoreWizardValues, takes_the_entries_as_they_stand) {
     WizardWorld world;
     auto& form = world.Preset();
-    form.CombUnits.SetListIndex(3);
+    form.general.CombUnits.SetListIndex(3);
     form.TextDensityStandardTemp.SetText("59.5");
     form.TextDensityStandardP.SetText("1,01 bar");
     form.Text1.SetText(".01");
@@ -82,9 +82,9 @@ TEST(StoreWizardValues, takes_the_entries_as_they_stand) {
 TEST(StoreWizardValues, an_absolute_pressure_has_no_tag_and_keeps_the_entry) {
     WizardWorld world;
     auto& form = world.Preset();
-    form.OptGagePress.SetValue(true);
-    form.OptAtmPressExt.SetValue(true);
-    form.OptAbsPress.SetValue(true);
+    form.pressure.OptGagePress.SetValue(true);
+    form.pressure.OptAtmPressExt.SetValue(true);
+    form.pressure.OptAbsPress.SetValue(true);
     form.StoreWizardValues();
     EXPECT_EQ(world.Station.PressType, "Absolute");
     EXPECT_EQ(world.Station.ExtAtmPress, "No");
@@ -94,14 +94,14 @@ TEST(StoreWizardValues, an_absolute_pressure_has_no_tag_and_keeps_the_entry) {
 TEST(StoreWizardValues, a_gage_pressure_takes_the_atmosphere_from_the_entry_or_a_tag) {
     WizardWorld world;
     auto& form = world.Preset();
-    form.OptGagePress.SetValue(true);
-    form.txtAtmPress.SetText("14.5");
+    form.pressure.OptGagePress.SetValue(true);
+    form.pressure.txtAtmPress.SetText("14.5");
     form.StoreWizardValues();
     EXPECT_EQ(world.Station.PressType, "Gage");
     EXPECT_EQ(world.Station.ExtAtmPress, "No");
     EXPECT_EQ(world.Station.AtmPress, "14.5");
-    form.OptAtmPressExt.SetValue(true);
-    form.txtAtmPress.SetText("13");
+    form.pressure.OptAtmPressExt.SetValue(true);
+    form.pressure.txtAtmPress.SetText("13");
     form.StoreWizardValues();
     EXPECT_EQ(world.Station.ExtAtmPress, "Yes");
     EXPECT_EQ(world.Station.AtmPress, "14.5");
@@ -115,8 +115,8 @@ TEST(StoreWizardValues, takes_device_and_count_only_with_traces) {
     EXPECT_EQ(world.Station.EnableDataTraces, "No");
     EXPECT_EQ(world.Station.DeviceDataTraces, "before");
     EXPECT_EQ(world.Station.NumberTraces, "");
-    form.Check1.SetValue(true);
-    form.TextNumTraces.SetText("50");
+    form.traces.Check1.SetValue(true);
+    form.traces.Number.SetText("50");
     form.StoreWizardValues();
     EXPECT_EQ(world.Station.EnableDataTraces, "Yes");
     EXPECT_EQ(world.Station.DeviceDataTraces, "/nvram/kdormaga.txt");
@@ -128,7 +128,7 @@ TEST(StoreWizardValues, names_the_working_modules_and_looks_up_their_registers) 
     tags += TagsInModule("VFY", "Virtual FO", "FY", "FY-", 128, 9001);
     WizardWorld world(tags);
     auto& form = world.Preset();
-    form.Combo3.SetText("VFY");
+    form.modules.Combo3.SetText("VFY");
     form.StoreWizardValues();
     const auto& working = world.Station.WorkingModules;
     EXPECT_EQ(working.WrkAnalogModName + working.WrkAnalogRegType + working.WrkAnalogRegAddr, "VA0AX1");

@@ -22,8 +22,8 @@ struct WizardWorld : World {
     forms::WizardFC& Preset(int standard = 0, int source = 0, int runs = 0) {
         Program.Session.EditMode = forms::EditMode::Wizard;
         auto& form = Program.Forms.Touch<forms::WizardFC>();
-        form.cbSourceGas.SetListIndex(source);
-        form.CombStandard.SetListIndex(standard);
+        form.general.cbSourceGas.SetListIndex(source);
+        form.general.CombStandard.SetListIndex(standard);
         if (runs > 0)
             ActivateFirst(runs);
         return form;
