@@ -82,15 +82,68 @@ TEST_F(Command, import_takes_a_table_or_tells_each_fault) {
                "Station,Module,Module Type,Tag,Class,Register\nEast,V,Virtual Module,P-1,ZX,a\n");
     const Outcome good = Run("import-tags " + Quoted("good.csv") + " " + onSmall);
     EXPECT_EQ(good.Status, 0);
-    EXPECT_EQ(good.Output, "Imported 1 tags of 1 stations into " + In("small.KPJ") + ".\n");
+    EXPECT_EQ(good.Output,
+              "West (new station): 1 tag added, 0 changed, 0 removed, 0 as they were\nImported into " +
+                  In("small.KPJ") + ": 1 tag added, 0 changed, 0 removed, 0 as they were.\n");
     const Outcome bad = Run("import-tags " + Quoted("bad.csv") + " " + onSmall);
     EXPECT_EQ(bad.Status, 1);
     EXPECT_THAT(bad.Output, AllOf(HasSubstr("bad.csv: row 2, column Class: \"ZX\" is no register class"),
                                   HasSubstr("bad.csv: row 2, column Register: \"a\" is not a whole number"),
                                   HasSubstr("nothing was imported")));
     EXPECT_THAT(Run("stations " + onSmall).Output, AllOf(HasSubstr("West"), Not(HasSubstr("East"))));
-    EXPECT_EQ(Run("import-tags " + Quoted("good.csv") + " " + onSmall).Status, 1); // there already
-    EXPECT_EQ(Run("import-tags --replace " + Quoted("good.csv") + " " + onSmall).Status, 0);
+    EXPECT_THAT(Run("import-tags " + Quoted("good.csv") + " " + onSmall).Output,
+                HasSubstr("holds all of the table already; nothing was changed"));
+}
+
+TEST_F(Command, import_previews_what_it_would_do_and_changes_nothing) {
+    MakeSmallProject();
+    const std::string before = ReadBytes(Folder / "small.KPJ");
+    WriteBytes(Folder / "t.csv", "Station,IP Address,Module,Module Type,Tag,Class,Register\n"
+                                 "West,,V,Virtual Module,W-1,X,1\n"
+                                 "North,10.0.0.6,VFX_2,Virtual Module,PIT-101,FX,1005\n"
+                                 "North,,VFX_RUN,Virtual Module,NEW,FX,9\n"
+                                 "North,,VFX_RUN,Virtual Module,TIT_1201A,FX,1000\n");
+    const std::string arguments = " " + Quoted("t.csv") + " --project " + Quoted("small.KPJ");
+    const std::string preview = "West (new station): 1 tag added, 0 changed, 0 removed, 0 as they were\n"
+                                "  + W-1: X 1 in V\n"
+                                "North: 1 tag added, 1 changed, 1 removed, 1 as they were\n"
+                                "  ~ IP address \"10.0.0.5\" -> \"10.0.0.6\"\n"
+                                "  + NEW: FX 9 in VFX_RUN\n"
+                                "  ~ PIT-101: register \"FX 1001\" -> \"FX 1005\", module \"VFX_RUN\" -> "
+                                "\"VFX_2\", description \"static pressure\" -> \"\"\n"
+                                "  - XV-304: X 7 in DI-16 Slot 3\n"
+                                "This was a preview; nothing was changed. Without --preview it is done.\n";
+    for (const std::string how : {"--preview", "--dry-run"}) {
+        const Outcome outcome = Run("import-tags --replace " + how + arguments);
+        EXPECT_EQ(outcome.Status, 0);
+        EXPECT_EQ(outcome.Output, preview);
+    }
+    EXPECT_THAT(
+        Run("import-tags --preview" + arguments).Output,
+        AllOf(Not(HasSubstr("  - ")), HasSubstr("  ~ the tags that stay are delivered in another order")));
+    EXPECT_EQ(ReadBytes(Folder / "small.KPJ"), before);
+    EXPECT_THAT(Run("import-tags --replace" + arguments).Output,
+                HasSubstr("2 tags added, 1 changed, 1 removed, 1 as they were.\n"));
+}
+
+TEST_F(Command, preview_of_a_table_at_fault_fails_as_the_import_would) {
+    MakeSmallProject();
+    WriteBytes(Folder / "bad.csv", "Station;Module;Tag;Class;Register\nNorth;V;P-1;ZX;1\n");
+    const Outcome preview =
+        Run("import-tags --preview " + Quoted("bad.csv") + " --project " + Quoted("small.KPJ"));
+    EXPECT_EQ(preview.Status, 1);
+    EXPECT_THAT(preview.Output, HasSubstr("bad.csv: row 2, column Class: \"ZX\""));
+}
+
+TEST_F(Command, import_says_how_it_read_a_table_that_is_not_utf8) {
+    MakeSmallProject();
+    WriteBytes(Folder / "old.csv", "Station;Module;Module Type;Tag;Class;Register\r\n"
+                                   "North;V;Virtual Module;Caudal_\xD1;FX;1\r\n");
+    const Outcome import = Run("import-tags " + Quoted("old.csv") + " --project " + Quoted("small.KPJ"));
+    EXPECT_EQ(import.Status, 0);
+    EXPECT_THAT(import.Output,
+                HasSubstr("old.csv: line 2 is not UTF-8, so the whole file was read as Windows-1252"));
+    EXPECT_THAT(Run("tags North --project " + Quoted("small.KPJ")).Output, HasSubstr("Caudal_Ñ"));
 }
 
 TEST_F(Command, download_tells_by_its_status_whether_every_file_came_over) {
@@ -115,16 +168,21 @@ TEST_F(Command, unknown_station_is_told) {
 }
 
 TEST_F(Command, wrong_usage_has_a_status_of_its_own) {
-    for (const char* arguments :
-         {"", "bogus", "new", "demo", "download", "import-tags", "stations --colour"}) {
+    for (const char* arguments : {"", "bogus", "new", "demo", "download", "import-tags", "export-tags",
+                                  "where-used", "stations --colour", "import-tags a.csv b.csv"}) {
         EXPECT_EQ(Run(arguments).Status, 2) << arguments;
     }
 }
 
 TEST_F(Command, each_one_explains_itself_with_an_example) {
-    EXPECT_EQ(Run("--help").Status, 0);
-    for (const std::string name : {"new", "demo", "open", "close", "import-tags", "stations", "tags",
-                                   "rename-tag", "move-tag", "remove-tag", "files", "download"}) {
+    const Outcome all = Run("--help");
+    EXPECT_EQ(all.Status, 0);
+    EXPECT_THAT(all.Output,
+                AllOf(HasSubstr("0  done"), HasSubstr("1  refused or failed"), HasSubstr("2  wrong usage")));
+    EXPECT_THAT(Run("--version").Output, testing::MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+\n"));
+    for (const std::string name :
+         {"new", "demo", "open", "close", "import-tags", "export-tags", "stations", "tags", "where-used",
+          "rename-tag", "move-tag", "remove-tag", "files", "download"}) {
         const Outcome help = Run(name + " --help");
         EXPECT_EQ(help.Status, 0) << name;
         EXPECT_THAT(help.Output, HasSubstr("Example:\n  io-workshop " + name));

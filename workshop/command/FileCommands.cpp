@@ -39,9 +39,9 @@ void CarryOut(const std::string& path, const std::string& folder, int& status) {
         std::cout << PathText(file) << '\n';
     }
     for (const std::string& fault : result.Faults) {
-        std::cerr << "io-workshop: " << fault << '\n';
+        Tell(fault);
     }
-    std::cout << "Downloaded " << result.Written.size() << " files.\n";
+    std::cout << "Downloaded " << Counted(result.Written.size(), "file") << ".\n";
     status = result.Faults.empty() ? Succeeded : Failed;
 }
 

@@ -51,7 +51,7 @@ void OpenProject(const std::string& path) {
     Project project = Project::Open(file, Access::Read);
     const std::size_t stations = ListStations(project).size();
     RecordProject(file);
-    std::cout << "Opened " << PathText(file) << " (" << stations << " stations).\n";
+    std::cout << "Opened " << PathText(file) << " (" << Counted(stations, "station") << ").\n";
 }
 
 void ShowOpenProject() {
@@ -106,7 +106,7 @@ void AddClose(CLI::App& app) {
 
 } // namespace
 
-void AddProjectCommands(CLI::App& app, int& /*status*/) {
+void AddProjectCommands(CLI::App& app) {
     AddNew(app);
     AddDemo(app);
     AddOpen(app);

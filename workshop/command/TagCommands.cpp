@@ -1,10 +1,7 @@
 #include "workshop/command/Commands.h"
 #include "workshop/command/Listing.h"
-#include "workshop/import/TagImport.h"
-#include "workshop/store/Failure.h"
 #include "workshop/store/Stations.h"
 #include "workshop/store/Tags.h"
-#include "workshop/text/Paths.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,57 +11,6 @@
 namespace gfc::workshop {
 
 namespace {
-
-constexpr std::size_t MostComplaints = 50; // more than this is one cause told many times
-
-void TellComplaints(const std::string& csv, const std::vector<Complaint>& complaints) {
-    for (std::size_t at = 0; at < std::min(complaints.size(), MostComplaints); ++at) {
-        std::cerr << csv << ": " << TextOf(complaints[at]) << '\n';
-    }
-    if (complaints.size() > MostComplaints) {
-        std::cerr << csv << ": and " << complaints.size() - MostComplaints << " more faults\n";
-    }
-    std::cerr << "io-workshop: nothing was imported; mend the table and import it again.\n";
-}
-
-struct ImportOptions {
-    std::string Csv;
-    std::string Project;
-    bool Replace = false;
-};
-
-void Import(const ImportOptions& options, int& status) {
-    Project project = ProjectFor(options.Project, Access::Write);
-    const ImportMode mode = options.Replace ? ImportMode::Replace : ImportMode::Add;
-    const ImportResult result = ImportTags(project, PathOf(options.Csv), mode);
-    if (!result.Complaints.empty()) {
-        TellComplaints(options.Csv, result.Complaints);
-        status = Failed;
-        return;
-    }
-    std::cout << "Imported " << result.Tags << " tags of " << result.Stations << " stations into "
-              << PathText(project.File()) << ".\n";
-}
-
-void AddImportTags(CLI::App& app, int& status) {
-    auto options = std::make_shared<ImportOptions>();
-    CLI::App* command =
-        app.add_subcommand("import-tags", "Take a table of stations and tags into the project");
-    command->add_option("CSV", options->Csv, "UTF-8 file, commas between the fields")->required();
-    command->add_flag("--replace", options->Replace,
-                      "Throw away the tags that the table's stations have so far");
-    AddProjectOption(*command, options->Project);
-    command->footer(
-        "The first row names the columns, in any order: Station, Station Type, IP Address, Serial Number,\n"
-        "Module, Module Type, Tag, Class, Register, Description. Type, address, serial number and\n"
-        "description may be left out; a row without module and tag makes a station without tags. Tags\n"
-        "are delivered in the order of the rows, so rows of one module stand together. The type of a\n"
-        "virtual module begins with the word Virtual. All of the table is taken or nothing.\n"
-        "Example:\n  io-workshop import-tags tags.csv\nwith the table\n"
-        "  Station,IP Address,Module,Module Type,Tag,Class,Register\n"
-        "  North,10.0.0.5,VFX_RUN,Virtual Module,PIT-101,FX,1001");
-    command->callback([options, &status] { Import(*options, status); });
-}
 
 void ShowStations(const std::string& path) {
     Project project = ProjectFor(path, Access::Read);
@@ -85,18 +31,11 @@ void AddStations(CLI::App& app) {
     command->callback([path] { ShowStations(*path); });
 }
 
-std::vector<Station> StationsToShow(Project& project, const std::string& name) {
-    if (name.empty()) {
-        return ListStations(project);
-    }
-    return {StationNamed(project, name)};
-}
-
 void ShowTags(const std::string& path, const std::string& name) {
     Project project = ProjectFor(path, Access::Read);
     std::vector<std::vector<std::string>> rows = {
         {"Station", "Tag", "Class", "Register", "Module", "Module Type", "Description"}};
-    for (const Station& station : StationsToShow(project, name)) {
+    for (const Station& station : StationsNamed(project, name)) {
         for (const Tag& tag : ListTags(project, station.Id)) {
             rows.push_back({station.Name, tag.Name, tag.Class, std::to_string(tag.Register), tag.Module,
                             tag.ModuleType, tag.Description});
@@ -120,16 +59,7 @@ void AddTags(CLI::App& app) {
 
 } // namespace
 
-Station StationNamed(Project& project, const std::string& name) {
-    auto station = FindStation(project, name);
-    if (!station) {
-        throw Failure(name + ": the project has no such station; \"io-workshop stations\" lists them.");
-    }
-    return *std::move(station);
-}
-
-void AddTagCommands(CLI::App& app, int& status) {
-    AddImportTags(app, status);
+void AddTagCommands(CLI::App& app) {
     AddStations(app);
     AddTags(app);
 }

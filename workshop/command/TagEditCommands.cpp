@@ -1,4 +1,5 @@
 #include "workshop/command/Commands.h"
+#include "workshop/command/UseWarnings.h"
 #include "workshop/import/TagTable.h"
 #include "workshop/store/Failure.h"
 #include "workshop/store/Tags.h"
@@ -90,6 +91,11 @@ void Edit(const EditOptions& options, TagEdit edit) {
     const std::string done = edit(project, station, tag, options.Target);
     transaction.Commit();
     std::cout << done << '\n';
+    if (FindTag(project, station.Id, tag.Name) != tag) {
+        std::vector<TagUse> lost;
+        AddUses(project, station, {tag.Name}, lost);
+        WarnOf(lost);
+    }
 }
 
 // The rule of the table of an import. Asked while the arguments are read, so that it ends as wrong usage.
@@ -123,7 +129,7 @@ constexpr EditCommand Commands[] = {
 
 std::string FooterOf(const EditCommand& edit) {
     return "The tags are delivered in the same order as before. Configuration files that name the tag stay\n"
-           "as they are; a check of the station in the configurator then tells of it.\n"
+           "as they are; a warning tells which, and a check of the station in the configurator, too.\n"
            "Example:\n  io-workshop " +
            std::string(edit.Name) + ' ' + edit.Example;
 }

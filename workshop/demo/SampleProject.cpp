@@ -1,16 +1,15 @@
 #include "workshop/demo/SampleProject.h"
 
 #include "workshop/demo/SampleConfiguration.h"
-#include "workshop/demo/SampleStations.h"
-#include "workshop/demo/TagPattern.h"
+#include "workshop/demo/SampleTags.h"
 #include "workshop/store/Failure.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/store/Project.h"
 #include "workshop/store/Stations.h"
 #include "workshop/store/Tags.h"
+#include "workshop/store/WholeFile.h"
 #include "workshop/text/Paths.h"
 
-#include <fstream>
 #include <string>
 #include <system_error>
 
@@ -44,21 +43,9 @@ void CheckWay(const SampleFiles& files, Existing existing) {
     }
 }
 
-void AddModule(TagAppender& appender, const SampleModule& module) {
-    std::int32_t address = module.Register;
-    for (const std::string& name : ExpandTags(module.Tags, module.Runs)) {
-        appender.Append({name, std::string(module.Class), address++, std::string(module.Name),
-                         std::string(module.Type), ""});
-    }
-}
-
 void AddStationOf(Project& project, const SampleStation& sample) {
-    const std::int64_t id = AddStation(project, {0, std::string(sample.Name), std::string(sample.Type),
-                                                 std::string(sample.Address), sample.SerialNumber});
-    TagAppender appender(project, id);
-    for (const SampleModule& module : sample.Modules) {
-        AddModule(appender, module);
-    }
+    const StationTags made = StationTagsOf(sample);
+    TagAppender(project, AddStation(project, made.TheStation)).Append(made.Tags);
 }
 
 void FillProject(const fs::path& file, const fs::path& configuration) {
@@ -73,15 +60,6 @@ void FillProject(const fs::path& file, const fs::path& configuration) {
         throw Failure("The sample lacks its configured station.");
     }
     transaction.Commit();
-}
-
-void WriteConfiguration(const fs::path& file, const fs::path& project) {
-    std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    out << SampleConfiguration(PathText(project));
-    out.close();
-    if (!out) {
-        throw Failure(PathText(file) + ": cannot be written; check the access rights and the disk.");
-    }
 }
 
 void MakeFolder(const fs::path& folder) {
@@ -117,7 +95,7 @@ SampleFiles MakeSample(const fs::path& folder, Existing existing) {
     beside += ".new";
     fs::remove(beside);
     FillProject(beside, files.Configuration);
-    WriteConfiguration(files.Configuration, files.Project);
+    ReplaceWhole(files.Configuration, SampleConfiguration(PathText(files.Project)));
     MoveIntoPlace(beside, files.Project);
     return files;
 }

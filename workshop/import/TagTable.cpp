@@ -1,11 +1,11 @@
 #include "workshop/import/TagTable.h"
 
 #include "workshop/text/CodePage.h"
+#include "workshop/text/Letters.h"
 #include "workshop/text/Paths.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <optional>
 #include <utility>
@@ -39,12 +39,6 @@ constexpr std::array<Column, 10> Columns = {{
     {"Description",   &TableRow::Description,  Kind::Text,     Need::Never,   80},
 }};
 // clang-format on
-
-std::string Upper(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return text;
-}
 
 std::optional<std::int32_t> ParseNumber(const std::string& text) {
     std::int32_t number = 0;
@@ -112,9 +106,8 @@ bool CheckRow(const TableRow& row, std::vector<Complaint>& complaints) {
 using Heading = std::vector<const Column*>; // one per column of the file
 
 const Column* ColumnNamed(std::string_view title) {
-    const auto found = std::find_if(Columns.begin(), Columns.end(), [&](const Column& column) {
-        return Upper(std::string(column.Title)) == Upper(std::string(title));
-    });
+    const auto found = std::find_if(Columns.begin(), Columns.end(),
+                                    [&](const Column& column) { return SameName(column.Title, title); });
     return found == Columns.end() ? nullptr : &*found;
 }
 
@@ -155,6 +148,22 @@ std::string TextOf(const Complaint& complaint) {
         place += (place.empty() ? "column " : ", column ") + complaint.Column;
     }
     return place.empty() ? complaint.Text : place + ": " + complaint.Text;
+}
+
+std::vector<std::string> ColumnTitles() {
+    std::vector<std::string> titles;
+    for (const Column& column : Columns) {
+        titles.emplace_back(column.Title);
+    }
+    return titles;
+}
+
+std::vector<std::string> FieldsOf(const TableRow& row) {
+    std::vector<std::string> fields;
+    for (const Column& column : Columns) {
+        fields.push_back(row.*column.Field);
+    }
+    return fields;
 }
 
 std::string FaultUnder(std::string_view title, const std::string& text) {

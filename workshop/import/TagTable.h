@@ -21,6 +21,9 @@ struct Complaint {
 /// "row 3, column Class: ..."
 [[nodiscard]] std::string TextOf(const Complaint& complaint);
 
+/// The titles of all columns, in the order in which a table is written.
+[[nodiscard]] std::vector<std::string> ColumnTitles();
+
 /// What keeps the text from standing under the column of that title, as "..." and a reason; empty when it
 /// may. An empty text is a fault under a column that a tag cannot be without.
 [[nodiscard]] std::string FaultUnder(std::string_view title, const std::string& text);
@@ -40,6 +43,8 @@ struct TableRow {
     std::string Description;
 };
 
+/// The fields of a row under ColumnTitles.
+[[nodiscard]] std::vector<std::string> FieldsOf(const TableRow& row);
 /// A row without module, tag, class and register stands for its station alone.
 [[nodiscard]] bool HoldsTag(const TableRow& row);
 /// Of a row without a fault.

@@ -1,6 +1,7 @@
 #include "workshop/store/OpenProject.h"
 
 #include "workshop/store/Failure.h"
+#include "workshop/store/WholeFile.h"
 #include "workshop/text/Paths.h"
 
 #include <cstdlib>
@@ -33,15 +34,6 @@ fs::path StateFolder() {
     throw Failure("There is no folder to remember the open project in; set XDG_STATE_HOME or HOME.");
 }
 
-void WriteWhole(const fs::path& file, const std::string& text) {
-    std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    out << text << '\n';
-    out.close();
-    if (!out) {
-        throw Failure(PathText(file) + ": cannot be written; check the access rights and the disk.");
-    }
-}
-
 } // namespace
 
 fs::path OpenProjectMark() {
@@ -61,13 +53,7 @@ void RecordProject(const fs::path& file) {
     const fs::path mark = OpenProjectMark();
     std::error_code error;
     fs::create_directories(mark.parent_path(), error);
-    fs::path beside = mark;
-    beside += ".new";
-    WriteWhole(beside, PathText(file));
-    fs::rename(beside, mark, error);
-    if (error) {
-        throw Failure(PathText(mark) + ": cannot be written: " + error.message() + ".");
-    }
+    ReplaceWhole(mark, PathText(file) + '\n');
 }
 
 bool ForgetProject() {

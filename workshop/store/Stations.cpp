@@ -1,5 +1,7 @@
 #include "workshop/store/Stations.h"
 
+#include "workshop/store/Failure.h"
+
 namespace gfc::workshop {
 
 namespace {
@@ -26,6 +28,21 @@ std::optional<Station> FindStation(Project& project, std::string_view name) {
         return std::nullopt;
     }
     return StationOf(query);
+}
+
+Station StationNamed(Project& project, const std::string& name) {
+    auto station = FindStation(project, name);
+    if (!station) {
+        throw Failure(name + ": the project has no such station; \"io-workshop stations\" lists them.");
+    }
+    return *std::move(station);
+}
+
+std::vector<Station> StationsNamed(Project& project, const std::string& name) {
+    if (name.empty()) {
+        return ListStations(project);
+    }
+    return {StationNamed(project, name)};
 }
 
 std::int64_t AddStation(Project& project, const Station& station) {

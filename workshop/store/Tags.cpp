@@ -102,6 +102,12 @@ void TagAppender::Append(const Tag& tag) {
         .Execute();
 }
 
+void TagAppender::Append(const std::vector<Tag>& tags) {
+    for (const Tag& tag : tags) {
+        Append(tag);
+    }
+}
+
 std::int64_t TagAppender::ModuleOf(const Tag& tag) {
     if (const auto known = modules_.find(tag.Module); known != modules_.end()) {
         return known->second;

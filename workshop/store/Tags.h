@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workshop/store/Project.h"
+#include "workshop/store/Stations.h"
 
 #include <array>
 #include <cstdint>
@@ -24,6 +25,14 @@ struct Tag {
     std::string Module;
     std::string ModuleType; ///< its first word is "Virtual" for a virtual module
     std::string Description;
+
+    bool operator==(const Tag&) const = default;
+};
+
+/// A station with its tags in delivery order.
+struct StationTags {
+    Station TheStation;
+    std::vector<Tag> Tags;
 };
 
 /// A tag as it stands in the current row of a query; the texts are valid until the next row.
@@ -60,6 +69,7 @@ class TagAppender {
 public:
     TagAppender(Project& project, std::int64_t station);
     void Append(const Tag& tag);
+    void Append(const std::vector<Tag>& tags);
 
 private:
     std::int64_t ModuleOf(const Tag& tag);

@@ -104,6 +104,16 @@ bool FitsCodePage(std::string_view utf8) {
     return true;
 }
 
+std::size_t FirstByteNotUtf8(std::string_view bytes) {
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t first = at;
+        if (TakeCharacter(bytes, at) == Malformed) {
+            return first;
+        }
+    }
+    return std::string_view::npos;
+}
+
 std::size_t CharacterCount(std::string_view utf8) {
     std::size_t count = 0;
     for (std::size_t at = 0; at < utf8.size(); ++count) {

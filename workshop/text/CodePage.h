@@ -11,6 +11,9 @@ namespace gfc::workshop {
 /// True when `utf8` is well-formed and every character of it has a place in the code page.
 [[nodiscard]] bool FitsCodePage(std::string_view utf8);
 
+/// Where the first byte stands that is no part of well-formed UTF-8; npos when there is none.
+[[nodiscard]] std::size_t FirstByteNotUtf8(std::string_view bytes);
+
 /// Number of characters of well-formed UTF-8; each takes one byte in the code page and one column on a
 /// screen.
 [[nodiscard]] std::size_t CharacterCount(std::string_view utf8);

@@ -1,0 +1,55 @@
+#include "workshop/store/WholeFile.h"
+
+#include "workshop/store/Failure.h"
+#include "workshop/text/Paths.h"
+
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace gfc::workshop {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Leaves nothing behind when it fails.
+bool WriteTo(const fs::path& file, std::string_view bytes) {
+    std::ofstream out(file, std::ios::binary | std::ios::trunc);
+    if (!out) {
+        return false;
+    }
+    out << bytes;
+    out.close();
+    if (!out) {
+        std::error_code ignored;
+        fs::remove(file, ignored);
+    }
+    return static_cast<bool>(out);
+}
+
+} // namespace
+
+std::string ReadWhole(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in || fs::is_directory(file)) { // a folder opens like a file and fails later
+        throw Failure(PathText(file) + ": cannot be read; check the path and the access rights.");
+    }
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void ReplaceWhole(const fs::path& file, std::string_view bytes) {
+    fs::path beside = file;
+    beside += ".new";
+    if (WriteTo(beside, bytes)) {
+        std::error_code error;
+        fs::rename(beside, file, error);
+        if (!error) {
+            return;
+        }
+        fs::remove(beside, error);
+    }
+    throw Failure(PathText(file) + ": cannot be written; check the path, the access rights and the disk.");
+}
+
+} // namespace gfc::workshop
