@@ -1,6 +1,7 @@
 #include "qt/QtScreen.h"
 
 #include "qt/FormWindow.h"
+#include "qt/Waiting.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -128,12 +129,13 @@ void QtScreen::DoEvents() {
 
 void QtScreen::WaitAMoment() {
     constexpr int moment = 20; // milliseconds
+    const Waiting waiting;
     const QDeadlineTimer end(moment);
     QTimer wake;
     wake.setSingleShot(true);
     wake.start(moment);
     while (!end.hasExpired() && !ended_)
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void QtScreen::EndProgram(int exitCode) {

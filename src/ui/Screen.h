@@ -56,7 +56,8 @@ public:
     virtual bool ViewText(const std::string& path, WindowState state) = 0;
     // Lets pending paint events run.
     virtual void DoEvents() = 0;
-    // Waits some milliseconds with the windows painting and the processor idle.
+    // Waits some milliseconds with the windows painting, a busy pointer and the processor idle. Of what a
+    // person does only the closing of a window is taken; all else is dropped.
     virtual void WaitAMoment() = 0;
     // Ends the program: every modal loop returns, no window opens any more.
     virtual void EndProgram(int exitCode) = 0;

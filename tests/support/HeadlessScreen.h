@@ -37,7 +37,8 @@ public:
     ui::MenuEntry* LastPopUp = nullptr;
     int ExitCode = 0;
     bool ViewerWorks = true;
-    // Called at each idle moment, for what changes outside the program meanwhile.
+    // Called at each moment that the program waits, for what changes outside it meanwhile; without it the
+    // story goes on there.
     std::function<void()> OnWait;
 
     // The loaded form of that name; null if there is none.

@@ -1,10 +1,10 @@
 #include "forms/files/CopyCommands.h"
 
+#include "forms/files/StationName.h"
 #include "forms/files/frCopyStation.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
 #include "platform/Files.h"
-#include "services/CodePage.h"
 
 namespace gfc::forms {
 
@@ -105,13 +105,13 @@ void CopyToStation(Program& program, const std::string& station) {
         ShowStation(program, station);
 }
 
-// A file that nothing can be written to, or a name that the file cannot hold, is not begun.
+// A copy under a name that no station can have would never be found again.
 bool CanBeNamed(Program& program, const Destination& to) {
-    if (!to.File().empty() && services::CodePageHolds(to.Station))
+    const std::string reason = to.File().empty() ? CharactersRefused : ReasonAgainst(to.Station);
+    if (reason.empty())
         return true;
     program.Screen.Ask({.Title = "Error: Copy configuration file",
-                        .Text = "Could not copy the configuration file \r\n"
-                                "The name of the station has characters that the name of a file cannot have.",
+                        .Text = "Could not copy the configuration file \r\n" + reason,
                         .TheIcon = ui::Icon::Exclamation});
     return false;
 }

@@ -7,9 +7,6 @@ namespace gfc::forms {
 
 namespace {
 
-// Some seconds of moments.
-constexpr int momentsBetweenQuestions = 200;
-
 bool HasConfiguration(const Program& program) {
     const auto& session = program.Session;
     return !node::NamesNoStation(session.SelectedNodeText) && program.Ini.FileExists(session.ConfigFile());
@@ -23,21 +20,10 @@ bool MayDelete(Program& program) {
     return answer == ui::Answer::Yes && !program.Screen.Ended();
 }
 
-// A file that cannot be deleted would otherwise hold the program for ever.
-bool GoesOnWaiting(Program& program, const std::string& file) {
-    const auto answer = program.Screen.Ask(
-        {.Title = "Delete Configuration",
-         .Text = "The configuration file could not be deleted yet:\r\n" + file + "\r\nGo on trying?",
-         .TheIcon = ui::Icon::Exclamation,
-         .TheButtons = ui::Buttons::YesNo});
-    return answer == ui::Answer::Yes;
-}
-
-// What holds the file, another program perhaps, may let it go a little later.
+// What holds the file, another program perhaps, may let it go a little later. Deliberately without a word and
+// without an end: the window goes on painting, and closing it ends the program and the wait with it.
 void WaitUntilGone(Program& program, const std::string& file) {
-    for (int moments = 1; program.Ini.FileExists(file) && !program.Screen.Ended(); ++moments) {
-        if (moments % momentsBetweenQuestions == 0 && !GoesOnWaiting(program, file))
-            return;
+    while (program.Ini.FileExists(file) && !program.Screen.Ended()) {
         program.Screen.WaitAMoment();
         program.Ini.DeleteConfigFile(file);
     }

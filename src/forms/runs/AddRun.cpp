@@ -5,6 +5,7 @@
 #include "config/Vocabulary.h"
 #include "forms/binding/UnusedTags.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/station/IOReports.h"
 #include "forms/station/StationCommands.h"
 #include "forms/station/Step.h"
 #include "forms/station/WizardPass.h"
@@ -28,7 +29,6 @@ constexpr PassTexts AddedRunTexts = {
 };
 
 constexpr int allKinds = 5;
-constexpr int minimumIOContext = 7300;
 
 // 0, and nothing is counted, for a source that is neither a densimeter nor a gas model.
 int StepsInAll(const config::StationConfig& station) {
@@ -79,7 +79,7 @@ bool EnoughTagsAreFree(Program& program) {
     program.Screen.Ask({.Title = "Missing Tags...",
                         .Text = "Error : There are not enough available tags to make this configuration, "
                                 "please make more tags available using the I/O Workshop",
-                        .HelpContext = minimumIOContext,
+                        .HelpContext = MinimumIOContext,
                         .HelpFile = "AGA.chm"});
     return false;
 }

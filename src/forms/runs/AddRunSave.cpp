@@ -5,6 +5,7 @@
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
 #include "forms/runs/AddRun.h"
+#include "forms/runs/StoredFile.h"
 
 namespace gfc::forms {
 
@@ -27,23 +28,13 @@ void WriteRun(Program& program, int run, const std::string& file) {
                               file);
 }
 
-void TellFileIsGone(Program& program, const std::string& file) {
-    program.Screen.Ask(
-        {.Title = "Gas Flow Computer",
-         .Text =
-             "The run was not saved. The configuration file of the station is not there any more:\r\n" + file,
-         .TheIcon = ui::Icon::Exclamation});
-}
-
 } // namespace
 
 void SaveAddedRun(Program& program, int run) {
     const std::string file = program.Session.ConfigFile();
     auto& window = program.Forms.Get<GFCPrincipal>();
-    if (!program.Ini.FileExists(file)) {
-        TellFileIsGone(program, file);
+    if (!FileIsStillThere(program, "The run was not saved."))
         return window.RebuildAfterCommand();
-    }
     WriteRun(program, run, file);
     const std::string path = node::RunPath(program.Session.Station.CurrentStation, run);
     window.SetRunImage(path, true);

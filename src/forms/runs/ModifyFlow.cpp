@@ -11,6 +11,7 @@
 #include "forms/editors/GasSources.h"
 #include "forms/editors/MDetail.h"
 #include "forms/editors/frSGERG88.h"
+#include "forms/runs/StoredFile.h"
 
 namespace gfc::forms {
 
@@ -120,7 +121,7 @@ bool ModifyFlow::Goes() const {
 
 // No binding has changed, so that there is nothing to try.
 void ModifyFlow::SaveMechanical() {
-    if (WishesToSave(program_.Screen, ui::Icon::None))
+    if (WishesToSave(program_.Screen, ui::Icon::None) && MayWrite())
         ApplyMechanicalParameters(program_.Ini, station_, file_);
 }
 
@@ -140,15 +141,20 @@ bool ModifyFlow::TrialPasses() {
 }
 
 void ModifyFlow::SaveIfWished() {
-    if (WishesToSave(program_.Screen, ui::Icon::Information))
+    if (WishesToSave(program_.Screen, ui::Icon::Information) && MayWrite())
         ApplyModifiedTags(program_.Ini, station_, selection_, file_);
 }
 
 void ModifyFlow::SaveIfIgnored() {
     session_.GasInputsValid = true;
     program_.Forms.Get<TagsChanged>().ShowModal();
-    if (!program_.Screen.Ended() && session_.TagsChangedChoice == TagsChangedChoice::Ignore)
+    const bool ignored = session_.TagsChangedChoice == TagsChangedChoice::Ignore;
+    if (ignored && !program_.Screen.Ended() && MayWrite())
         SaveWithErrors();
+}
+
+bool ModifyFlow::MayWrite() {
+    return FileIsStillThere(program_, "The changes were not saved.");
 }
 
 void ModifyFlow::SaveWithErrors() {

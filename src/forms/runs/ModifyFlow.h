@@ -35,6 +35,7 @@ private:
     void SaveIfWished();
     void SaveIfIgnored();
     void SaveWithErrors();
+    [[nodiscard]] bool MayWrite();
     void DisableRun(int run);
 
     Program& program_;

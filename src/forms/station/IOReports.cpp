@@ -8,7 +8,6 @@ namespace gfc::forms {
 
 namespace {
 constexpr const char* helpFile = "AGA.chm";
-constexpr int minimumIOContext = 7300;
 } // namespace
 
 project::StationCapacity CapacityOf(const Session& session) {
@@ -21,7 +20,7 @@ void ReportIOShortage(Program& program, project::ShortageKind kind) {
          // Before any run is chosen the needs are those of one run.
          .Text = project::IOShortageText(kind, std::max(1, program.Session.Station.ActiveRunCount)),
          .TheIcon = ui::Icon::Exclamation,
-         .HelpContext = minimumIOContext,
+         .HelpContext = MinimumIOContext,
          .HelpFile = helpFile});
 }
 
@@ -32,7 +31,7 @@ int MaximumRuns(Program& program, bool isAGA7, bool show) {
         program.Screen.Ask({.Title = "Gas Flow Computer",
                             .Text = text,
                             .TheIcon = ui::Icon::Information,
-                            .HelpContext = minimumIOContext,
+                            .HelpContext = MinimumIOContext,
                             .HelpFile = helpFile});
     return runs;
 }

@@ -8,6 +8,9 @@ namespace gfc::forms {
 
 struct Program;
 
+// Where the help tells of the minimum I/O.
+inline constexpr int MinimumIOContext = 7300;
+
 // What the capacity tests look at: the station that was opened last.
 [[nodiscard]] project::StationCapacity CapacityOf(const Session& session);
 

@@ -297,6 +297,39 @@ TEST_F(CopyToProject, refuses_a_name_that_is_none_for_a_file) {
     ExpectOnlyTheSource();
 }
 
+TEST_F(CopyToProject, refuses_a_name_that_no_station_can_have) {
+    const std::string device = "The name of the station is one that the machine keeps for a device.";
+    const std::string blank = "The name of the station has nothing but blanks and dots.";
+    const std::pair<std::string, std::string> refused[] = {
+        {"..", blank},
+        {" ", blank},
+        {"x.", "The name of the station ends with a dot."},
+        {"CON", device},
+        {"nul.old", device},
+        {"Com7", device},
+        {std::string(81, 'x'), "The name of the station is longer than 80 characters."},
+        {std::string(300, 'x'), "The name of the station is longer than 80 characters."},
+    };
+    for (const auto& [name, reason] : refused) {
+        Choose("/jobs/other.KPJ");
+        Answer(name);
+        TheStory.Box("Error: Copy configuration file", failed + reason, Icon::Exclamation);
+    }
+    Play();
+    ExpectOnlyTheSource();
+}
+
+TEST_F(CopyToProject, takes_names_that_only_look_like_others) {
+    const std::string longest(80, 'x');
+    for (const char* name : {"Concord", "COM", "COM0", "LPT10", "A.B", ".5", longest.c_str()}) {
+        Choose("/jobs/other.KPJ");
+        Answer(name);
+        ExpectDone();
+    }
+    Play();
+    EXPECT_EQ(Files.Content.size(), 8U);
+}
+
 TEST_F(CopyToProject, takes_a_name_with_accents) {
     Choose("/jobs/other.KPJ");
     Answer("Estaci\xC3\xB3n");

@@ -161,6 +161,30 @@ TEST(ModifyFlowErrors, of_the_atmospheric_pressure_disable_no_run) {
     EXPECT_EQ(world.Key("FlowRuns", "AGA3"), "No"); // a key that nobody reads
 }
 
+// Keys written now would make a station that counts as configured and has next to nothing in its file.
+TEST(ModifyFlowErrors, of_a_file_that_has_gone_are_told_and_no_file_is_made) {
+    const std::string gone =
+        std::string("The changes were not saved. The configuration file of the station is "
+                    "not there any more:\r\n") +
+        "/jobs/KDOrmAGA_plant_North.ini";
+    for (const int box : {3, 2}) {
+        ModifyWorld world;
+        world.TickAndAccept({box});
+        world.TheStory.Do("delete the file from outside", [&](Driver&) { world.Files.Content.clear(); });
+        if (box == 3) {
+            world.AcceptMechanical();
+            world.AskedToSave(ui::Icon::None, ui::Answer::Yes);
+        } else {
+            world.Continue();
+            world.TheStory.Click("TagsChanged", "CmdIgnore");
+        }
+        world.TheStory.Box("Gas Flow Computer", gone, ui::Icon::Exclamation);
+        world.Play();
+        EXPECT_FALSE(world.Files.Content.contains(world.File()));
+        EXPECT_FALSE(world.Files.Content.contains(ModifyWorld::Trial));
+    }
+}
+
 TEST(ModifyFlowErrors, leave_a_missing_name_to_be_corrected_later) {
     ModifyWorld world;
     world.Put("Run4", "AGA8rhosKDIOTag", "");

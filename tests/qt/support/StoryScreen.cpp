@@ -178,6 +178,9 @@ bool StoryScreen::ViewText(const std::string& path, ui::WindowState state) {
 void StoryScreen::WaitAMoment() {
     if (OnWait)
         return OnWait();
+    QtScreen::WaitAMoment();
+    if (!Ended() && !TheStory.Done())
+        return TakeStep();
     ADD_FAILURE() << "the program waits for something that the test does not provide";
     EndProgram(-1);
 }

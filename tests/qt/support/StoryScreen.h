@@ -36,7 +36,8 @@ public:
     std::vector<std::pair<std::string, ui::WindowState>> TextsViewed;
     std::vector<std::string> FormsShown; // names in the order of showing
     int ExitCode = 0;
-    // Called at each idle moment, for what changes outside the program meanwhile.
+    // Called at each moment that the program waits, for what changes outside it meanwhile; without it the
+    // story goes on there.
     std::function<void()> OnWait;
     // Called with the windows as they stand before each step.
     std::function<void()> BeforeStep;
