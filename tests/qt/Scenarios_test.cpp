@@ -1,16 +1,22 @@
 #include "forms/program/StartUp.h"
+#include "forms/station/PassStory.h"
+#include "qt/support/KeyboardDriver.h"
 #include "qt/support/StoryScreen.h"
+#include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace gfc::test {
 
 class InWindows : public ::testing::TestWithParam<Scenario> {};
 
-TEST_P(InWindows, plays) {
-    const Scenario& scenario = GetParam();
-    StoryScreen screen;
+namespace {
+
+void Play(const Scenario& scenario, StoryScreen& screen) {
     FakeProgram program(screen);
     scenario.Prepare(program);
     scenario.Tell(screen.TheStory);
@@ -20,7 +26,60 @@ TEST_P(InWindows, plays) {
     scenario.After(program);
 }
 
+} // namespace
+
+TEST_P(InWindows, plays) {
+    StoryScreen screen;
+    Play(GetParam(), screen);
+}
+
 INSTANTIATE_TEST_SUITE_P(Scenarios, InWindows, ::testing::ValuesIn(AllScenarios()),
                          [](const auto& scenario) { return scenario.param.Name; });
+
+class ByKeysAlone : public ::testing::TestWithParam<Scenario> {};
+
+TEST_P(ByKeysAlone, plays) {
+    StoryScreen screen(std::make_unique<KeyboardDriver>());
+    Play(GetParam(), screen);
+}
+
+namespace {
+
+// Another run's record is deliberately copied by the press of a mouse button alone; and nobody tabs past a
+// field that looks at another one.
+const std::set<std::string> withTheMouse{
+    "mechanical_parameters_by_hand_and_by_copy", "accelabar_parameters_by_hand_and_by_default",
+    "accelabar_parameters_are_checked_and_copied", "gas_composition_fields_check_each_other"};
+
+std::vector<Scenario> WithoutAMouse() {
+    auto scenarios = AllScenarios();
+    std::erase_if(scenarios, [](const Scenario& each) { return withTheMouse.contains(each.Name); });
+    return scenarios;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Scenarios, ByKeysAlone, ::testing::ValuesIn(WithoutAMouse()),
+                         [](const auto& scenario) { return scenario.param.Name; });
+
+// From the tree of the main window to the file, byte for byte.
+TEST(ByKeys, a_station_is_configured_from_splash_to_exit) {
+    const PassStory pass({.Standard = 0, .Source = 1, .Runs = {2, 5}});
+    StoryScreen screen(std::make_unique<KeyboardDriver>());
+    FakeProgram program(screen);
+    moves::ThreeStations(program);
+    moves::StartUp(screen.TheStory);
+    moves::OpenWizard(screen.TheStory, "North");
+    moves::SelectRuns(screen.TheStory, {2, 5});
+    screen.TheStory.Select("WizardFC", "CombStandard", 0).Select("WizardFC", "cbSourceGas", 1);
+    pass.WalkPages(screen.TheStory);
+    pass.Open(screen.TheStory);
+    pass.Through(screen.TheStory);
+    moves::SaveAndClose(screen.TheStory);
+    moves::Exit(screen.TheStory);
+    forms::StartProgram(program.Program);
+    screen.RunToEnd();
+    EXPECT_EQ(program.Files.Content[program.ConfigFile("North")], Golden("wizard/aga3_aga8_fixed.ini"));
+}
 
 } // namespace gfc::test

@@ -17,6 +17,10 @@ class TabbedPaneRenderer final : public WidgetRenderer<ui::TabbedPane, QTabWidge
 public:
     TabbedPaneRenderer(FormWindow& window, ui::TabbedPane& control, QTabWidget& widget)
         : WidgetRenderer(window, control, widget), bar_(*widget.tabBar()) {
+        // The bar alone is a stop of the Tab key: the widget around it would lead back to the bar, and what
+        // comes after both would never be reached.
+        widget.setFocusProxy(nullptr);
+        widget.setFocusPolicy(Qt::NoFocus);
         bar_.installEventFilter(this);
         QObject::connect(&widget, &QTabWidget::currentChanged, this, [this](int tab) { Select(tab); });
     }

@@ -1,6 +1,7 @@
 #include "qt/support/DialogAnswers.h"
 
 #include "qt/Texts.h"
+#include "qt/support/WindowDriver.h"
 
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -8,7 +9,6 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 #include <gtest/gtest.h>
 
 namespace gfc::test {
@@ -19,14 +19,14 @@ constexpr QMessageBox::StandardButton buttons[]{QMessageBox::Ok, QMessageBox::Ye
 constexpr QMessageBox::Icon icons[]{QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Question,
                                     QMessageBox::Warning, QMessageBox::Critical};
 
-void ClickButton(QDialog& dialog, QDialogButtonBox::StandardButton which) {
+void Press(WindowDriver& hands, QDialog& dialog, QDialogButtonBox::StandardButton which) {
     auto* box = dialog.findChild<QDialogButtonBox*>();
-    QTest::mouseClick(box->button(which), Qt::LeftButton);
+    hands.PressButton(*box->button(which));
 }
 
 } // namespace
 
-void Answer(QMessageBox& box, const ExpectedBox& expected) {
+void Answer(WindowDriver& hands, QMessageBox& box, const ExpectedBox& expected) {
     EXPECT_EQ(qt::FromQt(box.windowTitle()), expected.Title);
     if (!expected.Text.empty()) {
         EXPECT_EQ(qt::FromQt(box.text()), qt::FromQt(qt::LinesOf(expected.Text)));
@@ -36,24 +36,22 @@ void Answer(QMessageBox& box, const ExpectedBox& expected) {
     EXPECT_NE(button, nullptr) << "buttons of " << qPrintable(box.text());
     if (button == nullptr)
         button = box.escapeButton();
-    QTest::mouseClick(button, Qt::LeftButton);
+    hands.PressButton(*button);
 }
 
-void Answer(QFileDialog& dialog, const ExpectedFileChoice& expected) {
+void Answer(WindowDriver& hands, QFileDialog& dialog, const ExpectedFileChoice& expected) {
     if (!expected.Path)
-        return ClickButton(dialog, QDialogButtonBox::Cancel);
+        return Press(hands, dialog, QDialogButtonBox::Cancel);
     // The files of a test are not on this machine's disk.
     dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(qt::ToQt(*expected.Path));
-    ClickButton(dialog, QDialogButtonBox::Open);
+    hands.Fill(*dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), *expected.Path);
+    Press(hands, dialog, QDialogButtonBox::Open);
 }
 
-void Answer(QInputDialog& dialog, const ExpectedPrompt& expected) {
+void Answer(WindowDriver& hands, QInputDialog& dialog, const ExpectedPrompt& expected) {
     EXPECT_EQ(qt::FromQt(dialog.windowTitle()), expected.Title);
-    auto* field = dialog.findChild<QLineEdit*>();
-    field->selectAll();
-    QTest::keyClicks(field, qt::ToQt(expected.Answer));
-    ClickButton(dialog, expected.Answer.empty() ? QDialogButtonBox::Cancel : QDialogButtonBox::Ok);
+    hands.Fill(*dialog.findChild<QLineEdit*>(), expected.Answer);
+    Press(hands, dialog, expected.Answer.empty() ? QDialogButtonBox::Cancel : QDialogButtonBox::Ok);
 }
 
 } // namespace gfc::test

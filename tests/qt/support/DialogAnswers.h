@@ -6,11 +6,14 @@ class QFileDialog;
 class QInputDialog;
 class QMessageBox;
 
-// Each compares what stands there with what the story expects and answers with the dialog's own buttons.
+// Each compares what stands there with what the story expects and answers with the dialog's own fields and
+// buttons, which are in these hands.
 namespace gfc::test {
 
-void Answer(QMessageBox& box, const ExpectedBox& expected);
-void Answer(QFileDialog& dialog, const ExpectedFileChoice& expected);
-void Answer(QInputDialog& dialog, const ExpectedPrompt& expected);
+class WindowDriver;
+
+void Answer(WindowDriver& hands, QMessageBox& box, const ExpectedBox& expected);
+void Answer(WindowDriver& hands, QFileDialog& dialog, const ExpectedFileChoice& expected);
+void Answer(WindowDriver& hands, QInputDialog& dialog, const ExpectedPrompt& expected);
 
 } // namespace gfc::test

@@ -27,17 +27,31 @@ std::string Shown(const QDialog& dialog) {
 
 // True if the dialog is of that kind and the step is its answer.
 template <class D, class E>
-bool Answers(QDialog& dialog, const Story::Step& step) {
+bool Answers(WindowDriver& hands, QDialog& dialog, const Story::Step& step) {
     auto* itself = qobject_cast<D*>(&dialog);
     const auto* expected = std::get_if<E>(&step);
     if (itself != nullptr && expected != nullptr)
-        Answer(*itself, *expected);
+        Answer(hands, *itself, *expected);
     return itself != nullptr && expected != nullptr;
 }
 
 } // namespace
 
-StoryScreen::StoryScreen() = default;
+// While one lives, a step is being taken at the present loop level.
+class StoryScreen::Step {
+public:
+    explicit Step(std::vector<int>& steps) : steps_(steps) {
+        steps_.push_back(QThread::currentThread()->loopLevel());
+    }
+    ~Step() { steps_.pop_back(); }
+    Step(const Step&) = delete;
+    Step& operator=(const Step&) = delete;
+
+private:
+    std::vector<int>& steps_;
+};
+
+StoryScreen::StoryScreen(std::unique_ptr<WindowDriver> hands) : driver_(std::move(hands)) {}
 
 StoryScreen::~StoryScreen() {
     // A failure ends the program early; any other end must come where the story has it.
@@ -83,14 +97,14 @@ void StoryScreen::Idle() {
     if (InsideAStep())
         return;
     if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
-        return Meet(*dialog);
+        return driver_->Ready() ? Meet(*dialog) : void();
     const bool atBase = steps_.empty();
     if (atBase && (Ended() || TheStory.Done() || (whileShown_ && !AnyShown())))
         return base_->quit();
     if (Ended())
         return;
     if (!TheStory.Done())
-        return TakeStep();
+        return driver_->Ready() ? TakeStep() : void();
     ADD_FAILURE() << "the story ends while "
                   << (FormsShown.empty() ? std::string("a window") : FormsShown.back()) << " stands open";
     EndProgram(-1);
@@ -129,9 +143,10 @@ void StoryScreen::TakeAct(const Story::Act&) {
     sinceProgress_.start();
     if (BeforeStep)
         BeforeStep();
-    steps_.push_back(QThread::currentThread()->loopLevel());
-    std::get<Story::Act>(step).Do(driver_);
-    steps_.pop_back();
+    {
+        const Step going(steps_);
+        std::get<Story::Act>(step).Do(*driver_);
+    }
     // What follows the first failure tells nothing.
     if (::testing::Test::HasFailure())
         EndProgram(-1);
@@ -147,9 +162,10 @@ void StoryScreen::Meet(QDialog& dialog) {
         BeforeStep();
     if (step && !std::holds_alternative<Story::Act>(*step))
         (void)TheStory.Take();
-    if (step && (Answers<QMessageBox, ExpectedBox>(dialog, *step) ||
-                 Answers<QFileDialog, ExpectedFileChoice>(dialog, *step) ||
-                 Answers<QInputDialog, ExpectedPrompt>(dialog, *step)))
+    const Step going(steps_);
+    if (step && (Answers<QMessageBox, ExpectedBox>(*driver_, dialog, *step) ||
+                 Answers<QFileDialog, ExpectedFileChoice>(*driver_, dialog, *step) ||
+                 Answers<QInputDialog, ExpectedPrompt>(*driver_, dialog, *step)))
         return;
     ADD_FAILURE() << "nobody expected '" << Shown(dialog)
                   << "\nnext: " << (step ? Describe(*step) : "the end");

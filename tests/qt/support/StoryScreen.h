@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,11 +23,12 @@ namespace gfc::test {
 // failure, and so is a story that does not go on.
 class StoryScreen : public qt::QtScreen {
 public:
-    StoryScreen();
+    // With mouse and keys, unless told otherwise.
+    explicit StoryScreen(std::unique_ptr<WindowDriver> hands = std::make_unique<WindowDriver>());
     ~StoryScreen() override;
 
     Story TheStory;
-    [[nodiscard]] Driver& Hands() { return driver_; }
+    [[nodiscard]] Driver& Hands() { return *driver_; }
     // Takes steps until no window is shown, the story is over or the program has ended.
     void RunToEnd();
     // Takes all remaining steps, for a test in which the story follows an act.
@@ -50,6 +52,7 @@ public:
     void EndProgram(int exitCode) override;
 
 private:
+    class Step;
     void Play(bool whileShown);
     void IdleSoon();
     // Something may be done now, by whichever loop runs.
@@ -61,7 +64,7 @@ private:
     [[nodiscard]] bool Waited();
     void CheckProgress();
 
-    WindowDriver driver_;
+    std::unique_ptr<WindowDriver> driver_;
     QObject playing_; // lives as long as what is to be done at an idle moment may be
     QElapsedTimer sinceProgress_;
     QEventLoop* base_ = nullptr;

@@ -63,14 +63,13 @@ void Settle() {
         QCoreApplication::processEvents();
 }
 
-template <class W>
-W* WindowDriver::Usable(const std::string& form, const std::string& control) {
+QWidget* WindowDriver::UsableWidget(const std::string& form, const std::string& control) {
     QWidget* window = FindWindow(form);
-    auto* widget = FindIn<W>(window, control);
+    auto* widget = FindIn<QWidget>(window, control);
     EXPECT_NE(window, nullptr) << "no window " << form << " is shown";
     if (window == nullptr)
         return nullptr;
-    EXPECT_NE(widget, nullptr) << form << " has no " << control << " of that kind";
+    EXPECT_NE(widget, nullptr) << form << " has no " << control;
     EXPECT_FALSE(IsBlocked(*window)) << form << " is behind " << QApplication::activeModalWidget();
     if (widget == nullptr || IsBlocked(*window))
         return nullptr;
@@ -226,6 +225,14 @@ void WindowDriver::PressKey(const std::string& form, const std::string& key) {
     const Qt::Key code = key == "F1" ? Qt::Key_F1 : key == "Escape" ? Qt::Key_Escape : Qt::Key_Return;
     QTest::keyClick(at, code);
     Settle();
+}
+
+void WindowDriver::PressButton(QAbstractButton& button) {
+    QTest::mouseClick(&button, Qt::LeftButton);
+}
+
+void WindowDriver::Fill(QLineEdit& field, const std::string& text) {
+    field.setText(qt::ToQt(text));
 }
 
 void WindowDriver::CloseWindow(const std::string& form) {

@@ -3,11 +3,13 @@
 #include "support/Driver.h"
 
 #include <QString>
+#include <QWidget>
+#include <gtest/gtest.h>
 
+class QAbstractButton;
 class QAction;
 class QLineEdit;
 class QMenu;
-class QWidget;
 
 namespace gfc::test {
 
@@ -41,11 +43,26 @@ public:
     int Tab(const std::string& form, const std::string& pane) override;
     std::string Focused(const std::string& form) override;
 
-private:
+    // Whether the next act can be done now, or only once the platform has done its part.
+    [[nodiscard]] virtual bool Ready() const { return true; }
+    // In the dialogs that are none of the program's forms.
+    virtual void PressButton(QAbstractButton& button);
+    // Takes the place of what the field holds.
+    virtual void Fill(QLineEdit& field, const std::string& text);
+
+protected:
     // The widget if a person can use it now: shown, enabled, in a window that no other one blocks. Else null,
     // with a failure reported.
     template <class W>
-    W* Usable(const std::string& form, const std::string& control);
+    W* Usable(const std::string& form, const std::string& control) {
+        QWidget* widget = UsableWidget(form, control);
+        auto* fitting = dynamic_cast<W*>(widget);
+        EXPECT_EQ(widget == nullptr, fitting == nullptr) << form << "." << control << " is of another kind";
+        return fitting;
+    }
+
+private:
+    QWidget* UsableWidget(const std::string& form, const std::string& control);
     void PressNode(const std::string& form, const std::string& tree, const std::string& path,
                    Qt::MouseButton button);
     bool Enter(QLineEdit& field);
