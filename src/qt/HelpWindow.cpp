@@ -1,56 +1,257 @@
 #include "qt/HelpWindow.h"
 
-#include "qt/Icons.h"
-#include "qt/SideWindow.h"
-#include "qt/Texts.h"
+#include "qt/HelpView.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QDir>
-#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
-#include <QProcess>
-#include <QTextBrowser>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScreen>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QTreeWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace gfc::qt {
 
 namespace {
 
-QString PageOf(const std::string& file, int context) {
-    const QString book = QCoreApplication::translate("Help", "Help of the Gas Flow Computer Configurator");
-    const QString page = context == 0 ? QStringLiteral("Contents") : QStringLiteral("Page %1").arg(context);
-    return QStringLiteral("<h2>%1</h2><p><b>%2</b></p>"
-                          "<p>The manual <i>%3</i> is not installed beside this program. Look up page %4 "
-                          "in the manual that came with the package.</p>")
-        .arg(book.toHtmlEscaped(), page, ToQt(file).toHtmlEscaped(), QString::number(context));
+constexpr const char* windowName = "HelpWindow";
+constexpr int fileRole = Qt::UserRole;
+
+template <class W>
+W* WithNames(W* widget, const char* name, const QString& accessibleName) {
+    widget->setObjectName(name);
+    widget->setAccessibleName(accessibleName);
+    return widget;
+}
+
+QToolButton* Button(const char* name, const QString& text, Qt::ArrowType arrow) {
+    auto* button = WithNames(new QToolButton, name, text);
+    button->setText(text);
+    button->setArrowType(arrow);
+    button->setToolButtonStyle(arrow == Qt::NoArrow ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextBesideIcon);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+QSize FittingSize(const QWidget& window) {
+    constexpr QSize wished(960, 680);
+    const QScreen* screen = window.screen();
+    return screen == nullptr ? wished : wished.boundedTo(screen->availableSize() * 9 / 10);
 }
 
 } // namespace
 
-bool OpenMachineHelp([[maybe_unused]] const std::string& file, [[maybe_unused]] int context) {
-#ifdef Q_OS_WIN
-    const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(ToQt(file));
-    if (!QFileInfo::exists(path))
-        return false;
-    const QString mapped = context == 0 ? QStringLiteral("ms-its:%1") : QStringLiteral("-mapid %2 ms-its:%1");
-    const QString arguments = context == 0 ? mapped.arg(QDir::toNativeSeparators(path))
-                                           : mapped.arg(QDir::toNativeSeparators(path)).arg(context);
-    return QProcess::startDetached(QStringLiteral("hh.exe"), arguments.split(QLatin1Char(' ')));
-#else
-    return false;
-#endif
+HelpWindow::HelpWindow(const QString& folder)
+    : SideWindow(windowName), folder_(folder), book_(folder), view_(new HelpView(this)),
+      words_(new QLineEdit), found_(new QLabel), side_(new QStackedWidget), contents_(new QTreeWidget),
+      hits_(new QListWidget) {
+    setWindowTitle(QStringLiteral("Help"));
+    setAccessibleName(windowTitle());
+    WithNames(view_, "HelpPage", QStringLiteral("Page"));
+    WithNames(words_, "HelpWords", QStringLiteral("Search the manual"));
+    WithNames(found_, "HelpFound", QStringLiteral("Result of the search"));
+    WithNames(contents_, "HelpContents", QStringLiteral("Contents"));
+    WithNames(hits_, "HelpHits", QStringLiteral("Pages found"));
+    AddParts();
+    AddActions();
+    FillContents();
+    Follow();
+    resize(FittingSize(*this));
 }
 
-void ShowHelpWindow(const std::string& file, int context, QWidget* owner) {
-    SideWindow& window = SideWindow::Open("HelpWindow", owner);
-    window.setWindowTitle(QStringLiteral("Help"));
-    window.setProperty("context", context);
-    window.setProperty("file", ToQt(file));
-    auto* page = new QTextBrowser(&window);
-    page->setObjectName("HelpPage");
-    page->setAccessibleName(QStringLiteral("Help page"));
-    page->setHtml(PageOf(file, context));
-    window.Fill(*page, QSize(520, 360));
+void HelpWindow::AddParts() {
+    auto* whole = new QVBoxLayout(this);
+    AddBar(*whole);
+    auto* split = new QSplitter(this);
+    auto* left = new QWidget(split);
+    auto* side = new QVBoxLayout(left);
+    side->setContentsMargins(0, 0, 0, 0);
+    AddSide(*side);
+    split->addWidget(view_);
+    split->setChildrenCollapsible(false);
+    split->setStretchFactor(1, 1);
+    const int narrow = fontMetrics().averageCharWidth() * 38;
+    split->setSizes({narrow, width() - narrow});
+    whole->addWidget(split, 1);
+    setTabOrder(contents_, hits_);
+    setTabOrder(hits_, view_);
+}
+
+void HelpWindow::AddBar(QBoxLayout& whole) {
+    auto* bar = new QHBoxLayout;
+    auto* back = Button("HelpBack", QStringLiteral("Back"), Qt::LeftArrow);
+    auto* forward = Button("HelpForward", QStringLiteral("Forward"), Qt::RightArrow);
+    auto* home = Button("HelpHome", QStringLiteral("Contents"), Qt::NoArrow);
+    words_->setPlaceholderText(QStringLiteral("Search the manual (Ctrl+F)"));
+    words_->setClearButtonEnabled(true);
+    for (QWidget* part : std::initializer_list<QWidget*>{back, forward, home})
+        bar->addWidget(part);
+    bar->addWidget(words_, 1);
+    whole.addLayout(bar);
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(view_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(view_, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+    connect(back, &QToolButton::clicked, view_, &QTextBrowser::backward);
+    connect(forward, &QToolButton::clicked, view_, &QTextBrowser::forward);
+    connect(home, &QToolButton::clicked, this, [this] { ShowContext(0); });
+}
+
+void HelpWindow::AddSide(QBoxLayout& side) {
+    contents_->setHeaderHidden(true);
+    hits_->setWordWrap(true);
+    hits_->setTextElideMode(Qt::ElideNone);
+    side_->addWidget(contents_);
+    side_->addWidget(hits_);
+    found_->setWordWrap(true);
+    found_->hide();
+    side.addWidget(found_);
+    side.addWidget(side_);
+}
+
+void HelpWindow::AddAction(const QString& name, const QKeySequence& key, std::function<void()> act) {
+    auto* action = new QAction(name, this);
+    action->setShortcut(key);
+    connect(action, &QAction::triggered, this, std::move(act));
+    addAction(action);
+}
+
+void HelpWindow::AddActions() {
+    AddAction(QStringLiteral("Contents"), Qt::Key_F1, [this] { ShowContext(0); });
+    AddAction(QStringLiteral("Back"), QKeySequence::Back, [this] { view_->backward(); });
+    AddAction(QStringLiteral("Forward"), QKeySequence::Forward, [this] { view_->forward(); });
+    AddAction(QStringLiteral("Search"), QKeySequence::Find, [this] {
+        words_->setFocus();
+        words_->selectAll();
+    });
+    AddAction(QStringLiteral("Next"), Qt::Key_F3, [this] { view_->GoToMark(false); });
+    AddAction(QStringLiteral("Previous"), Qt::SHIFT | Qt::Key_F3, [this] { view_->GoToMark(true); });
+    AddAction(QStringLiteral("Larger"), QKeySequence::ZoomIn, [this] { view_->zoomIn(); });
+    AddAction(QStringLiteral("Smaller"), QKeySequence::ZoomOut, [this] { view_->zoomOut(); });
+}
+
+void HelpWindow::FillContents() {
+    std::vector<QTreeWidgetItem*> above;
+    for (const HelpPage& page : book_.Pages()) {
+        above.resize(std::min(above.size(), static_cast<std::size_t>(page.Level)));
+        auto* item = above.empty() ? new QTreeWidgetItem(contents_) : new QTreeWidgetItem(above.back());
+        item->setText(0, page.Title);
+        item->setToolTip(0, page.Title);
+        item->setData(0, fileRole, page.File);
+        above.push_back(item);
+    }
+    contents_->expandAll();
+}
+
+void HelpWindow::Follow() {
+    connect(contents_, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* item) { ShowItem(item); });
+    connect(view_, &QTextBrowser::sourceChanged, this, &HelpWindow::SelectShown);
+    connect(words_, &QLineEdit::textChanged, this, &HelpWindow::Search);
+    connect(words_, &QLineEdit::returnPressed, this, &HelpWindow::EnterHits);
+    const auto show = [this](const QListWidgetItem* hit) {
+        if (hit != nullptr)
+            ShowFile(hit->data(fileRole).toString());
+    };
+    connect(hits_, &QListWidget::currentItemChanged, this, show);
+    connect(hits_, &QListWidget::itemClicked, this, show);
+    // A page that was found opens where the words first stand.
+    connect(hits_, &QListWidget::currentItemChanged, view_, [this] { view_->GoToMark(false); });
+}
+
+void HelpWindow::ShowItem(const QTreeWidgetItem* item) {
+    if (item != nullptr)
+        ShowFile(item->data(0, fileRole).toString());
+}
+
+void HelpWindow::ShowFile(const QString& file) {
+    const QUrl page = QUrl::fromLocalFile(QDir(folder_).filePath(file));
+    if (view_->source().adjusted(QUrl::RemoveFragment) != page)
+        view_->setSource(page);
+}
+
+void HelpWindow::ShowContext(int context) {
+    setProperty("context", context);
+    const HelpPage* page = book_.PageOf(context);
+    if (page == nullptr)
+        return SayThatThereIsNone();
+    words_->clear();
+    ShowFile(page->File);
+    view_->setFocus();
+}
+
+void HelpWindow::SelectShown(const QUrl& source) {
+    const QString file = source.fileName();
+    for (QTreeWidgetItemIterator at(contents_); *at != nullptr; ++at)
+        if ((*at)->data(0, fileRole).toString() == file)
+            contents_->setCurrentItem(*at);
+    const HelpPage* page = book_.PageIn(file);
+    setWindowTitle(page == nullptr ? QStringLiteral("Help") : QStringLiteral("Help: ") + page->Title);
+}
+
+void HelpWindow::Search(const QString& words) {
+    const bool any = !WordsOf(words).isEmpty();
+    view_->Mark(WordsOf(words));
+    found_->setVisible(any);
+    side_->setCurrentWidget(any ? static_cast<QWidget*>(hits_) : contents_);
+    ShowHits(words);
+}
+
+void HelpWindow::ShowHits(const QString& words) {
+    const QSignalBlocker quiet(hits_);
+    hits_->clear();
+    const auto hits = book_.Find(words);
+    for (const HelpHit& hit : hits) {
+        auto* item = new QListWidgetItem(hit.Page->Title + QLatin1Char('\n') + hit.Around, hits_);
+        item->setData(fileRole, hit.Page->File);
+    }
+    const auto count = static_cast<int>(hits.size());
+    found_->setText(count == 0   ? QStringLiteral("No page has these words.")
+                    : count == 1 ? QStringLiteral("1 page found")
+                                 : QStringLiteral("%1 pages found").arg(count));
+}
+
+void HelpWindow::EnterHits() {
+    if (hits_->count() == 0)
+        return;
+    hits_->setFocus();
+    hits_->setCurrentRow(0);
+}
+
+void HelpWindow::SayThatThereIsNone() {
+    side_->hide();
+    words_->setEnabled(false);
+    view_->setHtml(
+        QStringLiteral(
+            "<h2>The manual is not installed</h2><p>Its pages belong in the folder</p><p><b>%1</b></p>"
+            "<p>Install the program again, or put the folder <i>manual</i> of its package there. "
+            "The program itself works without it.</p>")
+            .arg(QDir::toNativeSeparators(folder_).toHtmlEscaped()));
+}
+
+QString ManualFolder() {
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("manual"));
+}
+
+void ShowHelpWindow(const QString& folder, int context, QWidget* owner) {
+    auto* window = dynamic_cast<HelpWindow*>(SideWindow::Named(windowName));
+    // It deletes itself when it is closed.
+    if (window == nullptr)
+        window = new HelpWindow(folder);
+    window->StandOver(owner);
+    window->ShowContext(context);
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 } // namespace gfc::qt

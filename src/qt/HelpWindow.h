@@ -1,16 +1,60 @@
 #pragma once
 
-#include <string>
+#include "qt/HelpBook.h"
+#include "qt/SideWindow.h"
 
-class QWidget;
+class QBoxLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QStackedWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+class QUrl;
 
 namespace gfc::qt {
 
-// Opens the page in the machine's own help viewer; false if it has none, or if the file is not there.
-[[nodiscard]] bool OpenMachineHelp(const std::string& file, int context);
+class HelpView;
 
-// Says which page of the help is meant, in a window that can be read while its owner, which may be modal,
-// goes on. One such window at a time; context 0 is the contents page.
-void ShowHelpWindow(const std::string& file, int context, QWidget* owner);
+// The manual beside the program: contents and search at the left, the page at the right.
+class HelpWindow : public SideWindow {
+public:
+    explicit HelpWindow(const QString& folder);
+
+    // Context 0 is the contents page; so is a number that leads nowhere.
+    void ShowContext(int context);
+
+private:
+    void AddParts();
+    void AddBar(QBoxLayout& whole);
+    void AddSide(QBoxLayout& side);
+    void AddActions();
+    void AddAction(const QString& name, const QKeySequence& key, std::function<void()> act);
+    void FillContents();
+    void Follow();
+    void Search(const QString& words);
+    void ShowHits(const QString& words);
+    void ShowFile(const QString& file);
+    void ShowItem(const QTreeWidgetItem* item);
+    void EnterHits();
+    // The page that is shown is the one that is selected in the contents, also after a link or Back.
+    void SelectShown(const QUrl& source);
+    void SayThatThereIsNone();
+
+    QString folder_;
+    HelpBook book_;
+    HelpView* view_;
+    QLineEdit* words_;
+    QLabel* found_;
+    QStackedWidget* side_;
+    QTreeWidget* contents_;
+    QListWidget* hits_;
+};
+
+// Beside the program itself.
+[[nodiscard]] QString ManualFolder();
+
+// Opens the help window at this page, or turns the one that is open to it, and puts it over its owner.
+void ShowHelpWindow(const QString& folder, int context, QWidget* owner);
 
 } // namespace gfc::qt

@@ -1,6 +1,7 @@
 #include "qt/QtScreen.h"
 
 #include "qt/FormWindow.h"
+#include "qt/SideWindow.h"
 #include "qt/Waiting.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ QtScreen::QtScreen(Viewer viewer) : viewer_(std::move(viewer)) {}
 QtScreen::~QtScreen() {
     for (const auto& [form, window] : windows_)
         delete window;
+    SideWindow::DeleteAll();
 }
 
 int QtScreen::Run() {

@@ -1,6 +1,7 @@
 #include "qt/FormWindow.h"
 #include "qt/HelpWindow.h"
 #include "qt/Icons.h"
+#include "qt/MachineHelp.h"
 #include "qt/QtScreen.h"
 #include "qt/TextWindow.h"
 #include "qt/Texts.h"
@@ -121,7 +122,7 @@ void QtScreen::OpenHelp(const std::string& file, int context) {
     // The help is looked for beside the program, and whatever the helper looks for is found there too.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     if (!ended_ && !OpenMachineHelp(file, context))
-        ShowHelpWindow(file, context, TopWindow());
+        ShowHelpWindow(ManualFolder(), context, TopWindow());
 }
 
 bool QtScreen::ViewText(const std::string& path, ui::WindowState state) {

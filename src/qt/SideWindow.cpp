@@ -9,23 +9,48 @@
 
 namespace gfc::qt {
 
-SideWindow& SideWindow::Open(const char* name, QWidget* owner) {
+SideWindow::SideWindow(const char* name) {
+    setObjectName(name);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowIcon(IconNamed("App"));
+    (void)winId();
+}
+
+SideWindow* SideWindow::Named(const char* name) {
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String(name))
-            window->close();
-    // It goes when it is closed, and with the program at the latest.
-    auto* window = new SideWindow;
-    window->setObjectName(name);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->setAttribute(Qt::WA_QuitOnClose, false);
-    window->setWindowIcon(IconNamed("App"));
-    (void)window->winId();
-    // Over its owner, or a modal owner would keep it from being used.
+        if (window->objectName() == QLatin1String(name) && window->isVisible())
+            return dynamic_cast<SideWindow*>(window);
+    return nullptr;
+}
+
+SideWindow& SideWindow::Open(const char* name, QWidget* owner) {
+    if (SideWindow* open = Named(name); open != nullptr)
+        open->close();
+    auto* window = new SideWindow(name);
+    window->StandOver(owner);
+    return *window;
+}
+
+void SideWindow::DeleteAll() {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* side = dynamic_cast<SideWindow*>(window); side != nullptr)
+            delete side;
+}
+
+void SideWindow::StandOver(QWidget* owner) {
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* under = modal == nullptr ? owner : modal;
-    if (under != nullptr && under->windowHandle() != nullptr)
-        window->windowHandle()->setTransientParent(under->windowHandle());
-    return *window;
+    StandOver(under == nullptr ? nullptr : under->windowHandle());
+}
+
+void SideWindow::StandOver(QWindow* under) {
+    if (under_ != nullptr)
+        under_->removeEventFilter(this);
+    under_ = under;
+    if (under_ != nullptr)
+        under_->installEventFilter(this);
+    windowHandle()->setTransientParent(under);
 }
 
 void SideWindow::Fill(QWidget& content, QSize size) {
@@ -36,11 +61,34 @@ void SideWindow::Fill(QWidget& content, QSize size) {
     activateWindow();
 }
 
+// A modal window that has just opened keeps all others from being used but those that stand over it.
+bool SideWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowBlocked)
+        StandOver(QGuiApplication::modalWindow());
+    return QWidget::event(event);
+}
+
+// What it stood over goes: the modal window below that one, if there is any, would block it unasked.
+bool SideWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == under_ && event->type() == QEvent::Hide) {
+        QWindow* below = QGuiApplication::modalWindow();
+        StandOver(below == nullptr ? under_->transientParent() : below);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void SideWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         close();
     else
         QWidget::keyPressEvent(event);
+}
+
+// Not every window manager gives the focus back to where it was.
+void SideWindow::closeEvent(QCloseEvent* event) {
+    QWidget::closeEvent(event);
+    if (under_ != nullptr && under_->isVisible() && isActiveWindow())
+        under_->requestActivate();
 }
 
 } // namespace gfc::qt

@@ -13,7 +13,6 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTextBrowser>
 #include <QTimer>
 #include <QTreeView>
 
@@ -183,32 +182,6 @@ TEST_F(Windows, take_a_box_closed_without_an_answer_for_its_last_button) {
         EXPECT_EQ(Screen.Ask({.Title = "Title", .Text = "Text", .TheButtons = buttons}),
                   buttons == ui::Buttons::Ok ? ui::Answer::Ok : ui::Answer::No);
     }
-}
-
-TEST_F(Windows, open_the_help_of_a_box_and_leave_the_box_open) {
-    bool stayed = false;
-    OnBox([&stayed](QMessageBox& box) {
-        QTest::mouseClick(box.button(QMessageBox::Help), Qt::LeftButton);
-        stayed = box.isVisible();
-        const QWidget* help = FindWindow("HelpWindow");
-        ASSERT_NE(help, nullptr);
-        EXPECT_EQ(help->property("context").toInt(), 7300);
-        EXPECT_EQ(help->windowHandle()->transientParent(), box.windowHandle());
-        QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
-    });
-    (void)Screen.Ask({.Title = "Title", .Text = "Text", .HelpContext = 7300, .HelpFile = "AGA.chm"});
-    EXPECT_TRUE(stayed);
-}
-
-TEST_F(Windows, show_which_page_of_the_help_is_meant) {
-    Screen.OpenHelp("AGA.chm", 2300);
-    Screen.OpenHelp("AGA.chm", 3000);
-    QWidget* help = FindWindow("HelpWindow");
-    ASSERT_NE(help, nullptr);
-    const auto* page = help->findChild<QTextBrowser*>();
-    EXPECT_TRUE(page->toPlainText().contains("3000")) << qPrintable(page->toPlainText());
-    QTest::keyClick(help, Qt::Key_Escape);
-    EXPECT_EQ(FindWindow("HelpWindow"), nullptr);
 }
 
 TEST_F(Windows, show_a_text_themselves_where_no_viewer_does) {

@@ -1,0 +1,83 @@
+#include "qt/HelpView.h"
+
+#include <QEvent>
+#include <QScrollBar>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace gfc::qt {
+
+HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
+    setOpenExternalLinks(false);
+    setFrameShape(QFrame::StyledPanel);
+    document()->setDocumentMargin(fontMetrics().averageCharWidth() * 2);
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpView::ShowMarks);
+}
+
+void HelpView::Mark(const QStringList& words) {
+    words_ = words;
+    ShowMarks();
+}
+
+void HelpView::ShowMarks() {
+    QList<QTextEdit::ExtraSelection> marks;
+    for (const QString& word : words_)
+        for (QTextCursor at = document()->find(word); !at.isNull(); at = document()->find(word, at)) {
+            QTextEdit::ExtraSelection mark{at, {}};
+            mark.format.setBackground(palette().highlight());
+            mark.format.setForeground(palette().highlightedText());
+            marks.append(mark);
+        }
+    std::sort(marks.begin(), marks.end(), [](const auto& left, const auto& right) {
+        return left.cursor.selectionStart() < right.cursor.selectionStart();
+    });
+    setExtraSelections(marks);
+}
+
+void HelpView::GoToMark(bool backward) {
+    const auto marks = extraSelections();
+    if (marks.isEmpty())
+        return;
+    const int here = textCursor().selectionStart();
+    const bool started = textCursor().hasSelection();
+    qsizetype next = backward ? marks.size() - 1 : 0;
+    for (qsizetype i = 0; i < marks.size(); ++i) {
+        const int start = marks[i].cursor.selectionStart();
+        if (backward && start < here)
+            next = i;
+        if (!backward && (start > here || (!started && start == here))) {
+            next = i;
+            break;
+        }
+    }
+    setTextCursor(marks[next].cursor);
+    ensureCursorVisible();
+}
+
+// A line of some seventy characters is read without losing the next one.
+void HelpView::FitLines() {
+    constexpr int readable = 78;
+    const int wide = fontMetrics().averageCharWidth() * readable;
+    setLineWrapMode(QTextEdit::FixedPixelWidth);
+    setLineWrapColumnOrWidth(std::min(wide, viewport()->width()));
+}
+
+void HelpView::resizeEvent(QResizeEvent* event) {
+    QTextBrowser::resizeEvent(event);
+    FitLines();
+}
+
+// Colours of the pages come from the palette, which may change while they are shown.
+void HelpView::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && source().isValid()) {
+        const int at = verticalScrollBar()->value();
+        reload();
+        verticalScrollBar()->setValue(at);
+    }
+    if (event->type() == QEvent::FontChange)
+        FitLines();
+}
+
+} // namespace gfc::qt

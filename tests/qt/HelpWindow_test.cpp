@@ -1,0 +1,322 @@
+#include "qt/HelpView.h"
+#include "qt/HelpWindow.h"
+#include "qt/WindowFixture.h"
+#include "support/TempFolder.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QWindow>
+
+#include <functional>
+#include <set>
+
+namespace gfc::test {
+
+namespace {
+
+// Goes the way of a real click: a window that is blocked by a modal one does not get it.
+void ClickOn(QWidget* widget, QPoint at) {
+    QWidget* window = widget->window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, at));
+    Settle();
+}
+
+void ClickOn(QWidget* widget) {
+    ClickOn(widget, widget->rect().center());
+}
+
+void Press(QWidget* window, int key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(key), modifiers);
+    Settle();
+}
+
+void InModal(std::function<void()> act) {
+    QTimer::singleShot(1, qApp, std::move(act));
+}
+
+} // namespace
+
+class HelpWindows : public ProbeInWindow {
+protected:
+    HelpWindows() {
+        Folder.Put("contents.txt", "index.html 0\n  plate.html 5100\n  meter.html 7400\n");
+        Put("index", "Welcome", "<a href=\"plate.html\">Go to the plate</a>");
+        Put("plate", "Plate", "An orifice plate. A sharp orifice.");
+        Put("meter", "Meter", "No moving part, no orifice");
+    }
+    void Put(const std::string& name, const std::string& title, const std::string& text) {
+        Folder.Put(name + ".html",
+                   "<html><head><title>" + title + "</title></head><body><p>" + text + "</p></body></html>");
+    }
+    void Open(int context) {
+        qt::ShowHelpWindow(QString::fromStdString(Folder.Path()), context, &Window());
+        Settle();
+    }
+    [[nodiscard]] static QWidget* Help() { return FindWindow("HelpWindow"); }
+    template <class W>
+    [[nodiscard]] static W& Part(const char* name) {
+        return *FindIn<W>(Help(), name);
+    }
+    [[nodiscard]] static QString Shown() { return Part<qt::HelpView>("HelpPage").source().fileName(); }
+    // All that a person does with the help works, by mouse and by key.
+    static void ExpectUsable() {
+        ClickOn(&Part<QToolButton>("HelpHome"));
+        EXPECT_EQ(Shown(), "index.html");
+        auto& contents = Part<QTreeWidget>("HelpContents");
+        ClickOn(contents.viewport(), contents.visualItemRect(contents.topLevelItem(0)->child(1)).center());
+        EXPECT_EQ(Shown(), "meter.html");
+        ClickOn(&Part<QLineEdit>("HelpWords"));
+        Press(Help(), Qt::Key_S);
+        EXPECT_EQ(Part<QLineEdit>("HelpWords").text(), "s");
+        Part<QLineEdit>("HelpWords").clear();
+    }
+
+    TempFolder Folder;
+};
+
+TEST_F(HelpWindows, open_at_the_page_of_the_number) {
+    Open(7400);
+    ASSERT_NE(Help(), nullptr);
+    EXPECT_EQ(Shown(), "meter.html");
+    EXPECT_EQ(Help()->windowTitle(), "Help: Meter");
+    EXPECT_EQ(Part<QTreeWidget>("HelpContents").currentItem()->text(0), "Meter");
+    EXPECT_TRUE(Part<qt::HelpView>("HelpPage").hasFocus());
+}
+
+TEST_F(HelpWindows, turn_to_another_page_where_they_stand) {
+    Open(7400);
+    const QWidget* first = Help();
+    Open(5100);
+    EXPECT_EQ(Help(), first);
+    EXPECT_EQ(Shown(), "plate.html");
+}
+
+TEST_F(HelpWindows, follow_links_and_go_back_and_forward) {
+    Open(0);
+    EXPECT_FALSE(Part<QToolButton>("HelpBack").isEnabled());
+    Press(Help(), Qt::Key_Tab);
+    Press(Help(), Qt::Key_Return);
+    EXPECT_EQ(Shown(), "plate.html");
+    EXPECT_EQ(Part<QTreeWidget>("HelpContents").currentItem()->text(0), "Plate");
+    ClickOn(&Part<QToolButton>("HelpBack"));
+    EXPECT_EQ(Shown(), "index.html");
+    EXPECT_EQ(Part<QTreeWidget>("HelpContents").currentItem()->text(0), "Welcome");
+    ClickOn(&Part<QToolButton>("HelpForward"));
+    EXPECT_EQ(Shown(), "plate.html");
+    Press(Help(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(Shown(), "index.html");
+}
+
+TEST_F(HelpWindows, show_the_page_that_the_arrows_select) {
+    Open(0);
+    Part<QTreeWidget>("HelpContents").setFocus();
+    Press(Help(), Qt::Key_Down);
+    EXPECT_EQ(Shown(), "plate.html");
+}
+
+TEST_F(HelpWindows, find_words_while_they_are_typed) {
+    Open(0);
+    Press(Help(), Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(Part<QLineEdit>("HelpWords").hasFocus());
+    for (const char key : std::string("ORIFICE"))
+        Press(Help(), key);
+    auto& hits = Part<QListWidget>("HelpHits");
+    EXPECT_TRUE(hits.isVisible());
+    EXPECT_EQ(Part<QLabel>("HelpFound").text(), "2 pages found");
+    ASSERT_EQ(hits.count(), 2);
+    EXPECT_EQ(hits.item(0)->text(), "Plate\nAn orifice plate. A sharp orifice.");
+    EXPECT_EQ(Shown(), "index.html");
+}
+
+TEST_F(HelpWindows, show_a_page_that_was_found_with_its_words_marked) {
+    Open(0);
+    auto& page = Part<qt::HelpView>("HelpPage");
+    Part<QLineEdit>("HelpWords").setFocus();
+    QTest::keyClicks(&Part<QLineEdit>("HelpWords"), "orifice");
+    Press(Help(), Qt::Key_Return);
+    EXPECT_EQ(Shown(), "plate.html");
+    EXPECT_EQ(page.Marks(), 2);
+    EXPECT_EQ(page.textCursor().selectionStart(), 3);
+    Press(Help(), Qt::Key_F3);
+    EXPECT_EQ(page.textCursor().selectionStart(), 26);
+    Press(Help(), Qt::Key_F3);
+    EXPECT_EQ(page.textCursor().selectionStart(), 3);
+    Press(Help(), Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(page.textCursor().selectionStart(), 26);
+    Press(Help(), Qt::Key_Down);
+    EXPECT_EQ(Shown(), "meter.html");
+    EXPECT_EQ(page.Marks(), 1);
+}
+
+TEST_F(HelpWindows, say_that_no_page_has_the_words) {
+    Open(0);
+    QTest::keyClicks(&Part<QLineEdit>("HelpWords"), "xylophone");
+    EXPECT_EQ(Part<QLabel>("HelpFound").text(), "No page has these words.");
+    Press(Help(), Qt::Key_Return);
+    EXPECT_EQ(Shown(), "index.html");
+    Part<QLineEdit>("HelpWords").clear();
+    EXPECT_TRUE(Part<QTreeWidget>("HelpContents").isVisible());
+    EXPECT_FALSE(Part<QLabel>("HelpFound").isVisible());
+}
+
+TEST_F(HelpWindows, forget_the_search_when_the_program_asks_for_a_page) {
+    Open(0);
+    QTest::keyClicks(&Part<QLineEdit>("HelpWords"), "orifice");
+    Open(5100);
+    EXPECT_TRUE(Part<QLineEdit>("HelpWords").text().isEmpty());
+    EXPECT_TRUE(Part<QTreeWidget>("HelpContents").isVisible());
+    EXPECT_EQ(Part<qt::HelpView>("HelpPage").Marks(), 0);
+}
+
+TEST_F(HelpWindows, go_to_the_contents_on_F1_and_close_on_Escape) {
+    Open(7400);
+    Press(Help(), Qt::Key_F1);
+    EXPECT_EQ(Shown(), "index.html");
+    Press(Help(), Qt::Key_Escape);
+    EXPECT_EQ(Help(), nullptr);
+    EXPECT_TRUE(Form->IsShown());
+}
+
+TEST_F(HelpWindows, close_on_Escape_wherever_the_focus_is) {
+    for (const char* part : {"HelpPage", "HelpContents", "HelpWords", "HelpHome"}) {
+        Open(0);
+        Part<QWidget>(part).setFocus();
+        Press(Help(), Qt::Key_Escape);
+        EXPECT_EQ(Help(), nullptr) << part;
+    }
+}
+
+TEST_F(HelpWindows, let_the_forms_be_used) {
+    Open(0);
+    ClickOn(&Widget<QPushButton>("go"));
+    EXPECT_THAT(Form->Log, ::testing::Contains("go"));
+    EXPECT_NE(Help(), nullptr);
+}
+
+TEST_F(HelpWindows, stay_usable_when_a_modal_window_opens) {
+    Open(5100);
+    auto second = std::make_shared<ProbeForm>(Screen, "Second");
+    InModal([&] {
+        ClickOn(&Widget<QPushButton>("go"));
+        EXPECT_THAT(Form->Log, ::testing::Not(::testing::Contains("go"))) << "nothing blocks the first form";
+        ExpectUsable();
+        EXPECT_TRUE(second->IsShown());
+        second->Unload();
+    });
+    second->ShowModal();
+    ASSERT_NE(Help(), nullptr);
+    ExpectUsable();
+}
+
+TEST_F(HelpWindows, opened_over_a_modal_window_outlive_it) {
+    auto second = std::make_shared<ProbeForm>(Screen, "Second");
+    InModal([&] {
+        Open(5100);
+        ExpectUsable();
+        second->Unload();
+    });
+    second->ShowModal();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_NE(Help(), nullptr);
+    ExpectUsable();
+}
+
+TEST_F(HelpWindows, stay_usable_through_a_chain_of_modal_windows) {
+    Open(0);
+    auto second = std::make_shared<ProbeForm>(Screen, "Second");
+    InModal([&] {
+        InModal([&] {
+            ExpectUsable();
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            ClickOn(box->button(QMessageBox::Ok));
+        });
+        (void)Screen.Ask({.Title = "Title", .Text = "Text"});
+        ExpectUsable();
+        second->Unload();
+    });
+    second->ShowModal();
+    ExpectUsable();
+}
+
+TEST_F(HelpWindows, open_from_the_help_button_of_a_box_and_leave_it_open) {
+    bool stayed = false;
+    InModal([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        ClickOn(box->button(QMessageBox::Help));
+        stayed = box->isVisible();
+        ASSERT_NE(Help(), nullptr);
+        EXPECT_EQ(Help()->property("context").toInt(), 7300);
+        EXPECT_EQ(Help()->windowHandle()->transientParent(), box->windowHandle());
+        ClickOn(&Part<QToolButton>("HelpHome"));
+        Press(Help(), Qt::Key_Escape);
+        EXPECT_EQ(Help(), nullptr);
+        Press(box, Qt::Key_F1);
+        EXPECT_NE(Help(), nullptr);
+        ClickOn(box->button(QMessageBox::Ok));
+    });
+    (void)Screen.Ask({.Title = "Title", .Text = "Text", .HelpContext = 7300, .HelpFile = "AGA.chm"});
+    EXPECT_TRUE(stayed);
+}
+
+TEST_F(HelpWindows, say_where_the_manual_belongs_if_it_is_missing) {
+    qt::ShowHelpWindow(QString::fromStdString(Folder.Path("nowhere")), 3000, &Window());
+    const QString text = Part<qt::HelpView>("HelpPage").toPlainText();
+    EXPECT_TRUE(text.contains("The manual is not installed")) << qPrintable(text);
+    EXPECT_TRUE(text.contains("nowhere")) << qPrintable(text);
+    EXPECT_FALSE(Part<QTreeWidget>("HelpContents").isVisible());
+    Press(Help(), Qt::Key_Escape);
+    EXPECT_EQ(Help(), nullptr);
+}
+
+TEST_F(HelpWindows, go_with_the_screen) {
+    auto screen = std::make_unique<qt::QtScreen>();
+    screen->OpenHelp("AGA.chm", 0);
+    ASSERT_NE(Help(), nullptr);
+    screen.reset();
+    EXPECT_EQ(Help(), nullptr);
+}
+
+TEST_F(HelpWindows, name_each_part_for_readers) {
+    Open(0);
+    for (const QWidget* part : Help()->findChildren<QWidget*>())
+        if (part->focusPolicy() != Qt::NoFocus && part->objectName().startsWith("Help")) {
+            EXPECT_FALSE(part->accessibleName().isEmpty()) << qPrintable(part->objectName());
+        }
+    EXPECT_FALSE(Help()->accessibleName().isEmpty());
+}
+
+TEST_F(HelpWindows, are_walked_by_Tab_from_the_top_to_the_page) {
+    Open(5100);
+    Press(Help(), Qt::Key_F, Qt::ControlModifier);
+    QStringList order;
+    for (int i = 0; i < 4; ++i) {
+        order << QApplication::focusWidget()->objectName();
+        Press(Help(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, (QStringList{"HelpWords", "HelpContents", "HelpPage", "HelpHome"}));
+}
+
+TEST_F(HelpWindows, keep_their_lines_short_in_a_wide_window) {
+    Put("plate", "Plate", std::string(4000, 'w').replace(100, 1, " "));
+    Open(5100);
+    Help()->resize(1800, 600);
+    Settle();
+    const auto& page = Part<qt::HelpView>("HelpPage");
+    EXPECT_LT(page.lineWrapColumnOrWidth(), 900);
+    Help()->resize(500, 600);
+    Settle();
+    EXPECT_LE(page.lineWrapColumnOrWidth(), page.viewport()->width());
+}
+
+} // namespace gfc::test
