@@ -55,9 +55,9 @@ void HelpView::GoToMark(bool backward) {
     ensureCursorVisible();
 }
 
-// A line of some seventy characters is read without losing the next one.
+// A line of some ninety characters is still read without losing the next one.
 void HelpView::FitLines() {
-    constexpr int readable = 78;
+    constexpr int readable = 100; // averages of the font, which counts its wide letters too
     const int wide = fontMetrics().averageCharWidth() * readable;
     setLineWrapMode(QTextEdit::FixedPixelWidth);
     setLineWrapColumnOrWidth(std::min(wide, viewport()->width()));

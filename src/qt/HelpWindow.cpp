@@ -63,9 +63,9 @@ HelpWindow::HelpWindow(const QString& folder)
     WithNames(hits_, "HelpHits", QStringLiteral("Pages found"));
     AddParts();
     AddActions();
+    resize(FittingSize(*this));
     FillContents();
     Follow();
-    resize(FittingSize(*this));
 }
 
 void HelpWindow::AddParts() {
@@ -79,8 +79,6 @@ void HelpWindow::AddParts() {
     split->addWidget(view_);
     split->setChildrenCollapsible(false);
     split->setStretchFactor(1, 1);
-    const int narrow = fontMetrics().averageCharWidth() * 38;
-    split->setSizes({narrow, width() - narrow});
     whole->addWidget(split, 1);
     setTabOrder(contents_, hits_);
     setTabOrder(hits_, view_);
@@ -140,6 +138,7 @@ void HelpWindow::AddActions() {
 }
 
 void HelpWindow::FillContents() {
+    int titles = 0;
     std::vector<QTreeWidgetItem*> above;
     for (const HelpPage& page : book_.Pages()) {
         above.resize(std::min(above.size(), static_cast<std::size_t>(page.Level)));
@@ -148,8 +147,12 @@ void HelpWindow::FillContents() {
         item->setToolTip(0, page.Title);
         item->setData(0, fileRole, page.File);
         above.push_back(item);
+        const int inset = contents_->indentation() * static_cast<int>(above.size());
+        titles = std::max(titles, inset + fontMetrics().horizontalAdvance(page.Title));
     }
     contents_->expandAll();
+    const int side = titles + fontMetrics().averageCharWidth() * 6;
+    findChild<QSplitter*>()->setSizes({side, width() - side});
 }
 
 void HelpWindow::Follow() {
