@@ -9,6 +9,10 @@ std::filesystem::path GoldenFolder() {
     return std::filesystem::path(GFC_TEST_DATA) / "golden";
 }
 
+std::filesystem::path SourceFolder() {
+    return std::filesystem::path(GFC_TEST_DATA).parent_path() / "src";
+}
+
 std::filesystem::path BinFolder() {
     return GFC_BIN;
 }

@@ -9,6 +9,9 @@ namespace gfc::test {
 
 [[nodiscard]] std::filesystem::path GoldenFolder();
 
+// The program's own sources, for tests of what it says.
+[[nodiscard]] std::filesystem::path SourceFolder();
+
 // The programs and libraries of this build.
 [[nodiscard]] std::filesystem::path BinFolder();
 
