@@ -18,9 +18,11 @@ bool IsFile(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-bool IsReadOnly(const std::wstring& path) {
+// A folder, or a file that its owner has locked against changes.
+bool MustStay(const std::wstring& path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
 }
 
 // What a link points to, by its full name; a path that is no link, or names nothing yet, stays.
@@ -70,7 +72,7 @@ public:
 
     bool Replace(const std::string& path, std::string_view bytes) override {
         const std::wstring target = RealTarget(Wide(path));
-        if (target.empty() || IsReadOnly(target))
+        if (target.empty() || MustStay(target))
             return false;
         TemporaryFile::RemoveLeftovers(target);
         auto file = TemporaryFile::Beside(target);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace gfc::platform::windows {
+
+// The line with which a program is started, so quoted that it reads program and arguments (UTF-8) back as
+// they are.
+[[nodiscard]] std::wstring CommandLine(const std::string& program, const std::vector<std::string>& arguments);
+
+} // namespace gfc::platform::windows

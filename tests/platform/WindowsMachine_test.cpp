@@ -1,0 +1,101 @@
+#ifdef _WIN32
+#include "platform/DynamicLibrary.h"
+#include "platform/Machine.h"
+#include "platform/windows/CommandLine.h"
+#include "platform/windows/Wide.h"
+#include "services/modLocalTimeAndGMT.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <shellapi.h>
+
+namespace {
+
+using namespace gfc;
+using namespace gfc::platform;
+using gfc::test::TempFolder;
+
+TEST(SingleInstance, keeps_its_name_as_long_as_it_lives) {
+    const auto first = MakeSingleInstance();
+    EXPECT_TRUE(first->Acquire("gfc-test"));
+    EXPECT_TRUE(first->Acquire("gfc-test")) << "its holder keeps it";
+    EXPECT_FALSE(MakeSingleInstance()->Acquire("gfc-test"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc-test-other"));
+}
+
+TEST(SingleInstance, leaves_the_name_free) {
+    ASSERT_TRUE(MakeSingleInstance()->Acquire("gfc-test"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc-test"));
+}
+
+std::vector<std::string> ReadBack(const std::wstring& line) {
+    int count = 0;
+    wchar_t** words = ::CommandLineToArgvW(line.c_str(), &count);
+    std::vector<std::string> read;
+    for (int i = 0; i < count; ++i)
+        read.push_back(windows::Utf8(words[i]));
+    ::LocalFree(words);
+    return read;
+}
+
+TEST(CommandLine, is_read_back_as_it_is) {
+    const std::vector<std::string> arguments = {"two words", "",      "C:\\jobs\\",           "a\"b",
+                                                "\\\"",      "a\\\\", "Estaci\u00F3n %TEMP%", "& del |>"};
+    auto expected = arguments;
+    expected.insert(expected.begin(), "C:\\Program Files\\viewer.exe");
+    EXPECT_EQ(ReadBack(windows::CommandLine("C:\\Program Files\\viewer.exe", arguments)), expected);
+}
+
+TEST(Launcher, starts_programs_and_reports_what_cannot_be_started) {
+    const TempFolder folder;
+    EXPECT_TRUE(MakeLauncher()->Start("cmd.exe", {"/c", ""}));
+    EXPECT_FALSE(MakeLauncher()->Start("", {}));
+    EXPECT_FALSE(MakeLauncher()->Start(folder.Path("missing.exe"), {}));
+    EXPECT_FALSE(MakeLauncher()->Start(folder.Path(), {}));
+}
+
+TEST(Paths, names_the_folder_of_this_program_and_that_of_the_profiles) {
+    EXPECT_TRUE(std::filesystem::exists(MakePaths()->ExecutableFolder() + "\\platform_test.exe"));
+    EXPECT_TRUE(std::filesystem::is_directory(MakePaths()->ProfileFolder()));
+}
+
+TEST(DynamicLibrary, gives_its_symbols) {
+    const auto load = LoadLibraryAt(MakePaths()->ExecutableFolder() + "\\" PLATFORM_TEST_LIBRARY);
+    ASSERT_TRUE(load.Library) << load.Error;
+    auto* twice = load.Library->FunctionOf<int(int)>("twice");
+    ASSERT_NE(twice, nullptr);
+    EXPECT_EQ(twice(21), 42);
+    EXPECT_EQ(load.Library->Symbol("no_such_symbol"), nullptr);
+}
+
+TEST(DynamicLibrary, names_file_and_reason_of_a_failure) {
+    const TempFolder folder;
+    for (const std::string& path : {folder.Path("missing.dll"), folder.Put("broken.dll", "no library")}) {
+        const auto load = LoadLibraryAt(path);
+        EXPECT_FALSE(load.Library);
+        EXPECT_NE(load.Error.find(path), std::string::npos) << load.Error;
+    }
+}
+
+TEST(DynamicLibrary, is_never_searched_for) {
+    for (const char* name : {"kernel32.dll", ".\\kernel32.dll", "\\kernel32.dll", "C:kernel32.dll", ""}) {
+        const auto load = LoadLibraryAt(name);
+        EXPECT_FALSE(load.Library) << name;
+        EXPECT_EQ(load.Error, "\"" + std::string(name) + "\" is not a full path");
+    }
+}
+
+TEST(RealMachine, gives_all_seams) {
+    const TempFolder folder;
+    RealMachine real;
+    const Machine machine = real.Seams();
+    EXPECT_TRUE(machine.Files.Replace(folder.Path("f"), "x"));
+    EXPECT_GT(machine.Clock.LocalNow(), services::DateSerial(2020, 1, 1));
+    EXPECT_LE(std::abs(machine.TimeZone.GetTimeZoneInformation().Bias), 14 * 60);
+    EXPECT_LE(std::abs(machine.TimeZone.CurrentBias()), 15 * 60);
+}
+
+} // namespace
+#endif
