@@ -4,10 +4,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <map>
 #include <optional>
 #include <set>
-#include <tuple>
+#include <unordered_map>
 #include <utility>
 
 namespace gfc::binding {
@@ -47,26 +46,26 @@ std::optional<std::int32_t> RegisterOf(const std::string& text) {
     return whole && std::to_string(value) == text ? std::optional(value) : std::nullopt;
 }
 
-// The entries still looked for, so that one walk over the tags serves them all.
+// The entries still looked for, so that one walk over the tags serves them all. By address alone: hardly any
+// tag passes that, and only those that do have their texts compared.
 class Sought {
 public:
     explicit Sought(Entries& entries) {
         for (ExpectedTag& entry : entries) {
             entry.Found = false;
             if (const auto address = RegisterOf(entry.RegAddr))
-                entries_.emplace(Key{*address, entry.Tag, entry.Type}, &entry);
+                entries_.emplace(*address, &entry);
         }
     }
 
     void Meet(const project::Tag& tag) {
-        const auto [first, last] = entries_.equal_range(Key{tag.RegAddr, tag.TagName, tag.RegType});
-        for (auto match = first; match != last; ++match)
-            match->second->Found = true;
+        for (auto [match, last] = entries_.equal_range(tag.RegAddr); match != last; ++match)
+            if (match->second->Tag == tag.TagName && match->second->Type == tag.RegType)
+                match->second->Found = true;
     }
 
 private:
-    using Key = std::tuple<std::int32_t, std::string_view, std::string_view>;
-    std::multimap<Key, ExpectedTag*> entries_;
+    std::unordered_multimap<std::int32_t, ExpectedTag*> entries_;
 };
 
 bool Passes(const ExpectedTag& entry) {

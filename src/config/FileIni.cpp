@@ -45,8 +45,27 @@ std::string ValueBytes(std::string_view value) {
     return BytesOf(value.substr(0, value.find_first_of(ends)));
 }
 
-std::string ReadFrom(const platform::Profile& profile, std::string_view section, std::string_view key) {
-    return services::FromCodePage(profile.Read(BytesOf(section), BytesOf(key)));
+// The bytes of a name. Nearly every one is plain and stands for itself, without a copy.
+class NameBytes {
+public:
+    explicit NameBytes(std::string_view utf8) : plain_(services::IsPlain(utf8)), bytes_(utf8) {
+        if (!plain_)
+            bytes_ = converted_ = BytesOf(utf8);
+    }
+    NameBytes(const NameBytes&) = delete;
+    NameBytes& operator=(const NameBytes&) = delete;
+    operator std::string_view() const { return bytes_; }
+
+private:
+    bool plain_;
+    std::string converted_;
+    std::string_view bytes_;
+};
+
+// From a profile, or from the index of one.
+template <class Source>
+std::string ReadFrom(Source& source, std::string_view section, std::string_view key) {
+    return services::FromCodePage(source.Read(NameBytes(section), NameBytes(key)));
 }
 
 } // namespace
@@ -83,8 +102,8 @@ bool ConfigFileExists(const FileIni& ini, const ProjectPaths& paths, std::string
 std::string FileIni::ReadKey(std::string_view section, std::string_view key, const std::string& file) const {
     if (file.empty())
         return {};
-    if (const FileBatch* batch = OpenBatch(file))
-        return batch->profile_ ? ReadFrom(batch->profile_->Profile(), section, key) : std::string{};
+    if (FileBatch* batch = OpenBatch(file))
+        return batch->profile_ ? ReadFrom(batch->Index(), section, key) : std::string{};
     const auto profile = platform::ProfileFile::Open(files_, file);
     return profile ? ReadFrom(profile->Profile(), section, key) : std::string{};
 }
@@ -159,13 +178,14 @@ bool FileIni::Change(const std::string& file, const Edit& edit) {
     if (FileBatch* batch = OpenBatch(file)) {
         if (!batch->profile_)
             return false;
-        edit(batch->profile_->Profile());
+        batch->index_.reset();
+        edit(batch->profile_->Edit());
         return batch->changed_ = true;
     }
     auto profile = platform::ProfileFile::Open(files_, file);
     if (!profile)
         return false;
-    edit(profile->Profile());
+    edit(profile->Edit());
     return profile->Save();
 }
 
@@ -192,8 +212,15 @@ bool FileBatch::Save() {
     return !changed_;
 }
 
+platform::ProfileIndex& FileBatch::Index() {
+    if (!index_)
+        index_.emplace(profile_->Profile());
+    return *index_;
+}
+
 void FileBatch::Reload() {
     changed_ = false;
+    index_.reset();
     profile_.reset();
     if (!file_.empty())
         profile_ = platform::ProfileFile::Open(ini_.files_, file_);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ProfileFile.h"
+#include "platform/ProfileIndex.h"
 
 #include <functional>
 #include <optional>
@@ -96,12 +97,15 @@ private:
 
     bool Save();
     void Reload();
+    // The profile must be there.
+    [[nodiscard]] platform::ProfileIndex& Index();
 
     const FileIni& ini_;
     std::string file_;
     bool outermost_;
     bool changed_ = false;
     std::optional<platform::ProfileFile> profile_; // none where the file cannot be read
+    std::optional<platform::ProfileIndex> index_;  // of the profile as it stands, from a reading to a change
 };
 
 } // namespace gfc::config

@@ -40,19 +40,8 @@ public:
     [[nodiscard]] const std::string& Bytes() const { return bytes_; }
 
 private:
-    struct Span {
-        std::size_t Begin = 0;
-        std::size_t End = 0; // behind the line break
-    };
-    struct Place {
-        Span Header;                // the section's header line
-        std::optional<Span> Key;    // the key's line
-        std::size_t KeysEnd = 0;    // behind the last key line, else behind the header
-        std::size_t SectionEnd = 0; // where the next section starts
-    };
-
-    [[nodiscard]] std::optional<std::size_t> FindSection(std::string_view section) const;
-    [[nodiscard]] std::optional<Place> Find(std::string_view section, std::string_view key) const;
+    void WriteInto(std::size_t header, std::string_view key, std::string line);
+    [[nodiscard]] std::size_t KeysEnd(std::size_t header) const;
     void Insert(std::size_t at, std::string text);
     void AddSection(std::string_view section, std::string_view lines);
 

@@ -12,14 +12,23 @@ std::optional<ProfileFile> ProfileFile::Open(Files& files, std::string path) {
 }
 
 ProfileFile::ProfileFile(Files& files, std::string path, std::optional<std::string> bytes)
-    : files_(&files), path_(std::move(path)), onDisk_(std::move(bytes)), profile_(onDisk_.value_or("")) {}
+    : files_(&files), path_(std::move(path)), there_(bytes.has_value()),
+      profile_(std::move(bytes).value_or("")) {}
+
+Profile& ProfileFile::Edit() {
+    if (!before_)
+        before_ = profile_.Bytes();
+    return profile_;
+}
 
 bool ProfileFile::Save() {
-    if (onDisk_ == profile_.Bytes())
+    const bool changed = before_ && *before_ != profile_.Bytes();
+    if (there_ && !changed)
         return true;
     if (!files_->Replace(path_, profile_.Bytes()))
         return false;
-    onDisk_ = profile_.Bytes();
+    there_ = true;
+    before_.reset();
     return true;
 }
 

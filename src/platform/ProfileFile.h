@@ -15,7 +15,7 @@ public:
     // empty one would end in its loss.
     [[nodiscard]] static std::optional<ProfileFile> Open(Files& files, std::string path);
 
-    [[nodiscard]] platform::Profile& Profile() { return profile_; }
+    [[nodiscard]] platform::Profile& Edit();
     [[nodiscard]] const platform::Profile& Profile() const { return profile_; }
 
     // Replaces the file if its bytes have changed; a file that was missing comes into being in any case.
@@ -27,8 +27,10 @@ private:
 
     Files* files_;
     std::string path_;
-    std::optional<std::string> onDisk_;
+    bool there_;
     platform::Profile profile_;
+    std::optional<std::string>
+        before_; // as on disk; kept from the first edit on, so that a reader pays no copy
 };
 
 } // namespace gfc::platform

@@ -157,6 +157,8 @@ TagList AddOnGate::ReadTags(const std::string& station, const std::string& proje
     if (count <= 0)
         return {};
     TagList tags;
+    if (array != nullptr)
+        tags.reserve(static_cast<std::size_t>(count));
     for (std::int32_t i = 0; array != nullptr && i < count; ++i) {
         tags.push_back(TagOf(RecordAt<TagRecord>(array, i)));
         if (onTag)

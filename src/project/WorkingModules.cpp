@@ -40,8 +40,16 @@ constexpr std::array<KindRow, 6> Kinds = {{
 class ModuleSizes {
 public:
     explicit ModuleSizes(const TagList& list) {
-        for (const Tag& tag : list)
-            ++sizes_[services::FoldCase(tag.ModuleName)];
+        // The tags of a module mostly stand together, so that its name is looked up once for all of them.
+        const std::string* module = nullptr;
+        int* size = nullptr;
+        for (const Tag& tag : list) {
+            if (module == nullptr || *module != tag.ModuleName) {
+                module = &tag.ModuleName;
+                size = &sizes_[services::FoldCase(*module)];
+            }
+            ++*size;
+        }
     }
     [[nodiscard]] int Of(const std::string& module) const {
         const auto found = sizes_.find(services::FoldCase(module));

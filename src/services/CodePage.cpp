@@ -48,17 +48,27 @@ constexpr std::array<unsigned char, 256> MakeFold() {
 
 constexpr std::array<unsigned char, 256> Fold = MakeFold();
 
-bool IsPlain(char c) {
+bool IsPlainByte(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
 
 } // namespace
 
+// All bytes taken together, without a way out: that is what runs through a text many at a time.
+bool IsPlain(std::string_view text) {
+    unsigned bits = 0;
+    for (const char byte : text)
+        bits |= static_cast<unsigned char>(byte);
+    return bits < 0x80;
+}
+
 std::string FromCodePage(std::string_view bytes) {
+    if (IsPlain(bytes))
+        return std::string(bytes);
     std::string utf8;
     utf8.reserve(bytes.size());
     for (const char byte : bytes) {
-        if (IsPlain(byte))
+        if (IsPlainByte(byte))
             utf8 += byte;
         else
             AppendUtf8(utf8, CharacterOf(static_cast<unsigned char>(byte)));
@@ -67,6 +77,8 @@ std::string FromCodePage(std::string_view bytes) {
 }
 
 std::optional<std::string> ToCodePage(std::string_view utf8) {
+    if (IsPlain(utf8))
+        return std::string(utf8);
     std::string bytes;
     bytes.reserve(utf8.size());
     while (!utf8.empty()) {

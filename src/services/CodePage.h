@@ -10,6 +10,9 @@
 // undefined (81 8D 8F 90 9D) stand for U+0081 and so on, so that every file comes back byte for byte.
 namespace gfc::services {
 
+// True where every byte stands for itself in both codes.
+[[nodiscard]] bool IsPlain(std::string_view text);
+
 // Never fails: each byte becomes one character.
 [[nodiscard]] std::string FromCodePage(std::string_view bytes);
 

@@ -16,6 +16,14 @@ char32_t FoldCharacter(char32_t code) {
     return code == 0x0178 ? 0xFF : code;
 }
 
+bool IsPlainByte(char byte) {
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+char FoldPlain(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + 0x20) : byte;
+}
+
 bool SameNoCase(const Utf8Character& a, const Utf8Character& b) {
     return a.Valid == b.Valid &&
            (a.Valid ? FoldCharacter(a.Code) == FoldCharacter(b.Code) : a.Code == b.Code);
@@ -25,6 +33,14 @@ bool SameNoCase(const Utf8Character& a, const Utf8Character& b) {
 
 bool EqualNoCase(std::string_view left, std::string_view right) {
     while (!left.empty() && !right.empty()) {
+        // Nearly all letters are plain, and names are compared by the hundred thousand.
+        if (IsPlainByte(left.front()) && IsPlainByte(right.front())) {
+            if (FoldPlain(left.front()) != FoldPlain(right.front()))
+                return false;
+            left.remove_prefix(1);
+            right.remove_prefix(1);
+            continue;
+        }
         const Utf8Character a = FirstCharacter(left);
         const Utf8Character b = FirstCharacter(right);
         if (!SameNoCase(a, b))

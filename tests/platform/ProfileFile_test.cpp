@@ -13,8 +13,8 @@ TEST(ProfileFile, reads_once_and_replaces_once_for_many_writes) {
     files.Content["f"] = "[A]\r\n";
     auto file = ProfileFile::Open(files, "f");
     ASSERT_TRUE(file);
-    file->Profile().Write("A", "k", "1");
-    file->Profile().Write("A", "m", "2");
+    file->Edit().Write("A", "k", "1");
+    file->Edit().Write("A", "m", "2");
     EXPECT_TRUE(file->Save());
     EXPECT_EQ(files.Content["f"], "[A]\r\nk=1\r\nm=2\r\n");
     EXPECT_EQ(files.Reads, 1);
@@ -25,8 +25,8 @@ TEST(ProfileFile, writes_nothing_where_nothing_changed) {
     MemoryFiles files;
     files.Content["f"] = "[A]\r\nk=1\r\n";
     auto file = ProfileFile::Open(files, "f");
-    file->Profile().Write("A", "k", "1");
-    file->Profile().Write("A", "none", std::nullopt);
+    file->Edit().Write("A", "k", "1");
+    file->Edit().Write("A", "none", std::nullopt);
     EXPECT_TRUE(file->Save());
     EXPECT_EQ(files.Replaces, 0);
 }
@@ -34,11 +34,11 @@ TEST(ProfileFile, writes_nothing_where_nothing_changed) {
 TEST(ProfileFile, writes_again_after_a_later_change_only) {
     MemoryFiles files;
     auto file = ProfileFile::Open(files, "f");
-    file->Profile().Write("A", "k", "1");
+    file->Edit().Write("A", "k", "1");
     EXPECT_TRUE(file->Save());
     EXPECT_TRUE(file->Save());
     EXPECT_EQ(files.Replaces, 1);
-    file->Profile().Write("A", "k", "2");
+    file->Edit().Write("A", "k", "2");
     EXPECT_TRUE(file->Save());
     EXPECT_EQ(files.Content["f"], "[A]\r\nk=2\r\n");
 }
@@ -47,7 +47,7 @@ TEST(ProfileFile, makes_a_missing_file_even_for_a_deletion) {
     MemoryFiles files;
     auto file = ProfileFile::Open(files, "f");
     ASSERT_TRUE(file);
-    file->Profile().Write("A", "k", std::nullopt);
+    file->Edit().Write("A", "k", std::nullopt);
     EXPECT_TRUE(file->Save());
     EXPECT_TRUE(files.Content.contains("f"));
     EXPECT_EQ(files.Content["f"], "");
@@ -65,7 +65,7 @@ TEST(ProfileFile, reports_a_failed_replace_and_can_be_saved_again) {
     files.Content["f"] = "[A]\r\n";
     files.Unwritable.insert("f");
     auto file = ProfileFile::Open(files, "f");
-    file->Profile().Write("A", "k", "1");
+    file->Edit().Write("A", "k", "1");
     EXPECT_FALSE(file->Save());
     EXPECT_EQ(files.Content["f"], "[A]\r\n");
     files.Unwritable.clear();

@@ -78,7 +78,7 @@ inline bool Matches(MemoryFiles& files, const Json& operation, const Json& expec
     if (operation.at("op") == "read")
         return file->Profile().Read(Field(operation, "section"), Field(operation, "key")) ==
                BytesOf(expected);
-    Apply(file->Profile(), operation);
+    Apply(file->Edit(), operation);
     return file->Save() == expected.get<bool>();
 }
 
