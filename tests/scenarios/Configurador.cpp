@@ -232,19 +232,6 @@ void StandardChangesWhatIsEnabled(Story& story) {
     Cancel(story);
 }
 
-// At a run's node the command means its tags, and at one that is off its enabling.
-void NodesOfRuns(Story& story) {
-    story.ClickNode("GFCPrincipal", "TreeGFC", north + "\\Individual Parameters\\Run 1")
-        .Menu("GFCPrincipal", "ConfigPar")
-        .Box("Configure Run", "The selected run is not configured. Do you want to configure it?",
-             Icon::Information, Answer::No)
-        .ClickNode("GFCPrincipal", "TreeGFC", north + "\\Individual Parameters")
-        .Menu("GFCPrincipal", "ConfigPar")
-        .SeeShown("FrModificarTags")
-        .Click("FrModificarTags", "Command2")
-        .SeeShown("GFCPrincipal");
-}
-
 void RoomForOneRun(FakeProgram& program) {
     program.AddStation("North", LargeStationTags(17));
 }
@@ -272,8 +259,6 @@ std::vector<Scenario> ConfiguradorScenarios() {
              NothingWritten),
         Told("configurator_standard_changes_what_is_enabled", moves::ThreeStations,
              StandardChangesWhatIsEnabled, NothingWritten),
-        Told("configure_at_the_nodes_of_runs", NorthIsConfigured, NodesOfRuns,
-             [](FakeProgram& program) { EXPECT_EQ(program.Files.Content[northFile], stored); }),
         Told("configurator_is_closed_by_its_window", NorthIsConfigured, WindowsOwnCommandCloses,
              [](FakeProgram& program) { EXPECT_EQ(program.Files.Content[northFile], stored); }),
     };

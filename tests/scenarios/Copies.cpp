@@ -1,5 +1,7 @@
+// Whole configurations are copied.
 #include "scenarios/Moves.h"
-#include "scenarios/Scenario.h"
+#include "scenarios/StoredStation.h"
+#include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
 
@@ -7,103 +9,196 @@ namespace gfc::test {
 
 namespace {
 
-using ui::Answer;
+using moves::Choose;
+using moves::NorthNode;
+using moves::SeeImage;
 using ui::Icon;
 
-const std::string window = "GFCPrincipal";
-const std::string tree = "TreeGFC";
-const std::string content =
-    "[General]\r\nProject=/jobs/plant.KPJ\r\nOrmStation=North\r\n[FlowRuns]\r\nRun2=Yes\r\n";
+const std::string southNode = "All Stations\\South";
+const std::string could = "Could not copy the configuration file \r\n";
+const std::string reminder = "Reminder: Please make sure the destination station satisfies the minimun I/O "
+                             "requirements (The source station's I/O amount).";
+const std::string withinTitle =
+    "Copy configuration from a station to another station within the same project...";
+const std::string acrossTitle = "Copy configuration from a station to another station of another project";
+const std::string prompt = "Name of the destination station to configure";
 
-void NorthIsConfigured(FakeProgram& program) {
-    moves::ThreeStations(program);
-    program.Files.Content["/jobs/KDOrmAGA_plant_North.ini"] = content;
+// The source with two keys of one section changed.
+std::string CopyOf(const std::string& source, const std::string& project, const std::string& station) {
+    return FileText(source).Set("General", "Project", project).Set("General", "OrmStation", station).Bytes();
 }
 
-void Choose(Story& story, const std::string& station, const std::string& command) {
-    story.ClickNode(window, tree, "All Stations\\" + station).Menu(window, command);
+void Refused(Story& story, const std::string& reason, Icon icon = Icon::None) {
+    story.Box("Error: Copy configuration file", could + reason, icon);
 }
 
-void SeeImage(Story& story, const std::string& station, const std::string& image) {
-    story.Check([=](Driver& d) { EXPECT_EQ(d.NodeImage(window, tree, "All Stations\\" + station), image); });
+void CopyWithin(Story& story) {
+    Choose(story, NorthNode, "copiar1");
+    story.SeeCaption("frCopyStation", prompt)
+        .SeeText("frCopyStation", "Label1",
+                 "Please select the destination station to copy the configuration to:")
+        .SeeText("frCopyStation", "Combo1", "South");
 }
 
-std::string General(FakeProgram& program, const std::string& key, const std::string& file) {
-    return program.Program.Ini.ReadKey("General", key, file);
+void CopyAcross(Story& story, const std::string& station) {
+    Choose(story, NorthNode, "copiar2");
+    story.ChooseFile("/jobs/other.KPJ").Prompt(prompt, station);
 }
 
 Scenario WithinTheProject() {
-    return {"a_configuration_is_copied_and_deleted", NorthIsConfigured,
+    return TheScenario(
+        {.Name = "a_configuration_is_copied_to_another_station",
+         .Golden = "aga3_aga8_outside",
+         .Tell =
+             [](Story& story, const TheOutside& outside) {
+                 CopyWithin(story);
+                 story.Click("frCopyStation", "Command2");
+                 SeeImage(story, southNode, "StationNoConfig");
+                 CopyWithin(story);
+                 story.Select("frCopyStation", "Combo1", 1)
+                     .Click("frCopyStation", "Command1")
+                     .Box(withinTitle, reminder, Icon::Information);
+                 SeeImage(story, "All Stations\\Empty", "StationConfig");
+                 SeeImage(story, moves::RunNode(5, "Empty"), "Run");
+                 story.Check([=](Driver&) {
+                     EXPECT_EQ(outside->Content("Empty"),
+                               CopyOf(outside->Content(), "/jobs/plant.KPJ", "Empty"));
+                     EXPECT_TRUE(outside->Program->Library.FilesToLoad.empty()) << "at the exit only";
+                 });
+             },
+         .Leaves = {Outside::File("Empty")},
+         .After =
+             [](const Outside& outside) { EXPECT_EQ(outside.Program->Library.FilesToLoad.size(), 2U); }});
+}
+
+Scenario RefusedWithin() {
+    return TheScenario(
+        {.Name = "a_copy_to_another_station_is_refused",
+         .Tell =
+             [](Story& story, const TheOutside& outside) {
+                 Choose(story, southNode, "copiar1");
+                 Refused(story, "The station is not configured");
+                 // It comes up while the list stands open.
+                 CopyWithin(story);
+                 story
+                     .Do("configure from outside",
+                         [=](Driver&) { outside->Content("South") = "[Station]\r\n"; })
+                     .Click("frCopyStation", "Command1");
+                 Refused(story, "Please, Verify that the station has not been configured previously...");
+                 story.Do("configure the last one",
+                          [=](Driver&) { outside->Content("Empty") = "[Run1]\r\n"; });
+                 Choose(story, NorthNode, "copiar1");
+                 story
+                     .Box("Error: Copy configuration...", "Cannot copy. All stations are already configured",
+                          Icon::None)
+                     .SeeShown("frCopyStation", false);
+                 Choose(story, "All Stations", "copiar1");
+                 story.SeeShown("frCopyStation", false);
+             },
+         .Leaves = {Outside::File("South"), Outside::File("Empty")},
+         .After =
+             [](const Outside& outside) {
+                 EXPECT_EQ(outside.Content("South"), "[Station]\r\n");
+                 EXPECT_EQ(outside.Content("Empty"), "[Run1]\r\n");
+             }});
+}
+
+Scenario NothingCanBeWritten() {
+    return TheScenario(
+        {.Name = "a_copy_that_fails_leaves_no_file",
+         .Beside =
+             [](FakeProgram& program) {
+                 for (const char* file : {"/jobs/KDOrmAGA_plant_South.ini", "/jobs/KDOrmAGA_other_Far.ini"})
+                     program.Files.Unwritable.insert(file);
+             },
+         .Tell =
+             [](Story& story, const TheOutside&) {
+                 CopyWithin(story);
+                 story.Click("frCopyStation", "Command1");
+                 Refused(story, "Please, Verify that the station has not been configured previously...");
+                 CopyAcross(story, "Far");
+                 Refused(story, "Please verify that the station has not been configured previously");
+             }});
+}
+
+Scenario ProjectOfOneStation() {
+    return {"a_copy_needs_a_project_of_several_stations",
+            [](FakeProgram& program) {
+                program.AddStation("North", LargeStationTags());
+                program.Files.Content[Outside::File()] = "[General]\r\n";
+            },
             [](Story& story) {
                 moves::StartUp(story);
-                Choose(story, "North", "copiar1");
-                story.SeeCaption("frCopyStation", "Name of the destination station to configure")
-                    .SeeText("frCopyStation", "Combo1", "South")
-                    .Click("frCopyStation", "Command2");
-                SeeImage(story, "South", "StationNoConfig");
-                Choose(story, "North", "copiar1");
-                story.Select("frCopyStation", "Combo1", 1)
-                    .Click("frCopyStation", "Command1")
-                    .Box("Copy configuration from a station to another station within the same project...",
-                         "", Icon::Information);
-                SeeImage(story, "Empty", "StationConfig");
-                Choose(story, "North", "undo");
-                story.Box("Delete Configuration", "", Icon::None, Answer::Yes);
-                SeeImage(story, "North", "StationNoConfig");
-                Choose(story, "North", "copiar1");
-                story.Box("Error: Copy configuration file",
-                          "Could not copy the configuration file \r\nThe station is not configured",
-                          Icon::None);
-                Choose(story, "North", "undo");
-                story.Box("Orm Gas Flow Computer",
-                          "No configuration exists for the current station. Ignoring...", Icon::Exclamation);
+                for (const auto& node : {NorthNode, std::string("All Stations")}) {
+                    Choose(story, node, "copiar1");
+                    story.Box("Error: Copy configuration of a station...",
+                              "To use this option the project must have multiple stations",
+                              Icon::Exclamation);
+                }
                 moves::Exit(story);
             },
-            [](FakeProgram& program) {
-                EXPECT_EQ(program.Files.Content.size(), 1U);
-                const std::string file = program.ConfigFile("Empty");
-                EXPECT_EQ(General(program, "OrmStation", file), "Empty");
-                ASSERT_EQ(program.Library.FilesToLoad.size(), 1U);
-                EXPECT_EQ(std::get<0>(program.Library.FilesToLoad[0]), "Empty");
-            }};
+            [](FakeProgram& program) { EXPECT_EQ(program.Files.Content.size(), 1U); }};
 }
 
 Scenario ToAnotherProject() {
-    return {"a_configuration_is_copied_to_another_project", NorthIsConfigured,
-            [](Story& story) {
-                const std::string prompt = "Name of the destination station to configure";
-                moves::StartUp(story);
-                Choose(story, "North", "copiar2");
-                story.ChooseFile(std::nullopt);
-                Choose(story, "North", "copiar2");
-                story.ChooseFile("/jobs/other.KPJ").Prompt(prompt, "");
-                Choose(story, "North", "copiar2");
-                story.ChooseFile("/jobs/other.KPJ")
-                    .Prompt(prompt, "../Far")
-                    .Box("Error: Copy configuration file", "", Icon::Exclamation);
-                Choose(story, "North", "copiar2");
-                story.ChooseFile("/jobs/other.KPJ")
-                    .Prompt(prompt, "Far")
-                    .Box("Copy configuration from a station to another station of another project", "",
-                         Icon::Information);
-                Choose(story, "North", "copiar2");
-                story.ChooseFile("/jobs/other.KPJ")
-                    .Prompt(prompt, "Far")
-                    .Box("Error: Copy configuration file", "", Icon::None);
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) {
-                const std::string file = "/jobs/KDOrmAGA_other_Far.ini";
-                EXPECT_EQ(program.Files.Content.size(), 2U);
-                EXPECT_EQ(General(program, "Project", file), "/jobs/other.KPJ");
-                EXPECT_EQ(General(program, "OrmStation", file), "Far");
-            }};
+    const std::string far = "/jobs/KDOrmAGA_other_Far Away.ini";
+    return TheScenario({.Name = "a_configuration_is_copied_to_another_project",
+                        .Golden = "aga7_iso3_fixed_external",
+                        .Tell =
+                            [](Story& story, const TheOutside&) {
+                                CopyAcross(story, "Far Away");
+                                story.Box(acrossTitle, reminder, Icon::Information);
+                                CopyAcross(story, "Far Away");
+                                Refused(story, "Please verify that the station has not been configured "
+                                               "previously");
+                            },
+                        .Leaves = {far},
+                        .After =
+                            [far](const Outside& outside) {
+                                EXPECT_EQ(outside.Program->Files.Content[far],
+                                          CopyOf(outside.Content(), "/jobs/other.KPJ", "Far Away"));
+                                EXPECT_EQ(outside.Program->Library.FilesToLoad.size(), 1U);
+                            }});
+}
+
+Scenario EndsInSilence() {
+    return TheScenario(
+        {.Name = "a_copy_to_another_project_ends_in_silence", .Tell = [](Story& story, const TheOutside&) {
+             Choose(story, NorthNode, "copiar2");
+             story.ChooseFile(std::nullopt);
+             CopyAcross(story, "");
+             Choose(story, "All Stations", "copiar2");
+             Choose(story, southNode, "copiar2");
+             Refused(story, "The station is not configured");
+         }});
+}
+
+// In plain words, and with nothing written.
+Scenario NamesRefused() {
+    const std::string characters =
+        "The name of the station has characters that the name of a file cannot have.";
+    const std::vector<std::pair<std::string, std::string>> names = {
+        {"..", "The name of the station has nothing but blanks and dots."},
+        {"a/b", characters},
+        {"a\\b", characters},
+        {"CON", "The name of the station is one that the machine keeps for a device."},
+        {"x.", "The name of the station ends with a dot."},
+        {std::string(300, 'x'), "The name of the station is longer than 80 characters."},
+    };
+    return TheScenario({.Name = "a_copy_to_a_station_that_cannot_be_is_refused",
+                        .Tell = [names](Story& story, const TheOutside&) {
+                            for (const auto& [name, reason] : names) {
+                                CopyAcross(story, name);
+                                Refused(story, reason, Icon::Exclamation);
+                            }
+                        }});
 }
 
 } // namespace
 
 std::vector<Scenario> CopyScenarios() {
-    return {WithinTheProject(), ToAnotherProject()};
+    return {WithinTheProject(), RefusedWithin(), NothingCanBeWritten(), ProjectOfOneStation(),
+            ToAnotherProject(), EndsInSilence(), NamesRefused()};
 }
 
 } // namespace gfc::test

@@ -1,164 +1,220 @@
-#include "forms/runs/AddRunStory.h"
-#include "scenarios/Moves.h"
-#include "scenarios/Scenario.h"
+// Runs are turned off and on.
+#include "scenarios/StoredStation.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace gfc::test {
 
 namespace {
 
+using moves::Choose;
+using moves::NorthNode;
+using moves::RunNode;
+using moves::RunsNode;
+using moves::SeeImage;
 using ui::Answer;
 using ui::Icon;
 
-const std::string window = "GFCPrincipal";
-const std::string tree = "TreeGFC";
+const std::string log = "/jobs/KDOrmAGA_plant_North_Errors.log";
+const std::string logGenerated = "A log file describing the error and its cause has been generated in:\r\n" +
+                                 log + "\r\n\r\nDo you wish to see the log file of errors ?";
 
-std::string RunNode(int run) {
-    return "All Stations\\North\\Individual Parameters\\Run " + std::to_string(run);
+void Off(FileText& file, int run) {
+    file.Set("FlowRuns", "Run" + std::to_string(run), "No");
 }
 
-void ChooseRun(Story& story, int run, const std::string& command) {
-    story.ClickNode(window, tree, RunNode(run)).Menu(window, command);
+Scenario TurnedOff() {
+    return TheScenario({.Name = "a_run_is_turned_off",
+                        .Tell =
+                            [](Story& story, const TheOutside&) {
+                                Choose(story, RunNode(5), "dRun");
+                                SeeImage(story, RunNode(5), "NoRun");
+                                SeeImage(story, RunNode(2), "Run");
+                                story.Menu("GFCPrincipal", "dRun")
+                                    .Box("Run disabled", "The run already selected is disabled",
+                                         Icon::Information);
+                            },
+                        .Changes = [](FileText& file) { Off(file, 5); }});
 }
 
-void SeeImage(Story& story, int run, const std::string& image) {
-    story.Check([=](Driver& d) { EXPECT_EQ(d.NodeImage(window, tree, RunNode(run)), image); });
+Scenario TurnedOn() {
+    return TheScenario({.Name = "runs_are_turned_on_again",
+                        .ByHand = [](FileText& file) { Off(file, 2); },
+                        .Tell =
+                            [](Story& story, const TheOutside&) {
+                                Choose(story, RunNode(5), "dRun");
+                                SeeImage(story, RunNode(5), "NoRun");
+                                Choose(story, RunNode(5), "erun");
+                                SeeImage(story, RunNode(5), "Run");
+                                Choose(story, RunNode(2), "erun");
+                                SeeImage(story, RunNode(2), "Run");
+                                story.Menu("GFCPrincipal", "erun")
+                                    .Box("Run enabled", "The selected run is enabled already",
+                                         Icon::Information);
+                            },
+                        .Changes = [](FileText& file) { file.Set("FlowRuns", "Run2", "Yes"); }});
 }
 
-void Configure(Story& story, const moves::Choices& choices, const std::vector<int>& runs) {
-    moves::StartUp(story);
-    moves::OpenWizard(story, "North");
-    moves::SelectRuns(story, runs);
-    moves::WalkPages(story, choices);
-    moves::PassAllRuns(story, choices, runs);
-    moves::SaveAndClose(story);
+// "Enable" in both; and to enable, the tags are read and compared before anything is said.
+Scenario NoRunSelected() {
+    return TheScenario(
+        {.Name = "commands_on_runs_ask_for_a_run", .Tell = [](Story& story, const TheOutside& outside) {
+             Choose(story, RunsNode, "dRun");
+             story
+                 .Box("Error select run", "Please select the run you wish to enable at individual parameters",
+                      Icon::Exclamation)
+                 .Check([=](Driver&) {
+                     EXPECT_EQ(std::ranges::count(outside->Program->Library.Calls, "ReadTags North"), 0);
+                 })
+                 .Menu("GFCPrincipal", "erun")
+                 .Box("Error select run",
+                      "Please select the run that wish to enable at individual parameters", Icon::Exclamation)
+                 .Check([=](Driver&) {
+                     EXPECT_EQ(std::ranges::count(outside->Program->Library.Calls, "ReadTags North"), 1);
+                     EXPECT_FALSE(outside->Program->Session.Expected.ExpectedFloat.empty());
+                 });
+         }});
 }
 
-std::string Flag(FakeProgram& program, const std::string& key) {
-    return program.Program.Ini.ReadKey("FlowRuns", key, program.ConfigFile("North"));
+// The command on a run whose bindings are broken, in the words of the class of the first that is.
+struct Broken {
+    std::string Name;
+    std::string Golden;
+    std::vector<std::string> Keys; // of the tags that are lost, in section Run2
+    std::string FirstLine;
+    std::string Rest = logGenerated;
+};
+
+Scenario Refused(const Broken& broken) {
+    return TheScenario({.Name = "a_run_is_refused_for_" + broken.Name,
+                        .Golden = broken.Golden,
+                        .Tell =
+                            [=](Story& story, const TheOutside& outside) {
+                                story.Do("rename tags", [=](Driver&) {
+                                    for (const auto& key : broken.Keys)
+                                        outside->RenameTag(outside->Key("Run2", key), "renamed " + key);
+                                });
+                                // A bad tag of another run does not stop this one.
+                                Choose(story, RunNode(5), "erun");
+                                story.Box("Run enabled", "", Icon::Information);
+                                Choose(story, RunNode(2), "erun");
+                                story
+                                    .Box("Failed enable run", broken.FirstLine + "Run 2\r\n" + broken.Rest,
+                                         Icon::Question, Answer::No)
+                                    .Check(
+                                        [=](Driver&) { EXPECT_EQ(outside->Key("FlowRuns", "Run2"), "No"); });
+                                // Until the tree is built anew.
+                                SeeImage(story, RunNode(2), "Run");
+                            },
+                        .Changes = [](FileText& file) { Off(file, 2); }});
 }
 
-void Offer(Story& story, Answer answer) {
-    story.Box("Configure Run", "The selected run is not configured. Do you want to configure it?",
-              Icon::Information, answer);
+const std::string inconsistencies = "Error : Configuration errors or inconsistencies found in ";
+
+const std::vector<Broken> allBroken = {
+    {"a_float",
+     "aga3_densimeter",
+     {"GasDPKDIOTag"},
+     "Error : Configuration errors or inconsistecies found in "},
+    {"a_digital_before_a_float", "aga3_densimeter", {"GasDPKDIOTag", "ResetTotalsKDIOTag"}, inconsistencies},
+    {"an_analog", "aga3_aga8_fixed", {"AGA8StatusKDIOTag"}, inconsistencies},
+};
+
+// Two runs count the same pulses.
+Scenario RefusedForALong() {
+    return TheScenario(
+        {.Name = "a_run_is_refused_for_a_long",
+         .Golden = "aga7_densimeter",
+         .Tell =
+             [](Story& story, const TheOutside& outside) {
+                 story.Do("rename a tag", [=](Driver&) { outside->RenameTag("PI-1", "renamed"); });
+                 Choose(story, RunNode(2), "erun");
+                 story.Box("Failed enable run",
+                           inconsistencies +
+                               "Run 2\r\nA lof file describing the error and its cause has been generated "
+                               "in:\r\n" +
+                               log + "\r\n\r\nDou you wish to see the log file of  errors ?",
+                           Icon::Question, Answer::No);
+             },
+         .Changes = [](FileText& file) { Off(file, 2); }});
 }
 
-Scenario OffAndOn() {
-    return {"a_run_is_turned_off_and_on", moves::ThreeStations,
-            [](Story& story) {
-                Configure(story, {}, {1, 4});
-                ChooseRun(story, 4, "dRun");
-                SeeImage(story, 4, "NoRun");
-                ChooseRun(story, 4, "dRun");
-                story.Box("Run disabled", "The run already selected is disabled", Icon::Information);
-                ChooseRun(story, 1, "erun");
-                story.Box("Run enabled", "The selected run is enabled already", Icon::Information);
-                ChooseRun(story, 4, "erun");
-                SeeImage(story, 4, "Run");
-                ChooseRun(story, 1, "dRun");
-                SeeImage(story, 1, "NoRun");
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) {
-                EXPECT_EQ(Flag(program, "Run1"), "No");
-                EXPECT_EQ(Flag(program, "Run11"), "Yes");
-                EXPECT_EQ(Flag(program, "Run4"), "Yes");
-            }};
+// The log is the one of the last check that had an answer; there may be none.
+Scenario LogAskedFor() {
+    return TheScenario({.Name = "the_log_of_a_refused_run_is_asked_for",
+                        .Tell =
+                            [](Story& story, const TheOutside& outside) {
+                                const std::string file = outside->File();
+                                story.Do("rename tags", [=](Driver&) {
+                                    for (const char* tag : {"FT-3", "FT-11"})
+                                        outside->RenameTag(tag, std::string("renamed ") + tag);
+                                });
+                                Choose(story, RunNode(2), "erun");
+                                story.Box("Failed enable run", "", Icon::Question, Answer::Yes)
+                                    .Box("Gas Flow Computer",
+                                         "There is no error log file for this station:\r\n" + log,
+                                         Icon::Exclamation)
+                                    .Do("a log is there", [=](Driver&) {
+                                        outside->Program->Files.Content[log] = "[Errors]\r\n";
+                                    });
+                                Choose(story, RunNode(5), "erun");
+                                story.Box("Failed enable run", "", Icon::Question, Answer::Yes);
+                            },
+                        .Changes =
+                            [](FileText& file) {
+                                Off(file, 2);
+                                Off(file, 5);
+                            },
+                        .Leaves = {log}});
 }
 
-Scenario Added(const std::string& name, const moves::Choices& choices) {
-    return {name, moves::ThreeStations,
-            [=](Story& story) {
-                Configure(story, choices, {1});
-                ChooseRun(story, 3, "erun");
-                Offer(story, Answer::Yes);
-                const AddRunStory adding({choices.Standard, choices.Source, choices.Chromatograph, 3});
-                adding.Through(story);
-                AddRunStory::Finish(story, Answer::Yes);
-                SeeImage(story, 3, "Run");
-                SeeImage(story, 2, "NoRun");
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) {
-                EXPECT_EQ(Flag(program, "Run3"), "Yes");
-                EXPECT_EQ(Flag(program, "Run33"), "Yes");
-                EXPECT_EQ(Flag(program, "Run2"), "No");
-                const auto& ini = program.Program.Ini;
-                const std::string file = program.ConfigFile("North");
-                EXPECT_NE(ini.ReadKey("Run3", "StdVolFlowKDIORegAddr", file), "");
-                EXPECT_NE(ini.ReadKey("Run3", "StdVolFlowKDIORegAddr", file),
-                          ini.ReadKey("Run1", "StdVolFlowKDIORegAddr", file));
-            }};
+Scenario OtherWord() {
+    return TheScenario(
+        {.Name = "a_run_of_which_the_file_says_nothing_clear_stays_off",
+         .ByHand = [](FileText& file) { file.Set("FlowRuns", "Run33", "yes").Remove("FlowRuns", "Run44"); },
+         .Tell =
+             [](Story& story, const TheOutside&) {
+                 for (const int run : {3, 4}) {
+                     Choose(story, RunNode(run), "erun");
+                     SeeImage(story, RunNode(run), "NoRun");
+                 }
+             }});
 }
 
-Scenario NotAdded() {
-    return {"a_run_is_given_up_and_declined", moves::ThreeStations,
-            [](Story& story) {
-                Configure(story, {}, {1});
-                ChooseRun(story, 2, "erun");
-                Offer(story, Answer::No);
-                ChooseRun(story, 2, "erun");
-                Offer(story, Answer::Yes);
-                const AddRunStory adding({.Run = 2});
-                adding.Until(story, 1);
-                story.Click("TagRuns", "Command2")
-                    .Box("Gas Flow Computer", "", Icon::Question, Answer::Yes)
-                    .SeeShown("TagRuns", false)
-                    .SeeShown(window);
-                ChooseRun(story, 2, "erun");
-                Offer(story, Answer::Yes);
-                adding.Through(story);
-                AddRunStory::Finish(story, Answer::No);
-                SeeImage(story, 2, "NoRun");
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) {
-                EXPECT_EQ(Flag(program, "Run2"), "No");
-                EXPECT_EQ(Flag(program, "Run22"), "No");
-                EXPECT_EQ(program.Files.Content.at(program.ConfigFile("North")).find("[Run2]"),
-                          std::string::npos);
-            }};
-}
-
-// The tags of the station change while the program runs.
-Scenario TagsLost() {
-    return {"a_run_whose_tags_are_lost_is_turned_off",
-            [](FakeProgram& program) {
-                moves::ThreeStations(program);
-                auto& tags = program.Library.TagsOf["South"];
-                std::erase_if(tags, [](const auto& tag) { return tag.TagName == "FT-2"; });
-            },
-            [](Story& story) {
-                Configure(story, {}, {1});
-                // South lacks a tag that the copied configuration names.
-                story.ClickNode(window, tree, "All Stations\\North")
-                    .Menu(window, "copiar1")
-                    .Click("frCopyStation", "Command1")
-                    .Box("Copy configuration from a station to another station within the same project...",
-                         "", Icon::Information)
-                    .ClickNode(window, tree, "All Stations\\South\\Individual Parameters\\Run 1")
-                    .Menu(window, "erun")
-                    .Box("Failed enable run", "", Icon::Question, Answer::No);
-                moves::Exit(story);
-            },
-            [](FakeProgram& program) {
-                const auto& ini = program.Program.Ini;
-                EXPECT_EQ(ini.ReadKey("FlowRuns", "Run1", program.ConfigFile("South")), "No");
-                EXPECT_EQ(ini.ReadKey("FlowRuns", "Run1", program.ConfigFile("North")), "Yes");
-            }};
+// The configuring command at a run that is off means to enable it, and nothing else.
+Scenario ConfigureMeansEnable() {
+    return TheScenario({.Name = "configure_at_a_run_that_is_off_enables_it",
+                        .ByHand = [](FileText& file) { Off(file, 2); },
+                        .Tell =
+                            [](Story& story, const TheOutside&) {
+                                Choose(story, RunNode(2), "ConfigPar");
+                                story.SeeShown("FrModificarTags", false).SeeShown("Configurador", false);
+                                SeeImage(story, RunNode(2), "Run");
+                                Choose(story, RunNode(4), "ConfigPar");
+                                story.Box("Configure Run",
+                                          "The selected run is not configured. Do you want to configure it?",
+                                          Icon::Information, Answer::No);
+                                // One that is on has its tags edited.
+                                story.ClickNode("GFCPrincipal", "TreeGFC", RunNode(2))
+                                    .Menu("GFCPrincipal", "ConfigPar")
+                                    .SeeShown("FrModificarTags")
+                                    .Click("FrModificarTags", "Command2");
+                            },
+                        .Changes = [](FileText& file) { file.Set("FlowRuns", "Run2", "Yes"); }});
 }
 
 } // namespace
 
 std::vector<Scenario> RunCommandScenarios() {
-    return {OffAndOn(),
-            Added("a_run_is_added_with_a_densimeter", {}),
-            Added("a_run_is_added_with_a_composition", {.Standard = 1, .Source = 1}),
-            Added("a_run_is_added_with_a_chromatograph", {.Source = 1, .Chromatograph = true}),
-            Added("a_run_is_added_to_accelabar_meters", {.Standard = 2, .Source = 2}),
-            NotAdded(),
-            TagsLost()};
+    std::vector<Scenario> all;
+    for (auto* scenario : {&TurnedOff, &TurnedOn, &NoRunSelected, &RefusedForALong, &LogAskedFor, &OtherWord,
+                           &ConfigureMeansEnable})
+        all.push_back((*scenario)());
+    for (const Broken& broken : allBroken)
+        all.push_back(Refused(broken));
+    return all;
 }
 
 } // namespace gfc::test

@@ -7,10 +7,11 @@ namespace gfc::test {
 namespace {
 
 constexpr std::vector<Scenario> (*parts[])() = {
-    StartUpScenarios, SummaryScenarios,      WizardPageScenarios, BindingScenarios,
-    EditorScenarios,  CancelScenarios,       CapacityScenarios,   BindingFieldScenarios,
-    UnitScenarios,    GasEditorScenarios,    WizardFileScenarios, RunCommandScenarios,
-    CopyScenarios,    ConfiguradorScenarios, ModifyTagsScenarios,
+    StartUpScenarios, SummaryScenarios,      WizardPageScenarios,  BindingScenarios,
+    EditorScenarios,  CancelScenarios,       CapacityScenarios,    BindingFieldScenarios,
+    UnitScenarios,    GasEditorScenarios,    WizardFileScenarios,  RunCommandScenarios,
+    CopyScenarios,    ConfiguradorScenarios, ModifyTagsScenarios,  AddedRunScenarios,
+    DeleteScenarios,  ConfigureScenarios,    ModifyTrialScenarios, ModifyCancelScenarios,
 };
 
 } // namespace

@@ -35,9 +35,14 @@ void PrintTo(const Scenario& scenario, std::ostream* out);
 [[nodiscard]] std::vector<Scenario> GasEditorScenarios();
 [[nodiscard]] std::vector<Scenario> WizardFileScenarios();
 [[nodiscard]] std::vector<Scenario> RunCommandScenarios();
+[[nodiscard]] std::vector<Scenario> AddedRunScenarios();
 [[nodiscard]] std::vector<Scenario> CopyScenarios();
+[[nodiscard]] std::vector<Scenario> DeleteScenarios();
+[[nodiscard]] std::vector<Scenario> ConfigureScenarios();
 [[nodiscard]] std::vector<Scenario> ConfiguradorScenarios();
 [[nodiscard]] std::vector<Scenario> ModifyTagsScenarios();
+[[nodiscard]] std::vector<Scenario> ModifyTrialScenarios();
+[[nodiscard]] std::vector<Scenario> ModifyCancelScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test

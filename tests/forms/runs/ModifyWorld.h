@@ -3,12 +3,11 @@
 #include "binding/Assignment.h"
 #include "forms/program/Program.h"
 #include "forms/runs/FrModificarTags.h"
+#include "support/FileText.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,37 +19,6 @@ struct ModifyChoices {
     std::string CalInput = "FIXED"; // "MEASURED" or "FIXED"
     std::vector<int> Runs = {2, 4};
 };
-
-// A file of lines that end in CR LF, changed by rules of this test alone: a key that is there changes in its
-// place and takes the given form, a new one goes behind the last key of its section. Names match without
-// regard to case.
-class FileText {
-public:
-    explicit FileText(const std::string& bytes);
-
-    [[nodiscard]] std::optional<std::string> Value(const std::string& section, const std::string& key) const;
-    FileText& Set(const std::string& section, const std::string& key, const std::string& value);
-    // The value stays; a key that is not there does not come.
-    FileText& Touch(const std::string& section, const std::vector<std::string>& keys);
-    FileText& Remove(const std::string& section, const std::string& key);
-    // Nothing but these lines below the header.
-    FileText& Replace(const std::string& section, const std::vector<std::string>& lines);
-    [[nodiscard]] std::string Bytes() const;
-
-private:
-    struct Range {
-        std::size_t Begin; // of the lines below the header
-        std::size_t End;
-    };
-    [[nodiscard]] Range LinesOf(const std::string& section) const;
-    [[nodiscard]] std::optional<std::size_t> LineOf(const std::string& section, const std::string& key) const;
-
-    std::string rest_; // a last line without a break
-    std::vector<std::string> lines_;
-};
-
-// As a person leaves it who edits by hand: comments, blank lines, sections of others, keys in mixed case.
-[[nodiscard]] std::string EditedByHand(const std::string& file);
 
 // Station "North", large, with a stored configuration whose every variable is bound to a tag that the station
 // holds. Run 2 is selected in the tree.
