@@ -252,6 +252,7 @@ void ShowHelpWindow(const QString& folder, int context, QWidget* owner) {
         window = new HelpWindow(folder);
     window->StandOver(owner);
     window->ShowContext(context);
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->raise();
     window->activateWindow();
