@@ -35,7 +35,13 @@ void ReadText(HelpPage& page, const QString& html) {
     QTextDocument document;
     document.setHtml(html);
     page.Title = document.metaInformation(QTextDocument::DocumentTitle);
-    page.Text = document.toPlainText();
+    page.Text = document.toPlainText().simplified();
+    if (page.Text.startsWith(page.Title))
+        page.Text = page.Text.mid(page.Title.size()).trimmed();
+}
+
+QString All(const HelpPage& page) {
+    return page.Title + QLatin1Char('\n') + page.Text;
 }
 
 bool HasAll(const QString& text, const QStringList& words) {
@@ -43,21 +49,21 @@ bool HasAll(const QString& text, const QStringList& words) {
                        [&text](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
+// Whole words to both sides of it; the beginning where only the title has it.
 QString Around(const QString& text, const QString& word) {
     constexpr int reach = 45; // characters to each side
-    const auto at = text.indexOf(word, 0, Qt::CaseInsensitive);
-    if (at < 0)
-        return {};
-    const auto from = std::max<qsizetype>(0, at - reach);
-    const QString part = text.mid(from, at - from + word.size() + reach).simplified();
-    const bool cut = from + part.size() < text.size();
-    return (from > 0 ? QStringLiteral("… ") : QString()) + part + (cut ? QStringLiteral(" …") : QString());
+    const auto at = std::max<qsizetype>(0, text.indexOf(word, 0, Qt::CaseInsensitive));
+    const auto before = at <= reach ? -1 : text.lastIndexOf(QLatin1Char(' '), at - reach);
+    const auto behind = text.indexOf(QLatin1Char(' '), at + word.size() + reach);
+    const QString part = text.mid(before + 1, behind < 0 ? -1 : behind - before - 1);
+    return (before < 0 ? QString() : QStringLiteral("… ")) + part +
+           (behind < 0 ? QString() : QStringLiteral(" …"));
 }
 
 HelpHit HitOn(const HelpPage& page, const QStringList& words) {
     HelpHit hit{&page, 0, Around(page.Text, words.front())};
     for (const QString& word : words)
-        hit.Count += static_cast<int>(page.Text.count(word, Qt::CaseInsensitive));
+        hit.Count += static_cast<int>(All(page).count(word, Qt::CaseInsensitive));
     return hit;
 }
 
@@ -96,7 +102,7 @@ std::vector<HelpHit> HelpBook::Find(const QString& words) const {
     const QStringList wanted = WordsOf(words);
     std::vector<HelpHit> hits;
     for (const HelpPage& page : pages_)
-        if (!wanted.isEmpty() && HasAll(page.Text, wanted))
+        if (!wanted.isEmpty() && HasAll(All(page), wanted))
             hits.push_back(HitOn(page, wanted));
     std::stable_sort(hits.begin(), hits.end(), [&wanted](const HelpHit& left, const HelpHit& right) {
         const bool inLeft = HasAll(left.Page->Title, wanted);

@@ -11,7 +11,7 @@ struct HelpPage {
     QString Title;
     int Level = 0;             // its depth in the contents, 0 at the top
     std::vector<int> Contexts; // the help numbers that lead to it
-    QString Text;              // what a reader sees of it, for the search
+    QString Text;              // what a reader sees of it below its title, in one line
 };
 
 struct HelpHit {

@@ -1,5 +1,6 @@
 #include "qt/HelpWindow.h"
 
+#include "qt/HelpHits.h"
 #include "qt/HelpView.h"
 
 #include <QAction>
@@ -9,7 +10,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -42,6 +42,10 @@ QToolButton* Button(const char* name, const QString& text, Qt::ArrowType arrow) 
     return button;
 }
 
+QString FileOf(const QTreeWidgetItem* item) {
+    return item == nullptr ? QString() : item->data(0, fileRole).toString();
+}
+
 QSize FittingSize(const QWidget& window) {
     constexpr QSize wished(960, 680);
     const QScreen* screen = window.screen();
@@ -53,7 +57,7 @@ QSize FittingSize(const QWidget& window) {
 HelpWindow::HelpWindow(const QString& folder)
     : SideWindow(windowName), folder_(folder), book_(folder), view_(new HelpView(this)),
       words_(new QLineEdit), found_(new QLabel), side_(new QStackedWidget), contents_(new QTreeWidget),
-      hits_(new QListWidget) {
+      hits_(new HelpHits) {
     setWindowTitle(QStringLiteral("Help"));
     setAccessibleName(windowTitle());
     WithNames(view_, "HelpPage", QStringLiteral("Page"));
@@ -106,8 +110,6 @@ void HelpWindow::AddBar(QBoxLayout& whole) {
 
 void HelpWindow::AddSide(QBoxLayout& side) {
     contents_->setHeaderHidden(true);
-    hits_->setWordWrap(true);
-    hits_->setTextElideMode(Qt::ElideNone);
     side_->addWidget(contents_);
     side_->addWidget(hits_);
     found_->setWordWrap(true);
@@ -157,26 +159,20 @@ void HelpWindow::FillContents() {
 
 void HelpWindow::Follow() {
     connect(contents_, &QTreeWidget::currentItemChanged, this,
-            [this](QTreeWidgetItem* item) { ShowItem(item); });
+            [this](const QTreeWidgetItem* item) { ShowFile(FileOf(item)); });
     connect(view_, &QTextBrowser::sourceChanged, this, &HelpWindow::SelectShown);
     connect(words_, &QLineEdit::textChanged, this, &HelpWindow::Search);
     connect(words_, &QLineEdit::returnPressed, this, &HelpWindow::EnterHits);
-    const auto show = [this](const QListWidgetItem* hit) {
-        if (hit != nullptr)
-            ShowFile(hit->data(fileRole).toString());
-    };
+    const auto show = [this](const QListWidgetItem* hit) { ShowFile(HelpHits::FileOf(hit)); };
     connect(hits_, &QListWidget::currentItemChanged, this, show);
     connect(hits_, &QListWidget::itemClicked, this, show);
     // A page that was found opens where the words first stand.
     connect(hits_, &QListWidget::currentItemChanged, view_, [this] { view_->GoToMark(false); });
 }
 
-void HelpWindow::ShowItem(const QTreeWidgetItem* item) {
-    if (item != nullptr)
-        ShowFile(item->data(0, fileRole).toString());
-}
-
 void HelpWindow::ShowFile(const QString& file) {
+    if (file.isEmpty())
+        return;
     const QUrl page = QUrl::fromLocalFile(QDir(folder_).filePath(file));
     if (view_->source().adjusted(QUrl::RemoveFragment) != page)
         view_->setSource(page);
@@ -195,7 +191,7 @@ void HelpWindow::ShowContext(int context) {
 void HelpWindow::SelectShown(const QUrl& source) {
     const QString file = source.fileName();
     for (QTreeWidgetItemIterator at(contents_); *at != nullptr; ++at)
-        if ((*at)->data(0, fileRole).toString() == file)
+        if (FileOf(*at) == file)
             contents_->setCurrentItem(*at);
     const HelpPage* page = book_.PageIn(file);
     setWindowTitle(page == nullptr ? QStringLiteral("Help") : QStringLiteral("Help: ") + page->Title);
@@ -210,13 +206,8 @@ void HelpWindow::Search(const QString& words) {
 }
 
 void HelpWindow::ShowHits(const QString& words) {
-    const QSignalBlocker quiet(hits_);
-    hits_->clear();
     const auto hits = book_.Find(words);
-    for (const HelpHit& hit : hits) {
-        auto* item = new QListWidgetItem(hit.Page->Title + QLatin1Char('\n') + hit.Around, hits_);
-        item->setData(fileRole, hit.Page->File);
-    }
+    hits_->Show(hits);
     const auto count = static_cast<int>(hits.size());
     found_->setText(count == 0   ? QStringLiteral("No page has these words.")
                     : count == 1 ? QStringLiteral("1 page found")

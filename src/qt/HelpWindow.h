@@ -6,7 +6,6 @@
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
-class QListWidget;
 class QStackedWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -14,6 +13,7 @@ class QUrl;
 
 namespace gfc::qt {
 
+class HelpHits;
 class HelpView;
 
 // The manual beside the program: contents and search at the left, the page at the right.
@@ -35,7 +35,6 @@ private:
     void Search(const QString& words);
     void ShowHits(const QString& words);
     void ShowFile(const QString& file);
-    void ShowItem(const QTreeWidgetItem* item);
     void EnterHits();
     // The page that is shown is the one that is selected in the contents, also after a link or Back.
     void SelectShown(const QUrl& source);
@@ -48,7 +47,7 @@ private:
     QLabel* found_;
     QStackedWidget* side_;
     QTreeWidget* contents_;
-    QListWidget* hits_;
+    HelpHits* hits_;
 };
 
 // Beside the program itself.

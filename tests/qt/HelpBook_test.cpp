@@ -16,8 +16,10 @@ protected:
         Folder.Put("index.html", "<html><head><title>Welcome</title></head><body>All of it</body></html>");
         Folder.Put("orifice.html", "<html><head><title>Orifice plate</title></head>"
                                    "<body>The bore of the <b>Plate</b></body></html>");
-        Folder.Put("taps.html", "<html><head><title>Taps</title></head>"
-                                "<body>Before the plate, behind the plate, beside the plate</body></html>");
+        Folder.Put(
+            "taps.html",
+            "<html><head><title>Taps</title></head>"
+            "<body><h1>Taps</h1><p>Before the plate, behind the plate, beside the plate</p></body></html>");
     }
     [[nodiscard]] qt::HelpBook Book() const { return qt::HelpBook(QString::fromStdString(Folder.Path())); }
     [[nodiscard]] std::vector<QString> FilesOf(const QString& words) const {
@@ -90,12 +92,23 @@ TEST_F(HelpBooks, show_what_stands_around_a_word) {
     EXPECT_EQ(hits[0].Around, "Before the plate, behind the plate, beside the plate");
 }
 
-TEST_F(HelpBooks, say_where_the_text_around_a_word_was_cut) {
-    const std::string filler(200, 'x');
-    Folder.Put("taps.html", "<html><body>" + filler + " tap " + filler + "</body></html>");
+TEST_F(HelpBooks, cut_the_text_around_a_word_between_words) {
+    std::string filler;
+    for (int i = 0; i < 40; ++i)
+        filler += " filler";
+    Folder.Put("taps.html", "<html><body>" + filler + " tap" + filler + "</body></html>");
     const auto around = Book().Find("tap").front().Around;
-    EXPECT_TRUE(around.startsWith(QStringLiteral("… x")) && around.endsWith(QStringLiteral("x …")));
-    EXPECT_LT(around.size(), 110);
+    EXPECT_TRUE(around.startsWith(QStringLiteral("… filler ")) &&
+                around.endsWith(QStringLiteral(" filler …")));
+    EXPECT_LT(around.size(), 120);
+}
+
+TEST_F(HelpBooks, show_the_beginning_where_only_the_title_has_the_word) {
+    const auto book = Book();
+    const auto hits = book.Find("taps");
+    ASSERT_EQ(hits.size(), 1U);
+    EXPECT_TRUE(hits[0].Around.startsWith("Before the plate"));
+    EXPECT_EQ(hits[0].Count, 1);
 }
 
 TEST(MachineHelp, names_the_page_and_the_whole_path_to_the_viewer) {

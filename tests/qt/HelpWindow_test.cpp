@@ -157,6 +157,16 @@ TEST_F(HelpWindows, show_a_page_that_was_found_with_its_words_marked) {
     EXPECT_EQ(page.Marks(), 1);
 }
 
+TEST_F(HelpWindows, show_the_whole_text_around_the_words_in_a_narrow_list) {
+    Put("plate", "Plate", "An orifice plate with quite a long text behind it, and more of it");
+    Open(0);
+    QTest::keyClicks(&Part<QLineEdit>("HelpWords"), "orifice");
+    auto& hits = Part<QListWidget>("HelpHits");
+    const QRect narrow = hits.visualItemRect(hits.item(0));
+    EXPECT_GE(narrow.height(), 4 * hits.fontMetrics().height());
+    EXPECT_LE(narrow.width(), hits.viewport()->width());
+}
+
 TEST_F(HelpWindows, say_that_no_page_has_the_words) {
     Open(0);
     QTest::keyClicks(&Part<QLineEdit>("HelpWords"), "xylophone");
