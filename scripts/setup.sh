@@ -9,6 +9,7 @@ packages_for_program=(
     libsqlite3-dev libcli11-dev libcsv-dev
 )
 packages_for_checks=(libgtest-dev libgmock-dev nlohmann-json3-dev clang-format)
+packages_for_package=(dpkg-dev file lintian desktop-file-utils appstream xvfb xdotool)
 packages_for_windows=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
 
 # install_missing PACKAGE...: asks for root only if something has to be installed.
