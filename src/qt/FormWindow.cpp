@@ -3,13 +3,10 @@
 #include "qt/Icons.h"
 #include "qt/Renderer.h"
 #include "qt/Texts.h"
-#include "ui/Buttons.h"
 
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -33,6 +30,7 @@ FormWindow::FormWindow(ui::Form& form, const Design* design)
     SetUpContent(design == nullptr ? DesignOf(form.Name()) : design);
     Bind();
     NameForReaders();
+    SetUpKeys();
 }
 
 FormWindow::~FormWindow() {
@@ -66,17 +64,6 @@ void FormWindow::Bind() {
     RefreshAll();
     form_->SetObserver(this);
     FormChanged();
-    // Tab goes through the controls in the order of the form.
-    QWidget* before = nullptr;
-    for (ui::Control* control : form_->Controls()) {
-        Renderer* renderer = RendererOf(control);
-        QWidget* widget = renderer == nullptr ? nullptr : renderer->FocusWidget();
-        if (widget == nullptr)
-            continue;
-        if (before != nullptr)
-            setTabOrder(before, widget);
-        before = widget;
-    }
     content_->installEventFilter(this);
 }
 
@@ -220,43 +207,6 @@ void FormWindow::closeEvent(QCloseEvent* event) {
         return;
     const InEvent going(*this);
     (void)form_->PersonCloses();
-}
-
-void FormWindow::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_F1:
-        return event->setAccepted(PressKey(ui::Key::F1));
-    case Qt::Key_Escape:
-        return event->setAccepted(PressKey(ui::Key::Escape));
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        return event->setAccepted(PressKey(ui::Key::Enter));
-    default:
-        return QWidget::keyPressEvent(event);
-    }
-}
-
-bool FormWindow::PressKey(ui::Key key) {
-    if (form_ == nullptr)
-        return false;
-    const InEvent going(*this);
-    if (form_->PersonPresses(key) || form_ == nullptr)
-        return true;
-    if (key == ui::Key::Escape)
-        PressButton(form_->CancelButton());
-    // The button that has the focus comes before the one that Enter presses elsewhere.
-    if (auto* focused = dynamic_cast<QPushButton*>(focusWidget());
-        key == ui::Key::Enter && focused != nullptr)
-        focused->click();
-    else if (key == ui::Key::Enter)
-        PressButton(form_->DefaultButton());
-    return true;
-}
-
-void FormWindow::PressButton(ui::CommandButton* button) {
-    Renderer* renderer = button == nullptr ? nullptr : RendererOf(button);
-    if (renderer != nullptr)
-        Act(*renderer, [button] { button->PersonClicks(); });
 }
 
 } // namespace gfc::qt

@@ -40,6 +40,8 @@ public:
     // Carries out what a person did to a control, unless the window itself is being written to. Afterwards
     // the widget shows what the control holds.
     void Act(Renderer& renderer, const std::function<void()>& act);
+    // Makes the window larger if what is seen now does not fit, as far as the screen goes.
+    void GrowToContent();
     // Writes all controls to their widgets.
     void RefreshAll();
 
@@ -88,8 +90,9 @@ private:
     void Bind();
     void BindControl(ui::Control& control);
     void NameForReaders();
+    void SetUpKeys();
+    void SetUpFinding();
     void FitToScreen();
-    void GrowToContent();
     void PutOver(const QWidget* owner);
     [[nodiscard]] Qt::WindowFlags FlagsFor(Qt::WindowModality modality) const;
     bool PressKey(ui::Key key);

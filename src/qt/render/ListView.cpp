@@ -5,6 +5,7 @@
 #include "qt/render/WidgetRenderer.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTableView>
 #include <QTimer>
@@ -27,10 +28,11 @@ public:
         SetWidths();
         control.SetRowsObserver(this);
         widget.viewport()->installEventFilter(this);
+        widget.installEventFilter(this);
         QObject::connect(&widget, &QTableView::clicked, this,
                          [this](const QModelIndex& at) { Click(at.row() + 1); });
         QObject::connect(widget.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-                         [this](const QModelIndex& at) { MoveByKey(at.row() + 1); });
+                         [this](const QModelIndex& at) { MoveByKey(at); });
     }
     ~ListViewRenderer() override { widget_.setModel(nullptr); }
 
@@ -43,6 +45,8 @@ public:
     [[nodiscard]] QWidget* MouseWidget() const override { return widget_.viewport(); }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::KeyPress)
+            return watched == &widget_ && PressKey(*static_cast<QKeyEvent*>(event));
         if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
             mouseDown_ = true;
         else if (event->type() == QEvent::MouseButtonRelease)
@@ -72,10 +76,22 @@ private:
         Act([this, row] { (void)control_.PersonClicksRow(row); });
     }
 
-    // Once the view's own event has ended: the click may well empty the list.
-    void MoveByKey(int row) {
-        if (mouseDown_ || window_.IsWriting() || row < 1)
+    // Enter is the keyboard's click on the row that the arrows have left.
+    bool PressKey(const QKeyEvent& key) {
+        const QModelIndex at = widget_.currentIndex();
+        if ((key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) || !at.isValid())
+            return false;
+        const FormWindow::InEvent going(window_);
+        Click(at.row() + 1);
+        return true;
+    }
+
+    // Once the view's own event has ended: the click may well empty the list. A row that the view only makes
+    // its current one, as it does when it gets the focus, is not clicked.
+    void MoveByKey(const QModelIndex& at) {
+        if (mouseDown_ || window_.IsWriting() || !widget_.selectionModel()->isSelected(at))
             return;
+        const int row = at.row() + 1;
         QTimer::singleShot(0, this, [this, row] {
             if (window_.Form() != nullptr)
                 Click(row);

@@ -5,6 +5,7 @@
 #include "qt/render/WidgetRenderer.h"
 
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QTreeView>
@@ -46,6 +47,8 @@ public:
         case QEvent::MouseButtonRelease:
             QTimer::singleShot(0, this, [this] { mouseDown_ = false; });
             return false;
+        case QEvent::KeyPress:
+            return watched == &widget_ && PressKey(*static_cast<QKeyEvent*>(event));
         case QEvent::ContextMenu:
             return AskMenu(*static_cast<QContextMenuEvent*>(event));
         default:
@@ -60,7 +63,7 @@ private:
         QObject::connect(&widget_, &QTreeView::clicked, this,
                          [this](const QModelIndex& at) { Click(TreeModel::NodeOf(at)); });
         QObject::connect(widget_.selectionModel(), &QItemSelectionModel::currentChanged, this,
-                         [this](const QModelIndex& at) { MoveByKey(TreeModel::NodeOf(at)); });
+                         [this](const QModelIndex& at) { MoveByKey(at); });
         QObject::connect(&widget_, &QTreeView::expanded, this,
                          [this](const QModelIndex& at) { NoteBranch(at, true); });
         QObject::connect(&widget_, &QTreeView::collapsed, this,
@@ -92,6 +95,16 @@ private:
         return false;
     }
 
+    // Enter is the keyboard's click on the node that the arrows have left.
+    bool PressKey(const QKeyEvent& key) {
+        const int node = TreeModel::NodeOf(widget_.currentIndex());
+        if ((key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) || node == 0)
+            return false;
+        const FormWindow::InEvent going(window_);
+        Click(node);
+        return true;
+    }
+
     // The keyboard's way to what the second mouse button does.
     bool AskMenu(const QContextMenuEvent& event) {
         if (event.reason() == QContextMenuEvent::Keyboard)
@@ -99,10 +112,12 @@ private:
         return true;
     }
 
-    // Once the view's own event has ended: the click may well rebuild the tree.
-    void MoveByKey(int node) {
-        if (mouseDown_ || window_.IsWriting() || node == 0)
+    // Once the view's own event has ended: the click may well rebuild the tree. A node that the view only
+    // makes its current one, as it does when it gets the focus, is not clicked.
+    void MoveByKey(const QModelIndex& at) {
+        if (mouseDown_ || window_.IsWriting() || !widget_.selectionModel()->isSelected(at))
             return;
+        const int node = TreeModel::NodeOf(at);
         QTimer::singleShot(0, this, [this, node] {
             if (window_.Form() != nullptr)
                 Click(node);
