@@ -4,7 +4,10 @@
 
 namespace gfc::test {
 
-FakeProgram::FakeProgram(ui::Screen& screen) : Program(Machine, Library, screen) {
+FakeProgram::FakeProgram(ui::Screen& screen) : FakeProgram(screen, Files) {}
+
+FakeProgram::FakeProgram(ui::Screen& screen, platform::Files& onDisk)
+    : Machine{onDisk, TimeZone, Clock, SingleInstance, Launcher, Paths}, Program(Machine, Library, screen) {
     Session.Station.UserId = "4711";
 }
 

@@ -13,6 +13,8 @@ namespace gfc::test {
 // The program in a world of fakes, before any screen: project "/jobs/plant.KPJ" with nothing in it yet.
 struct FakeProgram {
     explicit FakeProgram(ui::Screen& screen);
+    // The same, but for the files: these in the place of those in memory, which then stay empty.
+    FakeProgram(ui::Screen& screen, platform::Files& onDisk);
 
     MemoryFiles Files;
     FixedZone TimeZone{0};
@@ -21,7 +23,7 @@ struct FakeProgram {
     FakeLauncher Launcher;
     FakePaths Paths;
     FakeLibrary Library;
-    platform::Machine Machine{Files, TimeZone, Clock, SingleInstance, Launcher, Paths};
+    platform::Machine Machine;
     forms::Program Program;
 
     // Shorthands of what tests touch most.

@@ -2,6 +2,7 @@
 
 #include "workshop/demo/SampleConfiguration.h"
 #include "workshop/demo/SampleTags.h"
+#include "workshop/store/Beside.h"
 #include "workshop/store/Failure.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/store/Project.h"
@@ -70,14 +71,6 @@ void MakeFolder(const fs::path& folder) {
     }
 }
 
-void MoveIntoPlace(const fs::path& from, const fs::path& to) {
-    std::error_code error;
-    fs::rename(from, to, error);
-    if (error) {
-        throw Failure(PathText(to) + ": cannot be written: " + error.message() + ".");
-    }
-}
-
 } // namespace
 
 SampleFiles SampleFilesIn(const fs::path& folder) {
@@ -90,13 +83,11 @@ SampleFiles MakeSample(const fs::path& folder, Existing existing) {
     CheckProjectPath(files.Project);
     MakeFolder(folder);
     CheckWay(files, existing);
-    // Made beside and moved into place, so that a project half made never bears the name.
-    fs::path beside = files.Project;
-    beside += ".new";
-    fs::remove(beside);
-    FillProject(beside, files.Configuration);
+    // A project half made must never bear the name.
+    Beside beside(files.Project);
+    FillProject(beside.Path(), files.Configuration);
     ReplaceWhole(files.Configuration, SampleConfiguration(PathText(files.Project)));
-    MoveIntoPlace(beside, files.Project);
+    beside.MoveIntoPlace();
     return files;
 }
 

@@ -1,5 +1,6 @@
 #include "workshop/store/Project.h"
 
+#include "workshop/store/Beside.h"
 #include "workshop/store/Failure.h"
 #include "workshop/text/CodePage.h"
 #include "workshop/text/Paths.h"
@@ -75,9 +76,11 @@ Project Project::Create(const std::filesystem::path& file) {
     if (std::filesystem::exists(file)) {
         throw Failure(PathText(file) + ": there is a file of this name already; choose another name.");
     }
-    Project project(file, Access::Create);
-    project.MakeTables();
-    return project;
+    // A project half made must never bear the name.
+    Beside beside(file);
+    Project(beside.Path(), Access::Create).MakeTables();
+    beside.MoveIntoPlace();
+    return Open(file, Access::Write);
 }
 
 Project Project::Open(const std::filesystem::path& file, Access access) {

@@ -1,5 +1,6 @@
 #include "workshop/store/WholeFile.h"
 
+#include "workshop/store/Beside.h"
 #include "workshop/store/Failure.h"
 #include "workshop/text/Paths.h"
 
@@ -13,18 +14,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Leaves nothing behind when it fails.
 bool WriteTo(const fs::path& file, std::string_view bytes) {
     std::ofstream out(file, std::ios::binary | std::ios::trunc);
-    if (!out) {
-        return false;
-    }
     out << bytes;
     out.close();
-    if (!out) {
-        std::error_code ignored;
-        fs::remove(file, ignored);
-    }
     return static_cast<bool>(out);
 }
 
@@ -39,17 +32,12 @@ std::string ReadWhole(const fs::path& file) {
 }
 
 void ReplaceWhole(const fs::path& file, std::string_view bytes) {
-    fs::path beside = file;
-    beside += ".new";
-    if (WriteTo(beside, bytes)) {
-        std::error_code error;
-        fs::rename(beside, file, error);
-        if (!error) {
-            return;
-        }
-        fs::remove(beside, error);
+    Beside beside(file);
+    if (!WriteTo(beside.Path(), bytes)) {
+        throw Failure(PathText(file) +
+                      ": cannot be written; check the path, the access rights and the disk.");
     }
-    throw Failure(PathText(file) + ": cannot be written; check the path, the access rights and the disk.");
+    beside.MoveIntoPlace();
 }
 
 } // namespace gfc::workshop

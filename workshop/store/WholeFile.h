@@ -11,7 +11,7 @@ namespace gfc::workshop {
 [[nodiscard]] std::string ReadWhole(const std::filesystem::path& file);
 
 /// Gives the file these bytes: written beside and moved into place, so that whoever reads at that moment sees
-/// the old ones or the new ones. Throws Failure when that cannot be done; the old file is then as it was.
+/// the old ones or the new ones. Throws Failure when that cannot be done.
 void ReplaceWhole(const std::filesystem::path& file, std::string_view bytes);
 
 } // namespace gfc::workshop

@@ -17,7 +17,14 @@ using posix::TemporaryFile;
 
 constexpr unsigned NewFileMode = 0644; // less what the user's mask takes
 constexpr unsigned PrivateMode = 0600; // until the old file's mode is set, nobody else may look
+constexpr unsigned CopyMode = 0775;    // a copy is nobody else's to write, whatever the original allows
 constexpr int MostLinks = 40;          // as many as the system itself follows
+
+// Every other error leaves open whether the file is there: a share that does not answer, a folder that may
+// not be searched at this moment.
+bool SaysMissing(int error) {
+    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
+}
 
 std::optional<std::string> LinkText(const std::string& path) {
     std::array<char, 4096> text{};
@@ -85,7 +92,8 @@ bool TakeOver(int fd, const struct stat& old) {
         return false;
     if (own.st_uid != old.st_uid || own.st_gid != old.st_gid)
         (void)!::fchown(fd, old.st_uid, old.st_gid);
-    return ::fchmod(fd, old.st_mode & 07777) == 0;
+    // Some file systems have one mode for all files, and refuse every change.
+    return (own.st_mode & 07777) == (old.st_mode & 07777) || ::fchmod(fd, old.st_mode & 07777) == 0;
 }
 
 bool MayReplace(const std::string& target, const struct stat& old) {
@@ -115,13 +123,11 @@ public:
 
     bool Exists(const std::string& path) override {
         struct stat state {};
-        return ::stat(path.c_str(), &state) == 0 && !S_ISDIR(state.st_mode);
+        return ::stat(path.c_str(), &state) == 0 ? !S_ISDIR(state.st_mode) : !SaysMissing(errno);
     }
 
-    bool Delete(const std::string& path) override {
-        struct stat state {};
-        return ::lstat(path.c_str(), &state) == 0 && !S_ISDIR(state.st_mode) && ::unlink(path.c_str()) == 0;
-    }
+    // A folder is refused by the call itself.
+    bool Delete(const std::string& path) override { return ::unlink(path.c_str()) == 0; }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
         struct stat present {};
@@ -131,7 +137,7 @@ public:
         if (!source)
             return false;
         TemporaryFile::RemoveLeftovers(to);
-        auto file = TemporaryFile::Beside(to, source->State.st_mode & 0777);
+        auto file = TemporaryFile::Beside(to, source->State.st_mode & CopyMode);
         return file && posix::WriteAll(file->Get(), source->Bytes) && posix::Flush(file->Get()) &&
                file->MoveToNew(to);
     }

@@ -54,9 +54,22 @@ bool FlushFolder(const std::string& folder) {
     return handle && (Flush(handle.Get()) || errno == EINVAL || errno == ENOTSUP);
 }
 
+bool Names(const std::string& path, int fd) {
+    struct stat named {};
+    struct stat open {};
+    return ::lstat(path.c_str(), &named) == 0 && ::fstat(fd, &open) == 0 && named.st_dev == open.st_dev &&
+           named.st_ino == open.st_ino;
+}
+
+bool IsFree(const std::string& path) {
+    struct stat state {};
+    return ::lstat(path.c_str(), &state) != 0 && errno == ENOENT;
+}
+
+// Before it was locked its writer may have put it in its place and begun another one under the same name.
 void RemoveIfDead(const std::string& path) {
     const Descriptor file = Open(path.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK);
-    if (file && TryLock(file.Get()))
+    if (file && TryLock(file.Get()) && Names(path, file.Get()))
         ::unlink(path.c_str());
 }
 
@@ -69,9 +82,12 @@ std::optional<TemporaryFile> TemporaryFile::Beside(const std::string& target, un
         Descriptor file = Open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
         if (!file && errno != EEXIST)
             return std::nullopt;
+        if (!file)
+            continue;
+        TemporaryFile made(std::move(path), std::move(file));
         // A file system without locks gives no lock; the file serves all the same.
-        if (file && (TryLock(file.Get()) || errno != EWOULDBLOCK) && StillThere(file.Get()))
-            return TemporaryFile(std::move(path), std::move(file));
+        if ((TryLock(made.Get()) || errno != EWOULDBLOCK) && StillThere(made.Get()))
+            return made;
     }
     return std::nullopt;
 }
@@ -96,22 +112,36 @@ TemporaryFile::~TemporaryFile() {
 }
 
 bool TemporaryFile::MoveOver(const std::string& target) {
-    if (::rename(path_.c_str(), target.c_str()) != 0)
-        return false;
-    Forget();
-    return file_.Close() && FlushFolder(SplitTarget(target).Folder);
+    return Rename(target) && file_.Close() && FlushFolder(SplitTarget(target).Folder);
 }
 
 bool TemporaryFile::MoveToNew(const std::string& target) {
-    // A link refuses a taken name in the same step as it takes a free one, which a rename does not.
-    if (::link(path_.c_str(), target.c_str()) != 0) {
-        struct stat state {};
-        const bool noLinksHere = errno == EPERM || errno == ENOTSUP || errno == ENOSYS;
-        return noLinksHere && ::lstat(target.c_str(), &state) != 0 && errno == ENOENT && MoveOver(target);
-    }
-    ::unlink(path_.c_str());
+    if (!TakeFreeName(target))
+        return false;
+    if (file_.Close() && FlushFolder(SplitTarget(target).Folder))
+        return true;
+    // Who is told of a failure must not find the file there.
+    ::unlink(target.c_str());
+    return false;
+}
+
+// A link refuses a taken name in the same step as it takes a free one, which a rename does not.
+bool TemporaryFile::TakeFreeName(const std::string& target) {
+    const bool linked = ::link(path_.c_str(), target.c_str()) == 0;
+    const bool noLinksHere = !linked && (errno == EPERM || errno == ENOTSUP || errno == ENOSYS);
+    // Over a network a link may be reported as failed although it was made.
+    if (!linked && !Names(target, Get()))
+        return noLinksHere && IsFree(target) && Rename(target);
+    if (::unlink(path_.c_str()) == 0)
+        Forget();
+    return true;
+}
+
+bool TemporaryFile::Rename(const std::string& target) {
+    if (::rename(path_.c_str(), target.c_str()) != 0)
+        return false;
     Forget();
-    return file_.Close() && FlushFolder(SplitTarget(target).Folder);
+    return true;
 }
 
 } // namespace gfc::platform::posix

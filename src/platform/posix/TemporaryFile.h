@@ -22,13 +22,16 @@ public:
     ~TemporaryFile();
 
     [[nodiscard]] int Get() const { return file_.Get(); }
-    // Both end with the folder flushed; the bytes must be flushed before.
+    // Both end with the folder flushed; the bytes must be flushed before. If that last flush alone fails, the
+    // new file stands where it went over an old one, and is taken away again where there was none.
     [[nodiscard]] bool MoveOver(const std::string& target);
     [[nodiscard]] bool MoveToNew(const std::string& target);
 
 private:
     TemporaryFile(std::string path, Descriptor file) : path_(std::move(path)), file_(std::move(file)) {}
     void Forget() { path_.clear(); }
+    bool TakeFreeName(const std::string& target);
+    bool Rename(const std::string& target);
 
     std::string path_; // empty once it is in its place
     Descriptor file_;

@@ -13,9 +13,16 @@ using windows::Wide;
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr std::size_t LargestRead = 1u << 30;
 
-bool IsFile(const std::wstring& path) {
+// Every other error leaves open whether the file is there: a share that does not answer, a file that is held.
+bool SaysMissing(DWORD error) {
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND || error == ERROR_INVALID_NAME ||
+           error == ERROR_BAD_PATHNAME || error == ERROR_FILENAME_EXCED_RANGE;
+}
+
+bool MayExist(const std::wstring& path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+    return attributes == INVALID_FILE_ATTRIBUTES ? !SaysMissing(::GetLastError())
+                                                 : !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 // A folder, or a file that its owner has locked against changes.
@@ -79,7 +86,7 @@ public:
         return file && file->Write(bytes) && file->MoveOver(target);
     }
 
-    bool Exists(const std::string& path) override { return IsFile(Wide(path)); }
+    bool Exists(const std::string& path) override { return MayExist(Wide(path)); }
 
     bool Delete(const std::string& path) override { return ::DeleteFileW(Wide(path).c_str()) != 0; }
 

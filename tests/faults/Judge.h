@@ -1,0 +1,41 @@
+#pragma once
+
+#include "faults/Theatre.h"
+
+#include <string>
+
+// What may be found in the folder after an operation that something was done to.
+namespace gfc::test::faults {
+
+// How the files were found that the operation is about.
+enum class Found { Old, New, Between, Torn };
+
+struct Verdict {
+    Found TheFound = Found::Old;
+    std::string Fault; // empty: nothing is wrong
+};
+
+class Judge {
+public:
+    // after: what the operation leaves where nothing fails.
+    Judge(const Operation& operation, const Content& before, const Content& after)
+        : operation_(operation), before_(before), after_(after) {}
+
+    // untidy: the process died, or could not take away what it had put beside the file.
+    [[nodiscard]] Verdict Of(const Ending& ending, bool untidy) const;
+
+private:
+    [[nodiscard]] Found FoundAt(const std::string& name, const Entry* now) const;
+    [[nodiscard]] bool IsBetween(const std::string& name, const Entry* now) const;
+    [[nodiscard]] std::string RefusedInVain(const Ending& ending) const;
+
+    const Operation& operation_;
+    const Content& before_;
+    const Content& after_;
+};
+
+// The order of things that a loss of power would show and a death of the process does not: no file is put in
+// its place before its bytes are flushed, and its folder is flushed after it. Empty if it is kept.
+[[nodiscard]] std::string FaultInOrder(const std::vector<Call>& calls);
+
+} // namespace gfc::test::faults

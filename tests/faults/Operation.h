@@ -1,0 +1,46 @@
+#pragma once
+
+#include "faults/Room.h"
+
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+// What a person does to files, as the trials know it.
+namespace gfc::test::faults {
+
+// What a person was told.
+using Words = std::vector<std::string>;
+
+// Told by an operation when all is ready and the part that is to be tried begins; and what it says on its
+// way.
+struct Stage {
+    std::function<void()> Begin;
+    std::function<void(const std::string&)> Say;
+};
+
+struct Operation {
+    std::string Name;
+    // What stands in the folder before.
+    std::function<void(const std::filesystem::path&)> Lay;
+    // Must come back whatever fails; an exception is an end without words.
+    std::function<void(const std::filesystem::path&, const Stage&)> Play;
+    // What the folder holds, as its users see it.
+    std::function<Content(const std::filesystem::path&)> Look = ContentOf;
+    // The file, by the end of its name, that may also be missing or be as this other one was before: where
+    // the operation deletes first, or copies and then changes the copy.
+    std::string Between = {};
+    std::string BetweenAs = {};
+    // A part of what is said when the operation has failed, and then the file Between must be as it was.
+    std::string Refusal = {};
+    // What matters of a file's bytes, where what fails on the way may rightly change the rest of them.
+    std::function<std::string(const std::string& name, std::string bytes)> Essence = {};
+    // The next start after a death: must find its way about, and remove what was left behind.
+    std::function<void(const std::filesystem::path&)> StartAgain = {};
+};
+
+[[nodiscard]] std::vector<Operation> ProgramOperations();
+[[nodiscard]] std::vector<Operation> WorkshopOperations();
+
+} // namespace gfc::test::faults
