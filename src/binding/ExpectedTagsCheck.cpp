@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <charconv>
 #include <optional>
 #include <set>
@@ -53,18 +54,26 @@ public:
     explicit Sought(Entries& entries) {
         for (ExpectedTag& entry : entries) {
             entry.Found = false;
-            if (const auto address = RegisterOf(entry.RegAddr))
+            if (const auto address = RegisterOf(entry.RegAddr)) {
+                asked_.set(LowBits(*address));
                 entries_.emplace(*address, &entry);
+            }
         }
     }
 
     void Meet(const project::Tag& tag) {
+        if (!asked_.test(LowBits(tag.RegAddr)))
+            return;
         for (auto [match, last] = entries_.equal_range(tag.RegAddr); match != last; ++match)
             if (match->second->Tag == tag.TagName && match->second->Type == tag.RegType)
                 match->second->Found = true;
     }
 
 private:
+    static constexpr std::size_t Bits = 1 << 16;
+    static std::size_t LowBits(std::int32_t address) { return static_cast<std::uint32_t>(address) % Bits; }
+
+    std::bitset<Bits> asked_; // no other address needs to be looked up
     std::unordered_multimap<std::int32_t, ExpectedTag*> entries_;
 };
 

@@ -48,8 +48,8 @@ Functions FindFunctions(const platform::DynamicLibrary& library) {
 
 // A field's text up to its first NUL, or the whole field.
 std::string TextOf(const char* field, std::size_t width) {
-    const char* end = std::find(field, field + width, '\0');
-    return services::FromCodePage({field, static_cast<std::size_t>(end - field)});
+    const auto* end = static_cast<const char*>(std::memchr(field, '\0', width));
+    return services::FromCodePage({field, end == nullptr ? width : static_cast<std::size_t>(end - field)});
 }
 
 template <std::size_t Width>

@@ -31,23 +31,6 @@ std::optional<char> ByteOf(char32_t code) {
     return static_cast<char>(static_cast<unsigned char>(0x80 + (found - UpperControls.begin())));
 }
 
-constexpr std::array<unsigned char, 256> MakeFold() {
-    std::array<unsigned char, 256> fold{};
-    for (unsigned byte = 0; byte < 256; ++byte) {
-        const bool latin = byte >= 'A' && byte <= 'Z';
-        const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7; // D7 is the multiplication sign
-        fold[byte] = static_cast<unsigned char>(latin || accented ? byte + 0x20 : byte);
-    }
-    // The four letters whose small form is not 20 further on in the page's own block.
-    fold[0x8A] = 0x9A;
-    fold[0x8C] = 0x9C;
-    fold[0x8E] = 0x9E;
-    fold[0x9F] = 0xFF;
-    return fold;
-}
-
-constexpr std::array<unsigned char, 256> Fold = MakeFold();
-
 bool IsPlainByte(char c) {
     return static_cast<unsigned char>(c) < 0x80;
 }
@@ -94,10 +77,6 @@ std::optional<std::string> ToCodePage(std::string_view utf8) {
 
 bool CodePageHolds(std::string_view utf8) {
     return ToCodePage(utf8).has_value();
-}
-
-const std::array<unsigned char, 256>& CodePageFold() {
-    return Fold;
 }
 
 bool EqualBytesNoCase(std::string_view left, std::string_view right) {

@@ -21,12 +21,31 @@ namespace gfc::services {
 
 [[nodiscard]] bool CodePageHolds(std::string_view utf8);
 
-// The lower-case form of each byte of the page, letters with accents included; all others stand for
-// themselves.
-[[nodiscard]] const std::array<unsigned char, 256>& CodePageFold();
+namespace detail {
 
+constexpr std::array<unsigned char, 256> MakeCodePageFold() {
+    std::array<unsigned char, 256> fold{};
+    for (unsigned byte = 0; byte < 256; ++byte) {
+        const bool latin = byte >= 'A' && byte <= 'Z';
+        const bool accented = byte >= 0xC0 && byte <= 0xDE && byte != 0xD7; // D7 is the multiplication sign
+        fold[byte] = static_cast<unsigned char>(latin || accented ? byte + 0x20 : byte);
+    }
+    // The four letters whose small form is not 20 further on in the page's own block.
+    fold[0x8A] = 0x9A;
+    fold[0x8C] = 0x9C;
+    fold[0x8E] = 0x9E;
+    fold[0x9F] = 0xFF;
+    return fold;
+}
+
+// Here and not behind a call, since whoever folds does so for each byte of a file.
+inline constexpr std::array<unsigned char, 256> CodePageFold = MakeCodePageFold();
+
+} // namespace detail
+
+// The lower-case form of the byte, letters with accents included; all others stand for themselves.
 [[nodiscard]] inline unsigned char FoldByte(char byte) {
-    return CodePageFold()[static_cast<unsigned char>(byte)];
+    return detail::CodePageFold[static_cast<unsigned char>(byte)];
 }
 
 // Compares two texts of code page bytes without regard to case.

@@ -1,0 +1,93 @@
+#include "Contest.h"
+#include "Material.h"
+#include "platform/Machine.h"
+#include "project/WireRecords.h"
+
+#include <QByteArray>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+// Whole processes: how long one takes to start, and how much memory one takes.
+namespace gfc::bench {
+
+namespace {
+
+constexpr int SampleStations = 8;
+constexpr double Tags = 100'000;
+
+std::string Beside(const std::string& name) {
+    return platform::MakePaths()->ExecutableFolder() + "/" + name;
+}
+
+// The first line that the command writes.
+std::string FirstLineOf(const std::string& command) {
+    const std::unique_ptr<FILE, int (*)(FILE*)> output(::popen(command.c_str(), "r"), ::pclose);
+    char line[64] = "";
+    return output != nullptr && std::fgets(line, sizeof line, output.get()) != nullptr ? line : "";
+}
+
+// The sample project, and beside its stations as many more.
+class OpenProject {
+public:
+    explicit OpenProject(int scale) {
+        qputenv("XDG_STATE_HOME", folder_.Path().c_str());
+        Workshop("demo " + folder_.File("plant"));
+        const std::string project = folder_.File("plant") + "/plant.KPJ";
+        Workshop("open " + project);
+        std::string table = "Station,IP Address,Module,Module Type,Tag,Class,Register\n";
+        for (int i = SampleStations; i < SampleStations * scale; ++i)
+            table += "More_" + std::to_string(i) + ",10.0.0.5,,,,,\n";
+        Put(folder_.File("stations.csv"), table);
+        if (scale > 1)
+            Workshop("import-tags " + folder_.File("stations.csv"));
+    }
+
+private:
+    void Workshop(const std::string& arguments) {
+        (void)!std::system((Beside("io-workshop") + " " + arguments + " > /dev/null").c_str());
+    }
+
+    Folder folder_;
+};
+
+Work Starting(const std::string& program) {
+    return [program](benchmark::State& state, int scale) {
+        const OpenProject project(scale);
+        for (auto _ : state) {
+            const auto begin = std::chrono::steady_clock::now();
+            if (FirstLineOf("exec " + Beside(program)) != "shown\n")
+                state.SkipWithError("no window was shown");
+            TakeSeconds(state,
+                        std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+        }
+    };
+}
+
+void Peak(benchmark::State& state, int scale) {
+    const auto tags = static_cast<long long>(Tags) * scale;
+    for (auto _ : state)
+        TakeBytes(
+            state,
+            1024 *
+                std::atof(
+                    FirstLineOf("exec " + Beside("bench-tag-memory") + " " + std::to_string(tags)).c_str()));
+}
+
+void RecordsAlone(benchmark::State& state, int scale) {
+    for (auto _ : state)
+        TakeBytes(state, Tags * scale * static_cast<double>(sizeof(project::TagRecord)));
+}
+
+} // namespace
+
+void ContestProcesses() {
+    Contest("start", Ours, Starting("bench-program-start"), Pace::Once);
+    Contest("start", Floor, Starting("bench-empty-window"), Pace::Once);
+    Contest("memory", Ours, Peak, Pace::Once);
+    Contest("memory", Floor, RecordsAlone, Pace::Once);
+}
+
+} // namespace gfc::bench

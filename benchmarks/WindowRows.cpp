@@ -1,0 +1,175 @@
+#include "Contest.h"
+#include "Plant.h"
+#include "binding/Catalogue.h"
+#include "forms/binding/TagLists.h"
+#include "forms/binding/TagRuns.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "qt/QtScreen.h"
+
+#include <QApplication>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <chrono>
+
+// The windows themselves, in memory: every figure ends when nothing is left to be painted.
+namespace gfc::bench {
+
+namespace {
+
+constexpr std::size_t FreeTags = 50'000;
+constexpr int Stations = 1000;
+
+// Boxes are answered before they are shown.
+class AnsweringScreen : public qt::QtScreen {
+public:
+    ui::Answer Ask(const ui::Box&) override { return ui::Answer::Ok; }
+};
+
+void Settle() {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+double SecondsUntilPainted(const std::function<void()>& act) {
+    const auto begin = std::chrono::steady_clock::now();
+    act();
+    Settle();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+project::TagList FreeFloats(int scale) {
+    const std::size_t wanted = FreeTags * static_cast<std::size_t>(scale);
+    project::TagList tags = std::move(StationInventory(wanted * 10 / 6 + 10).VirtFX);
+    tags.resize(wanted);
+    return tags;
+}
+
+// TagRuns over a station of which nothing is bound yet, closed again at the end.
+class TagWindow {
+public:
+    TagWindow(binding::BindingStage stage, int scale) : plant_(screen_, 1) {
+        auto& session = plant_.Program().Session;
+        session.Station = FullStation(1);
+        session.Station.Runs.PrepareWholeStation(1);
+        session.EditMode = forms::EditMode::Wizard;
+        session.BindingStage = stage;
+        session.Inventory.AvailFloat = FreeFloats(scale);
+        const auto others = StationInventory(1000);
+        session.Inventory.AvailDigital = others.PhysX;
+        session.Inventory.AvailAnalog = others.PhysAY;
+    }
+    ~TagWindow() {
+        plant_.Program().Forms.Unload<forms::TagRuns>();
+        Settle();
+    }
+    TagWindow(const TagWindow&) = delete;
+    TagWindow& operator=(const TagWindow&) = delete;
+
+    void Open() {
+        form_ = &plant_.Program().Forms.Get<forms::TagRuns>();
+        form_->Show();
+    }
+    [[nodiscard]] forms::TagRuns& Form() { return *form_; }
+
+private:
+    AnsweringScreen screen_;
+    Plant plant_;
+    forms::TagRuns* form_ = nullptr;
+};
+
+void OpenTagRuns(benchmark::State& state, int scale) {
+    TagWindow window(binding::BindingStage::RunInputs, scale);
+    for (auto _ : state)
+        TakeSeconds(state, SecondsUntilPainted([&] { window.Open(); }));
+    if (window.Form().ListViewRuns.Count() != static_cast<int>(FreeTags) * scale)
+        state.SkipWithError("the tags are not offered");
+}
+
+void FillModel(QStandardItemModel& model, const project::TagList& tags) {
+    int number = 0;
+    for (const project::Tag& tag : tags)
+        model.appendRow({new QStandardItem(QString::number(++number)),
+                         new QStandardItem(QString::fromStdString(tag.TagName)),
+                         new QStandardItem(QString::fromStdString(tag.RegType)),
+                         new QStandardItem(QString::number(tag.RegAddr))});
+}
+
+void OpenBareList(benchmark::State& state, int scale) {
+    const auto tags = FreeFloats(scale);
+    QWidget window;
+    QStandardItemModel model;
+    for (auto _ : state)
+        TakeSeconds(state, SecondsUntilPainted([&] {
+                        auto* view = new QTableView;
+                        (new QVBoxLayout(&window))->addWidget(view);
+                        FillModel(model, tags);
+                        view->setModel(&model);
+                        window.show();
+                    }));
+}
+
+// Of what a person does first, on the first variable and the first tag.
+void Assign(benchmark::State& state, int scale) {
+    TagWindow window(binding::BindingStage::RunInputs, scale);
+    window.Open();
+    Settle();
+    auto& form = window.Form();
+    (void)form.TreeAGA.PersonClicks(binding::node::Variable(0));
+    for (auto _ : state)
+        TakeSeconds(state, SecondsUntilPainted([&] { (void)form.Command1.PersonClicks(); }));
+    if (form.ListViewRuns.Count() != static_cast<int>(FreeTags) * scale - 1)
+        state.SkipWithError("nothing was assigned");
+}
+
+void Undo(benchmark::State& state, int scale) {
+    TagWindow window(binding::BindingStage::RunInputs, scale);
+    window.Open();
+    auto& form = window.Form();
+    (void)form.TreeAGA.PersonClicks(binding::node::Variable(0));
+    (void)form.Command1.PersonClicks();
+    Settle();
+    for (auto _ : state)
+        TakeSeconds(state, SecondsUntilPainted([&] { (void)form.Command4.PersonClicks(); }));
+    if (form.ListViewRuns.Count() != static_cast<int>(FreeTags) * scale)
+        state.SkipWithError("nothing was given back");
+}
+
+// The 22 variables of a chromatograph.
+void AutoAssign(benchmark::State& state, int scale) {
+    TagWindow window(binding::BindingStage::GasInputs, scale);
+    window.Open();
+    Settle();
+    auto& form = window.Form();
+    for (auto _ : state)
+        TakeSeconds(state, SecondsUntilPainted([&] { (void)form.Command6.PersonClicks(); }));
+    if (form.ListViewRuns.Count() != static_cast<int>(FreeTags) * scale - 21)
+        state.SkipWithError("the tags were not assigned");
+}
+
+void RebuildTree(benchmark::State& state, int scale) {
+    AnsweringScreen screen;
+    Plant plant(screen, Stations * scale);
+    auto& window = plant.Program().Forms.Get<forms::GFCPrincipal>();
+    screen.Appear(window);
+    window.RebuildAfterCommand();
+    Settle();
+    for (auto _ : state)
+        TakeSeconds(state, SecondsUntilPainted([&] { window.RebuildAfterCommand(); }));
+    screen.Disappear(window);
+    screen.Discard(window);
+}
+
+} // namespace
+
+void ContestWindows() {
+    Contest("open_tags", Ours, OpenTagRuns, Pace::Once);
+    Contest("open_tags", Floor, OpenBareList, Pace::Once);
+    Contest("assign", Ours, Assign, Pace::Once);
+    Contest("undo", Ours, Undo, Pace::Once);
+    Contest("auto_assign", Ours, AutoAssign, Pace::Once);
+    Contest("tree_window", Ours, RebuildTree, Pace::Once);
+}
+
+} // namespace gfc::bench
