@@ -8,11 +8,30 @@
 
 namespace gfc::qt {
 
+namespace {
+
+// The links of many a dark palette are still those of a light one, and hardly seen on it.
+QColor LinkColour(const QPalette& palette) {
+    const QColor link = palette.color(QPalette::Link);
+    const bool dark = palette.color(QPalette::Base).lightness() < 128;
+    constexpr int readable = 170; // of 255
+    if (!dark || link.lightness() >= readable)
+        return link;
+    return QColor::fromHsl(link.hslHue(), link.hslSaturation(), readable);
+}
+
+} // namespace
+
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
     setOpenExternalLinks(false);
     setFrameShape(QFrame::StyledPanel);
     document()->setDocumentMargin(fontMetrics().averageCharWidth() * 2);
+    TakeColours();
     connect(this, &QTextBrowser::sourceChanged, this, &HelpView::ShowMarks);
+}
+
+void HelpView::TakeColours() {
+    document()->setDefaultStyleSheet(QStringLiteral("a { color: %1 }").arg(LinkColour(palette()).name()));
 }
 
 void HelpView::Mark(const QStringList& words) {
@@ -71,6 +90,8 @@ void HelpView::resizeEvent(QResizeEvent* event) {
 // Colours of the pages come from the palette, which may change while they are shown.
 void HelpView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        TakeColours();
     if (event->type() == QEvent::PaletteChange && source().isValid()) {
         const int at = verticalScrollBar()->value();
         reload();

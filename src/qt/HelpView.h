@@ -22,6 +22,7 @@ protected:
 private:
     void ShowMarks();
     void FitLines();
+    void TakeColours();
 
     QStringList words_;
 };

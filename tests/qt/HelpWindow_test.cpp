@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
+#include <QTextBlock>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -315,6 +316,22 @@ TEST_F(HelpWindows, are_walked_by_Tab_from_the_top_to_the_page) {
         Press(Help(), Qt::Key_Tab);
     }
     EXPECT_EQ(order, (QStringList{"HelpWords", "HelpContents", "HelpPage", "HelpHome"}));
+}
+
+TEST_F(HelpWindows, show_links_that_are_read_on_light_and_on_dark) {
+    Open(0);
+    auto& page = Part<qt::HelpView>("HelpPage");
+    const auto link = [&page] {
+        const QTextBlock block = page.document()->firstBlock();
+        return block.begin().fragment().charFormat().foreground().color().lightness();
+    };
+    EXPECT_LT(link(), 150);
+    QPalette dark = page.palette();
+    dark.setColor(QPalette::Base, Qt::black);
+    dark.setColor(QPalette::Link, Qt::darkBlue);
+    page.setPalette(dark);
+    Settle();
+    EXPECT_GT(link(), 150);
 }
 
 TEST_F(HelpWindows, keep_their_lines_short_in_a_wide_window) {
