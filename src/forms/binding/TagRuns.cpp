@@ -2,6 +2,7 @@
 
 #include "config/Vocabulary.h"
 #include "forms/editors/NumericFields.h"
+#include "forms/program/HelpFile.h"
 #include "forms/station/GiveBack.h"
 
 namespace gfc::forms {
@@ -39,7 +40,7 @@ bool TagRuns::KeyDown(ui::Key key) {
 
 void TagRuns::Help() {
     const int context = TreeAGA.Count() == 0 ? 0 : binding::ContextOfRoot(TreeAGA.At(node::Root).Text);
-    program_.Screen.OpenHelp("AGA.chm", context);
+    program_.Screen.OpenHelp(HelpFile, context);
 }
 
 void TagRuns::Tell(const std::string& title, const std::string& text, ui::Icon icon) {

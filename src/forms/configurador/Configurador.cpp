@@ -1,5 +1,6 @@
 #include "forms/configurador/Configurador.h"
 
+#include "forms/program/HelpFile.h"
 #include "forms/program/MainWindow.h"
 
 namespace gfc::forms {
@@ -105,7 +106,7 @@ bool Configurador::KeyDown(ui::Key key) {
 }
 
 void Configurador::OpenHelp() {
-    program_.Screen.OpenHelp("AGA.chm", firstHelpContext + 100 * SSTab2.Tab());
+    program_.Screen.OpenHelp(HelpFile, firstHelpContext + 100 * SSTab2.Tab());
 }
 
 } // namespace gfc::forms

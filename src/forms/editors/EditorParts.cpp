@@ -1,5 +1,6 @@
 #include "forms/editors/EditorParts.h"
 
+#include "forms/program/HelpFile.h"
 #include "forms/station/GiveBack.h"
 
 namespace gfc::forms {
@@ -40,7 +41,7 @@ void CopyMechanical(Session& session, int run) {
 }
 
 void OpenEditorHelp(ui::Screen& screen, const ui::CommandButton& helpButton, int context) {
-    screen.OpenHelp("AGA.chm", helpButton.Visible() && helpButton.Enabled() ? context : 0);
+    screen.OpenHelp(HelpFile, helpButton.Visible() && helpButton.Enabled() ? context : 0);
 }
 
 void CancelEditor(Program& program, ui::Form& editor, const std::string& title, const std::string& question) {

@@ -1,6 +1,7 @@
 #include "forms/editors/FrAccelabar.h"
 
 #include "forms/editors/NumericFields.h"
+#include "forms/program/HelpFile.h"
 
 #include <array>
 
@@ -58,7 +59,7 @@ FrAccelabar::FrAccelabar(Program& program) : ProgramForm(program, "FrAccelabar",
     Command2.OnClick = [this] { CancelMechanicalEditor(program_, *this); };
     Command3.OnClick = [this] { SetDefaults(); };
     // Deliberately not by the state of the button, as in the other editors.
-    Command4.OnClick = [this] { program_.Screen.OpenHelp("AGA.chm", helpContext); };
+    Command4.OnClick = [this] { program_.Screen.OpenHelp(HelpFile, helpContext); };
     DisableAll(Option1);
     ShowFields(false);
 }

@@ -1,6 +1,7 @@
 #include "forms/files/CopyCommands.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
+#include "forms/program/HelpFile.h"
 #include "forms/runs/RunCommands.h"
 #include "forms/station/StationCommands.h"
 
@@ -10,7 +11,6 @@ namespace gfc::forms {
 
 namespace {
 
-constexpr const char* helpFile = "AGA.chm";
 constexpr int stationsContext = 2300;
 constexpr int commonContext = 2000;
 
@@ -71,7 +71,7 @@ bool GFCPrincipal::KeyDown(ui::Key key) {
 
 void GFCPrincipal::OpenHelp(ui::Key key) {
     // The viewer is deliberately called whatever the key; it is the page that depends on it.
-    program_.Screen.OpenHelp(helpFile, key == ui::Key::F1 ? HelpContext() : 0);
+    program_.Screen.OpenHelp(HelpFile, key == ui::Key::F1 ? HelpContext() : 0);
 }
 
 // 0 where nothing that is visible has a page of its own.

@@ -5,6 +5,7 @@
 #include "config/Vocabulary.h"
 #include "forms/binding/UnusedTags.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/HelpFile.h"
 #include "forms/station/IOReports.h"
 #include "forms/station/StationCommands.h"
 #include "forms/station/Step.h"
@@ -80,7 +81,7 @@ bool EnoughTagsAreFree(Program& program) {
                         .Text = "Error : There are not enough available tags to make this configuration, "
                                 "please make more tags available using the I/O Workshop",
                         .HelpContext = MinimumIOContext,
-                        .HelpFile = "AGA.chm"});
+                        .HelpFile = HelpFile});
     return false;
 }
 

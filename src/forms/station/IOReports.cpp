@@ -1,14 +1,11 @@
 #include "forms/station/IOReports.h"
 
+#include "forms/program/HelpFile.h"
 #include "forms/program/Program.h"
 
 #include <algorithm>
 
 namespace gfc::forms {
-
-namespace {
-constexpr const char* helpFile = "AGA.chm";
-} // namespace
 
 project::StationCapacity CapacityOf(const Session& session) {
     return {session.Inventory, session.Modules};
@@ -21,7 +18,7 @@ void ReportIOShortage(Program& program, project::ShortageKind kind) {
          .Text = project::IOShortageText(kind, std::max(1, program.Session.Station.ActiveRunCount)),
          .TheIcon = ui::Icon::Exclamation,
          .HelpContext = MinimumIOContext,
-         .HelpFile = helpFile});
+         .HelpFile = HelpFile});
 }
 
 int MaximumRuns(Program& program, bool isAGA7, bool show) {
@@ -32,7 +29,7 @@ int MaximumRuns(Program& program, bool isAGA7, bool show) {
                             .Text = text,
                             .TheIcon = ui::Icon::Information,
                             .HelpContext = MinimumIOContext,
-                            .HelpFile = helpFile});
+                            .HelpFile = HelpFile});
     return runs;
 }
 

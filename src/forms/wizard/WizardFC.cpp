@@ -2,6 +2,7 @@
 
 #include "config/Units.h"
 #include "config/Vocabulary.h"
+#include "forms/program/HelpFile.h"
 
 #include <array>
 
@@ -167,7 +168,7 @@ bool WizardFC::KeyDown(ui::Key key) {
 }
 
 void WizardFC::OpenHelp() {
-    program_.Screen.OpenHelp("AGA.chm", FirstHelpContext + 100 * wizard.Tab());
+    program_.Screen.OpenHelp(HelpFile, FirstHelpContext + 100 * wizard.Tab());
 }
 
 } // namespace gfc::forms
