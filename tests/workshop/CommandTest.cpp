@@ -44,7 +44,11 @@ TEST_F(Command, new_makes_an_empty_project_and_no_second_one) {
     const Outcome wrongName = Run("new " + Quoted("north.db"));
     EXPECT_EQ(wrongName.Status, 1);
     EXPECT_THAT(wrongName.Output, HasSubstr("a project's name ends in \".KPJ\""));
-    EXPECT_THAT(Run("new " + Quoted("no/north.KPJ")).Output, HasSubstr("there is no such folder"));
+    EXPECT_EQ(Run("new " + Quoted("new/folder/north.KPJ")).Status, 0);
+    EXPECT_EQ(Run("open " + Quoted("new/folder/north.KPJ")).Status, 0);
+    const Outcome noFolder = Run("new " + Quoted("north.KPJ/north.KPJ"));
+    EXPECT_EQ(noFolder.Status, 1);
+    EXPECT_THAT(noFolder.Output, HasSubstr("north.KPJ: the folder cannot be made: "));
 }
 
 TEST_F(Command, open_shows_and_close_forgets_the_open_project) {

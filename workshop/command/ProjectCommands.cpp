@@ -3,6 +3,7 @@
 #include "workshop/store/Failure.h"
 #include "workshop/store/OpenProject.h"
 #include "workshop/store/Stations.h"
+#include "workshop/store/WholeFile.h"
 #include "workshop/text/Paths.h"
 
 #include <CLI/CLI.hpp>
@@ -28,9 +29,7 @@ void TellHowToOpen(const fs::path& file) {
 void NewProject(const std::string& path) {
     const fs::path file = WholePath(path);
     CheckProjectPath(file);
-    if (!fs::is_directory(file.parent_path())) {
-        throw Failure(PathText(file.parent_path()) + ": there is no such folder; make it first.");
-    }
+    MakeFolder(file.parent_path());
     static_cast<void>(Project::Create(file));
     std::cout << "Made the empty project " << PathText(file) << ".\n";
     TellHowToOpen(file);
@@ -72,7 +71,10 @@ void CloseProject() {
 void AddNew(CLI::App& app) {
     auto path = std::make_shared<std::string>();
     CLI::App* command = app.add_subcommand("new", "Make a new, empty project");
-    command->add_option("PROJECT.KPJ", *path, "File of the project; its name ends in .KPJ")->required();
+    command
+        ->add_option("PROJECT.KPJ", *path,
+                     "File of the project; its name ends in .KPJ, its folder is made if needed")
+        ->required();
     command->footer("Example:\n  io-workshop new ~/jobs/north.KPJ");
     command->callback([path] { NewProject(*path); });
 }

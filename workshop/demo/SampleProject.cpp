@@ -63,14 +63,6 @@ void FillProject(const fs::path& file, const fs::path& configuration) {
     transaction.Commit();
 }
 
-void MakeFolder(const fs::path& folder) {
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (error) {
-        throw Failure(PathText(folder) + ": the folder cannot be made: " + error.message() + ".");
-    }
-}
-
 } // namespace
 
 SampleFiles SampleFilesIn(const fs::path& folder) {

@@ -23,6 +23,14 @@ bool WriteTo(const fs::path& file, std::string_view bytes) {
 
 } // namespace
 
+void MakeFolder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw Failure(PathText(folder) + ": the folder cannot be made: " + error.message() + ".");
+    }
+}
+
 std::string ReadWhole(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     if (!in || fs::is_directory(file)) { // a folder opens like a file and fails later

@@ -1,4 +1,4 @@
-// Files read and written as a whole.
+// Files read and written as a whole, and the folders for them.
 #pragma once
 
 #include <filesystem>
@@ -6,6 +6,9 @@
 #include <string_view>
 
 namespace gfc::workshop {
+
+/// Makes the folder and those above it, as far as they are not there. Throws Failure when that cannot be done.
+void MakeFolder(const std::filesystem::path& folder);
 
 /// The bytes of the file. Throws Failure when it cannot be read.
 [[nodiscard]] std::string ReadWhole(const std::filesystem::path& file);
