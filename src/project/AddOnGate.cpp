@@ -1,10 +1,12 @@
 #include "project/AddOnGate.h"
 
 #include "platform/Files.h"
+#include "platform/ForeignMemory.h"
 #include "project/AddOnInterface.h"
 #include "services/CodePage.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <vector>
 
@@ -95,6 +97,15 @@ Record RecordAt(const void* array, std::int32_t index) {
     return record;
 }
 
+// False for a count or a pointer that cannot be: none, or more records than there is memory to read behind
+// it.
+template <class Record>
+bool HoldsRecords(const void* array, std::int32_t count) {
+    if (array == nullptr || count <= 0 || static_cast<std::size_t>(count) > SIZE_MAX / sizeof(Record))
+        return false;
+    return platform::IsReadable(array, static_cast<std::size_t>(count) * sizeof(Record));
+}
+
 Station StationOf(const StationRecord& record) {
     return {TextOf(record.Name), TextOf(record.Type), TextOf(record.Address), record.SerialNumber};
 }
@@ -137,7 +148,7 @@ std::optional<std::vector<Station>> AddOnGate::GetStations() {
     if (call_.GetStaList(&count, &array, 1, "") == 0)
         return std::nullopt;
     std::vector<Station> stations;
-    if (count <= 0 || array == nullptr)
+    if (!HoldsRecords<StationRecord>(array, count))
         return stations;
     for (std::int32_t i = 0; i < count; ++i)
         stations.push_back(StationOf(RecordAt<StationRecord>(array, i)));
@@ -157,9 +168,9 @@ TagList AddOnGate::ReadTags(const std::string& station, const std::string& proje
     if (count <= 0)
         return {};
     TagList tags;
-    if (array != nullptr)
-        tags.reserve(static_cast<std::size_t>(count));
-    for (std::int32_t i = 0; array != nullptr && i < count; ++i) {
+    const std::int32_t held = HoldsRecords<TagRecord>(array, count) ? count : 0;
+    tags.reserve(static_cast<std::size_t>(held));
+    for (std::int32_t i = 0; i < held; ++i) {
         tags.push_back(TagOf(RecordAt<TagRecord>(array, i)));
         if (onTag)
             onTag(tags.back().TagName);
@@ -201,6 +212,11 @@ std::string AddOnFileName() {
 
 std::unique_ptr<AddOnLibrary> LoadAddOnLibrary(const LibraryLoader& load, const std::string& programFolder,
                                                std::string& error) {
+    // Without a folder the path would lead to the root, and to whatever library stands there.
+    if (programFolder.empty()) {
+        error = "The folder of the program is not known";
+        return nullptr;
+    }
     const std::string path = programFolder + platform::Separator + AddOnFileName();
     auto loaded = load(path);
     error = loaded.Error;

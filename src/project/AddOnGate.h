@@ -17,7 +17,8 @@ using LibraryLoader = std::function<platform::LibraryLoad(const std::string& ful
 // "kdaddon_VBwrapper" with this machine's ending.
 [[nodiscard]] std::string AddOnFileName();
 
-// Loads the library from that folder (no separator at its end) and from nowhere else. Null on failure; error
+// Loads the library from that folder (no separator at its end) and from nowhere else; an empty folder is a
+// failure. Null on failure; error
 // then names the file and the reason, or the first function that is called and that the library lacks.
 [[nodiscard]] std::unique_ptr<AddOnLibrary>
 LoadAddOnLibrary(const LibraryLoader& load, const std::string& programFolder, std::string& error);

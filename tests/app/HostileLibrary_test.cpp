@@ -1,0 +1,112 @@
+#ifndef _WIN32
+// The whole program on real libraries that answer what no library should.
+#include "app/Application.h"
+#include "support/TempFolder.h"
+#include "support/TestFolders.h"
+#include "support/World.h"
+
+#include <gtest/gtest.h>
+
+namespace gfc::test {
+
+namespace {
+
+struct HostileRow {
+    const char* Name;
+    std::size_t Stations; // so many must be believed
+    std::size_t Tags;
+};
+
+// In the order of the library's own ways.
+// clang-format off
+const HostileRow ways[] = {
+    {"null_arrays",         0, 0},
+    {"negative_counts",     0, 0},
+    {"largest_counts",      0, 0},
+    {"one_record_too_many", 0, 0},
+    {"wild_pointers",       0, 0},
+    {"no_access",           0, 0},
+    {"unterminated",        3, 3},
+    {"misaligned",          3, 3},
+    {"nothing_written",     0, 0},
+    {"writes_back",         3, 3},
+};
+// clang-format on
+
+// A folder with the library in it under the name by which it is looked for.
+class HostileLibrary : public testing::TestWithParam<std::size_t> {
+protected:
+    HostileLibrary() {
+        std::filesystem::copy_file(BinFolder() / "hostile_library.so", Folder.Path(project::AddOnFileName()));
+    }
+
+    platform::LibraryLoad Load(const std::string& path) const {
+        auto loaded = platform::LoadLibraryAt(path);
+        EXPECT_EQ(loaded.Error, "");
+        if (auto* const setWay = loaded.Library->FunctionOf<void(int)>("hostile_way"))
+            setWay(static_cast<int>(GetParam()));
+        return loaded;
+    }
+    [[nodiscard]] static const HostileRow& Row() { return ways[GetParam()]; }
+
+    TempFolder Folder;
+};
+
+TEST_P(HostileLibrary, gives_what_can_be_read_and_no_more) {
+    std::string error;
+    const auto library = project::LoadAddOnLibrary([this](const std::string& path) { return Load(path); },
+                                                   Folder.Path(), error);
+    ASSERT_NE(library, nullptr) << error;
+    EXPECT_EQ(library->GetProjectFile().size(), 255U);
+    const auto stations = library->GetStations();
+    ASSERT_TRUE(stations.has_value());
+    EXPECT_EQ(stations->size(), Row().Stations);
+    std::size_t told = 0;
+    const auto tags = library->ReadTags("North", "/jobs/plant.KPJ", [&told](const std::string&) { ++told; });
+    EXPECT_EQ(tags.size(), Row().Tags);
+    EXPECT_EQ(told, Row().Tags);
+    for (const auto& tag : tags)
+        EXPECT_EQ(tag.TagName, std::string(40, 'x')) << "cut at the width of its field";
+    library->AddFileToLoad("North", "/jobs/a.ini", "/etc/stacfg/kdormaga.ini");
+    EXPECT_EQ(library->RemoveFileToLoad("North", "/jobs/a.ini", "/etc/stacfg/kdormaga.ini"), -1);
+}
+
+// The window that comes up, or the word that there are no stations.
+TEST_P(HostileLibrary, leaves_the_program_alive) {
+    World world;
+    struct : platform::Paths {
+        std::string Folder;
+        std::string ExecutableFolder() override { return Folder; }
+        std::string ProfileFolder() override { return "/etc/profiles"; }
+    } paths;
+    paths.Folder = Folder.Path();
+    app::Application program(
+        {world.Files, world.TimeZone, world.Clock, world.SingleInstance, world.Launcher, paths},
+        world.Screen);
+    ASSERT_TRUE(program.Start([this](const std::string& path) { return Load(path); }));
+    const std::string station = "All Stations\\" + std::string(80, 'x');
+    world.TheStory.Tick("formInicio", "timerInicio")
+        .Type("UserIDForm", "Text1", "4711")
+        .Click("UserIDForm", "Command1");
+    if (Row().Stations == 0)
+        world.TheStory.Box("Gas Flow Computer", "Error: no stations in project", ui::Icon::Exclamation);
+    else
+        world.TheStory.ClickNode("GFCPrincipal", "TreeGFC", station)
+            .Menu("GFCPrincipal", "ConfigWiard")
+            .Box("Flow Gas Computer", "", ui::Icon::None, ui::Answer::Yes)
+            .Box("Error: Configuring AGA3", "", ui::Icon::Exclamation)
+            .Box("Error: Configuring AGA7", "", ui::Icon::Exclamation)
+            .Menu("GFCPrincipal", "exit");
+    world.Screen.RunToEnd();
+    EXPECT_TRUE(world.Screen.Ended());
+    EXPECT_TRUE(world.TheStory.Done());
+    EXPECT_TRUE(world.Files.Content.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, HostileLibrary, testing::Range(std::size_t{0}, std::size(ways)),
+                         [](const auto& played) { return ways[played.param].Name; });
+
+} // namespace
+
+} // namespace gfc::test
+#endif

@@ -1,0 +1,115 @@
+// An add-on library that answers what no library should. Which way it does is set before each call.
+#include "project/AddOnInterface.h"
+
+#include <cstring>
+#include <sys/mman.h>
+#include <unistd.h>
+#include <vector>
+
+using gfc::project::StationRecord;
+using gfc::project::TagRecord;
+using gfc::project::TagRequest;
+
+namespace {
+
+// In the order of the test's table.
+enum class Way {
+    NullArrays,
+    NegativeCounts,
+    LargestCounts,
+    OneRecordTooMany, // the array ends where the memory does
+    WildPointers,
+    NoAccess,
+    Unterminated,
+    Misaligned,
+    NothingWritten, // success, and the caller's own variables left as they were
+    WritesBack,     // all over the texts that it was handed
+};
+
+constexpr std::int32_t Records = 3;
+Way theWay = Way::NullArrays;
+
+// So many bytes that the first one behind them belongs to nobody.
+char* UpToTheEdge(std::size_t size) {
+    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    auto* const pages = static_cast<char*>(
+        ::mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ::mprotect(pages + page, page, PROT_NONE);
+    return pages + page - size;
+}
+
+template <class Record>
+void* Array() {
+    static std::vector<char> room;
+    switch (theWay) {
+    case Way::NullArrays:
+        return nullptr;
+    case Way::OneRecordTooMany:
+        return UpToTheEdge((Records - 1) * sizeof(Record));
+    case Way::WildPointers:
+        return reinterpret_cast<void*>(0x10);
+    case Way::NoAccess:
+        return UpToTheEdge(0);
+    default:
+        room.assign(Records * sizeof(Record) + 1, 'x'); // no NUL anywhere
+        return room.data() + (theWay == Way::Misaligned ? 1 : 0);
+    }
+}
+
+std::int32_t Count() {
+    return theWay == Way::NegativeCounts ? INT32_MIN : theWay == Way::LargestCounts ? INT32_MAX : Records;
+}
+
+void Overwrite(char* text) {
+    if (text != nullptr && theWay == Way::WritesBack)
+        std::memset(text, 'w', 255);
+}
+
+} // namespace
+
+extern "C" {
+
+void hostile_way(int way) {
+    theWay = static_cast<Way>(way);
+}
+
+std::int32_t kdaddon_VBGetProjectFile(char* buffer, std::int32_t size) {
+    std::memset(buffer, 'p', static_cast<std::size_t>(size));
+    std::memcpy(buffer, "/jobs/", 6);
+    return 1;
+}
+
+std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int32_t, const char*) {
+    if (theWay == Way::NothingWritten)
+        return 1;
+    *count = Count();
+    *stations = Array<StationRecord>();
+    return 1;
+}
+
+void kdaddon_VBFreeData(void*) {}
+
+std::int32_t kdaddon_VBReadTagList(TagRequest* request, void** tags) {
+    std::memset(request, 'r', sizeof *request);
+    if (theWay != Way::NothingWritten)
+        *tags = Array<TagRecord>();
+    return Count();
+}
+
+void kdaddon_VBFreeTagList() {}
+
+std::int32_t kdaddon_VBAddFileToLoad(char* station, char* local, char* target, std::int32_t, char* text) {
+    for (char* given : {station, local, target, text})
+        Overwrite(given);
+    return -1;
+}
+
+std::int16_t kdaddon_VBRemoveFileToLoad(char* station, char* local, char* target, char* text) {
+    for (char* given : {station, local, target, text})
+        Overwrite(given);
+    return -1;
+}
+
+void kdaddon_VBCoInitialize() {}
+
+} // extern "C"
