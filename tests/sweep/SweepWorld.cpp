@@ -150,7 +150,7 @@ void SweepWorld::TellLook(const Choice& choice, const PlainFile& file) {
 }
 
 void SweepWorld::TellTree(const Choice& choice) {
-    TheStory.Check([this, choice](Driver& d) {
+    TheStory.Check([choice](Driver& d) {
         EXPECT_EQ(d.NodeImage(window, tree, north), "StationConfig");
         for (int run = 1; run <= 5; ++run) {
             const bool on = std::count(choice.Runs.begin(), choice.Runs.end(), run) > 0;
@@ -159,7 +159,7 @@ void SweepWorld::TellTree(const Choice& choice) {
                 on ? "Run" : "NoRun");
         }
     });
-    TheStory.Check([this, choice](Driver& d) { EXPECT_EQ(d.Cell(window, "ListView1", 1, 1), "Yes"); });
+    TheStory.Check([choice](Driver& d) { EXPECT_EQ(d.Cell(window, "ListView1", 1, 1), "Yes"); });
 }
 
 void SweepWorld::SeeHeadings(const std::vector<std::string>& headings, const std::string& where) {

@@ -10,7 +10,6 @@ namespace {
 
 constexpr int AGA3 = 0;
 constexpr int AGA7 = 1;
-constexpr int Accelabar = 2;
 constexpr int GBT = 3;
 constexpr int US = 0;
 constexpr int PracticalSI = 4;

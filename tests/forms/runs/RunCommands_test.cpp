@@ -74,7 +74,7 @@ TEST_F(DisableRun, does_not_make_a_file_anew_that_has_gone) {
     TheStory.Do("delete the file from outside", [this](Driver&) { Files.Content.clear(); });
     TheStory.Menu("GFCPrincipal", "dRun");
     TheStory.Check(
-        [this](Driver& d) { EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", North), "StationNoConfig"); });
+        [](Driver& d) { EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", North), "StationNoConfig"); });
     Play();
     EXPECT_TRUE(Files.Content.empty());
 }

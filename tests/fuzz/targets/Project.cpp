@@ -1,0 +1,96 @@
+#include "fuzz/Input.h"
+#include "fuzz/MemoryVfs.h"
+#include "fuzz/Target.h"
+#include "support/TempFolder.h"
+#include "workshop/library/Records.h"
+#include "workshop/store/Failure.h"
+#include "workshop/store/FilesToLoad.h"
+#include "workshop/store/Stations.h"
+#include "workshop/store/Tags.h"
+
+#include <algorithm>
+
+// Any bytes as a project of the stand-in workshop: it is refused in words, or it answers.
+namespace gfc::fuzz {
+
+namespace {
+
+using workshop::Access;
+
+// The bytes of a small project of the workshop's own making.
+std::string MakeSound() {
+    const std::string path = "sound.KPJ";
+    auto project = workshop::Project::Create(path);
+    const auto north = AddStation(project, {0, "North", "Orm", "10.0.0.1", 7});
+    (void)AddStation(project, {0, "South", "", "", 0});
+    workshop::TagAppender tags(project, north);
+    tags.Append({"FT-1", "FX", 1, "VF0", "Virtual Module", "Flow"});
+    tags.Append({"XV-1", "Y", 2, "DO", "DO-16 Card", ""});
+    (void)AddFileToLoad(project, {"North", "a.ini", "/etc/b.ini", -1});
+    project.MarkAsSample();
+    // Small pages, so that what is damaged is seldom empty.
+    project.Data().Run("PRAGMA page_size = 512; VACUUM");
+    return MemoryFile(path);
+}
+
+const std::string& Sound() {
+    static const std::string sound = MakeSound();
+    return sound;
+}
+
+// A sound project with bytes of it replaced here and there.
+std::string Damaged(Input& input) {
+    std::string bytes = Sound();
+    while (!input.IsEmpty()) {
+        const std::size_t at = (input.Byte() * 256u + input.Byte()) % bytes.size();
+        const std::string_view patch = input.Text(31);
+        bytes.replace(at, std::min(patch.size(), bytes.size() - at), patch);
+    }
+    return bytes;
+}
+
+// A path at which a file stands on disk too, as a project is looked for there; nobody reads that one.
+const std::string& ProjectPath() {
+    static const test::TempFolder folder;
+    static const std::string path = folder.Put("p.KPJ", "");
+    return path;
+}
+
+void Look(workshop::Project& project) {
+    for (const auto& station : ListStations(project)) {
+        (void)workshop::TagRecords(project, station.Name);
+        (void)CountTags(project, station.Id);
+    }
+    (void)StationRecords(project);
+    (void)ListFilesToLoad(project);
+    (void)project.IsSample();
+}
+
+void Change(workshop::Project& project) {
+    (void)AddFileToLoad(project, {"North", "a.ini", "/etc/a.ini", -1});
+    (void)RemoveFileToLoad(project, "North", "/etc/a.ini");
+    if (const auto station = FindStation(project, "North"))
+        workshop::RenameTag(project, station->Id, "FT-1", "FT-2");
+}
+
+} // namespace
+
+void Project(std::string_view bytes) {
+    static const bool inMemory = (UseMemoryVfs(), true);
+    (void)inMemory;
+    Input input(bytes);
+    const std::size_t what = input.Below(4);
+    const std::string project = what < 2 ? Damaged(input) : std::string(input.Rest());
+    ForgetMemoryFiles(); // with what an earlier one left beside it
+    MemoryFile(ProjectPath()) = project;
+    try {
+        auto opened = workshop::Project::Open(ProjectPath(), what % 2 == 0 ? Access::Read : Access::Write);
+        Look(opened);
+        if (what % 2 != 0)
+            Change(opened);
+    } catch (const workshop::Failure& failure) {
+        Require(*failure.what() != '\0', "a refusal says why");
+    }
+}
+
+} // namespace gfc::fuzz
