@@ -121,7 +121,8 @@ def main():
     arguments = parser.parse_args()
     part, parts = (int(number) for number in arguments.part.split("/"))
     folder = ROOT / "build" / "mutation" / f"part{part}"
-    tree, build = copy_tree(folder), tree / "build"
+    tree = copy_tree(folder)
+    build = tree / "build"
     everything = [mutant for mutant in all_mutants(tree) if arguments.only in mutant.name]
     sample = random.Random(arguments.seed).sample(everything, min(arguments.count, len(everything)))
     print(f"{len(everything)} mutants in all, {len(sample)} in the sample", flush=True)
