@@ -31,6 +31,7 @@ void Update(std::string_view bytes);
 void Reader(std::string_view bytes);
 void Check(std::string_view bytes);
 void Wire(std::string_view bytes);
+void Csv(std::string_view bytes);
 void Project(std::string_view bytes);
 void Entry(std::string_view bytes);
 void ContractTime(std::string_view bytes);

@@ -145,7 +145,10 @@ char SeparatorOf(std::string_view text) {
 } // namespace
 
 CsvTable ReadCsv(const std::filesystem::path& file) {
-    std::string text = ReadWhole(file);
+    return ReadCsv(ReadWhole(file), file);
+}
+
+CsvTable ReadCsv(std::string text, const std::filesystem::path& file) {
     RefuseStrangers(file, text);
     CsvTable table;
     table.Note = Decode(text);

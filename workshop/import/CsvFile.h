@@ -25,5 +25,7 @@ struct CsvTable {
 /// row has most of; lines ended in any way; UTF-8, or else Windows-1252. Blanks around unquoted fields are
 /// taken away. Throws Failure when the file cannot be read, is no text, or its quotes do not pair.
 [[nodiscard]] CsvTable ReadCsv(const std::filesystem::path& file);
+/// The same with the bytes of the file, which is only named.
+[[nodiscard]] CsvTable ReadCsv(std::string text, const std::filesystem::path& file);
 
 } // namespace gfc::workshop

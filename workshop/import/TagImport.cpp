@@ -59,7 +59,10 @@ bool StationPlan::ChangesAnything() const {
 }
 
 ImportPlan PlanImport(Project& project, const std::filesystem::path& csv, ImportMode mode) {
-    CsvTable file = ReadCsv(csv);
+    return PlanTable(project, ReadCsv(csv), mode);
+}
+
+ImportPlan PlanTable(Project& project, CsvTable file, ImportMode mode) {
     TagTable table = ReadTagTable(file.Rows);
     ImportPlan plan;
     plan.Note = std::move(file.Note);
@@ -76,8 +79,12 @@ ImportPlan PlanImport(Project& project, const std::filesystem::path& csv, Import
 }
 
 ImportPlan ImportTags(Project& project, const std::filesystem::path& csv, ImportMode mode) {
+    return ImportTable(project, ReadCsv(csv), mode);
+}
+
+ImportPlan ImportTable(Project& project, CsvTable file, ImportMode mode) {
     Transaction transaction(project.Data()); // what was planned on must still hold when it is changed
-    ImportPlan plan = PlanImport(project, csv, mode);
+    ImportPlan plan = PlanTable(project, std::move(file), mode);
     for (const StationPlan& station : plan.Stations) {
         Store(project, station);
     }

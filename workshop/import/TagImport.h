@@ -47,9 +47,11 @@ struct ImportPlan {
 /// far, as tags of one module are delivered together, and else at the end, in the order of the rows; a
 /// replacing table gives the order itself. Throws Failure when the file or the project cannot be read.
 [[nodiscard]] ImportPlan PlanImport(Project& project, const std::filesystem::path& csv, ImportMode mode);
+[[nodiscard]] ImportPlan PlanTable(Project& project, CsvTable file, ImportMode mode);
 
 /// Plans and carries the plan out, all of it, or nothing when there are complaints. Throws Failure like
 /// PlanImport, and when the project cannot be written.
 [[nodiscard]] ImportPlan ImportTags(Project& project, const std::filesystem::path& csv, ImportMode mode);
+[[nodiscard]] ImportPlan ImportTable(Project& project, CsvTable file, ImportMode mode);
 
 } // namespace gfc::workshop

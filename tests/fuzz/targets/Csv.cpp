@@ -1,0 +1,57 @@
+#include "fuzz/Input.h"
+#include "fuzz/MemoryVfs.h"
+#include "fuzz/Target.h"
+#include "workshop/export/TagExport.h"
+#include "workshop/import/TagImport.h"
+#include "workshop/store/Failure.h"
+
+#include <algorithm>
+
+// Any bytes as a table of tags: refused in words, or taken in, and then written out as a table that says the
+// same.
+namespace gfc::fuzz {
+
+namespace {
+
+using workshop::ImportMode;
+
+// An empty project, for as long as the process runs.
+workshop::Project& EmptyProject() {
+    static auto project = [] {
+        UseMemoryVfs();
+        return workshop::Project::Create("csv.KPJ");
+    }();
+    return project;
+}
+
+bool ChangesNothing(const workshop::ImportPlan& plan) {
+    return plan.Complaints.empty() &&
+           std::ranges::none_of(plan.Stations, [](const auto& station) { return station.ChangesAnything(); });
+}
+
+void CheckRoundTrip(workshop::Project& project, char separator) {
+    const std::string text = TagTableText(StationTagsOf(project, ""), separator);
+    const auto again = PlanTable(project, workshop::ReadCsv(text, "again.csv"), ImportMode::Replace);
+    Require(ChangesNothing(again), "what was taken in is written out and comes back");
+}
+
+} // namespace
+
+void Csv(std::string_view bytes) {
+    Input input(bytes);
+    const std::size_t what = input.Byte();
+    const ImportMode mode = what % 2 == 0 ? ImportMode::Merge : ImportMode::Replace;
+    auto& project = EmptyProject();
+    try {
+        const auto table = workshop::ReadCsv(std::string(input.Rest()), "tags.csv");
+        const auto plan = ImportTable(project, table, mode);
+        Require(plan.Complaints.empty() || plan.Stations.empty(), "a table with a fault is not taken");
+        if (!plan.Stations.empty())
+            CheckRoundTrip(project, what % 3 == 0 ? ',' : ';');
+    } catch (const workshop::Failure& failure) {
+        Require(*failure.what() != '\0', "a refusal says why");
+    }
+    project.Data().Run("DELETE FROM tags; DELETE FROM modules; DELETE FROM stations");
+}
+
+} // namespace gfc::fuzz
