@@ -18,7 +18,8 @@ namespace {
 
 std::vector<std::filesystem::path> CorpusOf(const Target& target) {
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::directory_iterator(test::CorpusFolder() / target.Name))
+    for (const auto& entry : std::filesystem::directory_iterator(test::GoldenFolder().parent_path() /
+                                                                 "fuzz/corpus" / target.Name))
         files.push_back(entry.path());
     std::ranges::sort(files);
     return files;

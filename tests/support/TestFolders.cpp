@@ -9,13 +9,8 @@ std::filesystem::path GoldenFolder() {
     return std::filesystem::path(GFC_TEST_DATA) / "golden";
 }
 
-<<<<<<< HEAD
 std::filesystem::path SourceFolder() {
     return std::filesystem::path(GFC_TEST_DATA).parent_path() / "src";
-=======
-std::filesystem::path CorpusFolder() {
-    return std::filesystem::path(GFC_TEST_DATA) / "fuzz/corpus";
->>>>>>> 2791287 (Fuzz what reads foreign bytes, and mutate what decides)
 }
 
 std::filesystem::path BinFolder() {

@@ -9,13 +9,8 @@ namespace gfc::test {
 
 [[nodiscard]] std::filesystem::path GoldenFolder();
 
-<<<<<<< HEAD
 // The program's own sources, for tests of what it says.
 [[nodiscard]] std::filesystem::path SourceFolder();
-=======
-// Where the fuzzers' kept inputs stand, a folder for each target.
-[[nodiscard]] std::filesystem::path CorpusFolder();
->>>>>>> 2791287 (Fuzz what reads foreign bytes, and mutate what decides)
 
 // The programs and libraries of this build.
 [[nodiscard]] std::filesystem::path BinFolder();
