@@ -115,27 +115,44 @@ int FullPath(sqlite3_vfs* /*vfs*/, const char* name, int size, char* path) {
     return SQLITE_OK;
 }
 
+// The default one, before anything else became it.
+sqlite3_vfs& MachineVfs() {
+    static sqlite3_vfs& vfs = *sqlite3_vfs_find(nullptr);
+    return vfs;
+}
+
+// All but files, such as the time, comes from the machine's own.
+sqlite3_vfs& MemoryVfs() {
+    static sqlite3_vfs vfs = [] {
+        sqlite3_vfs made = MachineVfs();
+        made.szOsFile = sizeof(OpenFile);
+        made.pNext = nullptr;
+        made.zName = "memory-files";
+        made.xOpen = Open;
+        made.xDelete = Delete;
+        made.xAccess = Access;
+        made.xFullPathname = FullPath;
+        return made;
+    }();
+    return vfs;
+}
+
 } // namespace
 
 void UseMemoryVfs() {
-    // All else, such as the time, comes from the machine's own.
-    static sqlite3_vfs vfs = *sqlite3_vfs_find(nullptr);
-    vfs.szOsFile = sizeof(OpenFile);
-    vfs.pNext = nullptr;
-    vfs.zName = "memory-files";
-    vfs.xOpen = Open;
-    vfs.xDelete = Delete;
-    vfs.xAccess = Access;
-    vfs.xFullPathname = FullPath;
-    sqlite3_vfs_register(&vfs, 1);
+    sqlite3_vfs_register(&MemoryVfs(), 1);
+}
+
+void UseMachineVfs() {
+    sqlite3_vfs_register(&MachineVfs(), 1);
 }
 
 std::string& MemoryFile(const std::string& path) {
     return Files()[path];
 }
 
-void ForgetMemoryFiles() {
-    Files().clear();
+void ForgetMemoryFiles(const std::string& start) {
+    std::erase_if(Files(), [&](const auto& file) { return file.first.starts_with(start); });
 }
 
 } // namespace gfc::fuzz

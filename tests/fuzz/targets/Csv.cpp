@@ -1,5 +1,5 @@
 #include "fuzz/Input.h"
-#include "fuzz/MemoryVfs.h"
+#include "fuzz/MemoryProject.h"
 #include "fuzz/Target.h"
 #include "workshop/export/TagExport.h"
 #include "workshop/import/TagImport.h"
@@ -17,10 +17,8 @@ using workshop::ImportMode;
 
 // An empty project, for as long as the process runs.
 workshop::Project& EmptyProject() {
-    static auto project = [] {
-        UseMemoryVfs();
-        return workshop::Project::Create("csv.KPJ");
-    }();
+    static const auto path = PutProject("csv.KPJ", [](workshop::Project&) {});
+    static auto project = workshop::Project::Open(path, workshop::Access::Write);
     return project;
 }
 

@@ -1,7 +1,6 @@
 #include "fuzz/Input.h"
-#include "fuzz/MemoryVfs.h"
+#include "fuzz/MemoryProject.h"
 #include "fuzz/Target.h"
-#include "support/TempFolder.h"
 #include "workshop/library/Records.h"
 #include "workshop/store/Failure.h"
 #include "workshop/store/FilesToLoad.h"
@@ -17,10 +16,7 @@ namespace {
 
 using workshop::Access;
 
-// The bytes of a small project of the workshop's own making.
-std::string MakeSound() {
-    const std::string path = "sound.KPJ";
-    auto project = workshop::Project::Create(path);
+void Fill(workshop::Project& project) {
     const auto north = AddStation(project, {0, "North", "Orm", "10.0.0.1", 7});
     (void)AddStation(project, {0, "South", "", "", 0});
     workshop::TagAppender tags(project, north);
@@ -30,11 +26,15 @@ std::string MakeSound() {
     project.MarkAsSample();
     // Small pages, so that what is damaged is seldom empty.
     project.Data().Run("PRAGMA page_size = 512; VACUUM");
-    return MemoryFile(path);
+}
+
+const std::string& ProjectPath() {
+    static const std::string path = PutProject("p.KPJ", Fill);
+    return path;
 }
 
 const std::string& Sound() {
-    static const std::string sound = MakeSound();
+    static const std::string sound = MemoryFile(ProjectPath());
     return sound;
 }
 
@@ -47,13 +47,6 @@ std::string Damaged(Input& input) {
         bytes.replace(at, std::min(patch.size(), bytes.size() - at), patch);
     }
     return bytes;
-}
-
-// A path at which a file stands on disk too, as a project is looked for there; nobody reads that one.
-const std::string& ProjectPath() {
-    static const test::TempFolder folder;
-    static const std::string path = folder.Put("p.KPJ", "");
-    return path;
 }
 
 void Look(workshop::Project& project) {
@@ -76,12 +69,11 @@ void Change(workshop::Project& project) {
 } // namespace
 
 void Project(std::string_view bytes) {
-    static const bool inMemory = (UseMemoryVfs(), true);
-    (void)inMemory;
+    (void)Sound(); // before anything else stands at its path
     Input input(bytes);
     const std::size_t what = input.Below(4);
     const std::string project = what < 2 ? Damaged(input) : std::string(input.Rest());
-    ForgetMemoryFiles(); // with what an earlier one left beside it
+    ForgetMemoryFiles(ProjectPath()); // with what an earlier one left beside it
     MemoryFile(ProjectPath()) = project;
     try {
         auto opened = workshop::Project::Open(ProjectPath(), what % 2 == 0 ? Access::Read : Access::Write);
