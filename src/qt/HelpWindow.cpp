@@ -1,5 +1,6 @@
 #include "qt/HelpWindow.h"
 
+#include "qt/HelpContents.h"
 #include "qt/HelpHits.h"
 #include "qt/HelpView.h"
 
@@ -14,17 +15,16 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <algorithm>
+#include <functional>
+#include <initializer_list>
 
 namespace gfc::qt {
 
 namespace {
 
 constexpr const char* windowName = "HelpWindow";
-constexpr int fileRole = Qt::UserRole;
 
 template <class W>
 W* WithNames(W* widget, const char* name, const QString& accessibleName) {
@@ -42,10 +42,6 @@ QToolButton* Button(const char* name, const QString& text, Qt::ArrowType arrow) 
     return button;
 }
 
-QString FileOf(const QTreeWidgetItem* item) {
-    return item == nullptr ? QString() : item->data(0, fileRole).toString();
-}
-
 QSize FittingSize(const QWidget& window) {
     constexpr QSize wished(960, 680);
     const QScreen* screen = window.screen();
@@ -56,19 +52,18 @@ QSize FittingSize(const QWidget& window) {
 
 HelpWindow::HelpWindow(const QString& folder)
     : SideWindow(windowName), folder_(folder), book_(folder), view_(new HelpView(this)),
-      words_(new QLineEdit), found_(new QLabel), side_(new QStackedWidget), contents_(new QTreeWidget),
-      hits_(new HelpHits) {
+      words_(new QLineEdit), found_(new QLabel), side_(new QStackedWidget),
+      contents_(new HelpContents(book_)), hits_(new HelpHits) {
     setWindowTitle(QStringLiteral("Help"));
     setAccessibleName(windowTitle());
     WithNames(view_, "HelpPage", QStringLiteral("Page"));
     WithNames(words_, "HelpWords", QStringLiteral("Search the manual"));
-    WithNames(found_, "HelpFound", QStringLiteral("Result of the search"));
     WithNames(contents_, "HelpContents", QStringLiteral("Contents"));
     WithNames(hits_, "HelpHits", QStringLiteral("Pages found"));
+    found_->setObjectName("HelpFound");
+    resize(FittingSize(*this));
     AddParts();
     AddActions();
-    resize(FittingSize(*this));
-    FillContents();
     Follow();
 }
 
@@ -83,6 +78,7 @@ void HelpWindow::AddParts() {
     split->addWidget(view_);
     split->setChildrenCollapsible(false);
     split->setStretchFactor(1, 1);
+    split->setSizes({contents_->WidthOfTitles(), width() - contents_->WidthOfTitles()});
     whole->addWidget(split, 1);
     setTabOrder(contents_, hits_);
     setTabOrder(hits_, view_);
@@ -109,7 +105,6 @@ void HelpWindow::AddBar(QBoxLayout& whole) {
 }
 
 void HelpWindow::AddSide(QBoxLayout& side) {
-    contents_->setHeaderHidden(true);
     side_->addWidget(contents_);
     side_->addWidget(hits_);
     found_->setWordWrap(true);
@@ -139,27 +134,9 @@ void HelpWindow::AddActions() {
     AddAction(QStringLiteral("Smaller"), QKeySequence::ZoomOut, [this] { view_->zoomOut(); });
 }
 
-void HelpWindow::FillContents() {
-    int titles = 0;
-    std::vector<QTreeWidgetItem*> above;
-    for (const HelpPage& page : book_.Pages()) {
-        above.resize(std::min(above.size(), static_cast<std::size_t>(page.Level)));
-        auto* item = above.empty() ? new QTreeWidgetItem(contents_) : new QTreeWidgetItem(above.back());
-        item->setText(0, page.Title);
-        item->setToolTip(0, page.Title);
-        item->setData(0, fileRole, page.File);
-        above.push_back(item);
-        const int inset = contents_->indentation() * static_cast<int>(above.size());
-        titles = std::max(titles, inset + fontMetrics().horizontalAdvance(page.Title));
-    }
-    contents_->expandAll();
-    const int side = titles + fontMetrics().averageCharWidth() * 6;
-    findChild<QSplitter*>()->setSizes({side, width() - side});
-}
-
 void HelpWindow::Follow() {
     connect(contents_, &QTreeWidget::currentItemChanged, this,
-            [this](const QTreeWidgetItem* item) { ShowFile(FileOf(item)); });
+            [this](const QTreeWidgetItem* item) { ShowFile(HelpContents::FileOf(item)); });
     connect(view_, &QTextBrowser::sourceChanged, this, &HelpWindow::SelectShown);
     connect(words_, &QLineEdit::textChanged, this, &HelpWindow::Search);
     connect(words_, &QLineEdit::returnPressed, this, &HelpWindow::EnterHits);
@@ -179,7 +156,6 @@ void HelpWindow::ShowFile(const QString& file) {
 }
 
 void HelpWindow::ShowContext(int context) {
-    setProperty("context", context);
     const HelpPage* page = book_.PageOf(context);
     if (page == nullptr)
         return SayThatThereIsNone();
@@ -190,9 +166,7 @@ void HelpWindow::ShowContext(int context) {
 
 void HelpWindow::SelectShown(const QUrl& source) {
     const QString file = source.fileName();
-    for (QTreeWidgetItemIterator at(contents_); *at != nullptr; ++at)
-        if (FileOf(*at) == file)
-            contents_->setCurrentItem(*at);
+    contents_->Select(file);
     const HelpPage* page = book_.PageIn(file);
     setWindowTitle(page == nullptr ? QStringLiteral("Help") : QStringLiteral("Help: ") + page->Title);
 }

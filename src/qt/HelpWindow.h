@@ -3,16 +3,17 @@
 #include "qt/HelpBook.h"
 #include "qt/SideWindow.h"
 
+#include <functional>
+
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
 class QStackedWidget;
-class QTreeWidget;
-class QTreeWidgetItem;
 class QUrl;
 
 namespace gfc::qt {
 
+class HelpContents;
 class HelpHits;
 class HelpView;
 
@@ -30,7 +31,6 @@ private:
     void AddSide(QBoxLayout& side);
     void AddActions();
     void AddAction(const QString& name, const QKeySequence& key, std::function<void()> act);
-    void FillContents();
     void Follow();
     void Search(const QString& words);
     void ShowHits(const QString& words);
@@ -46,7 +46,7 @@ private:
     QLineEdit* words_;
     QLabel* found_;
     QStackedWidget* side_;
-    QTreeWidget* contents_;
+    HelpContents* contents_;
     HelpHits* hits_;
 };
 

@@ -1,88 +1,10 @@
-#include "qt/HelpView.h"
-#include "qt/HelpWindow.h"
-#include "qt/WindowFixture.h"
-#include "support/TempFolder.h"
+#include "qt/HelpFixture.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QStackedWidget>
-#include <QTest>
 #include <QTextBlock>
-#include <QTimer>
-#include <QToolButton>
-#include <QTreeWidget>
-#include <QWindow>
-
-#include <functional>
-#include <set>
 
 namespace gfc::test {
-
-namespace {
-
-// Goes the way of a real click: a window that is blocked by a modal one does not get it.
-void ClickOn(QWidget* widget, QPoint at) {
-    QWidget* window = widget->window();
-    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, at));
-    Settle();
-}
-
-void ClickOn(QWidget* widget) {
-    ClickOn(widget, widget->rect().center());
-}
-
-void Press(QWidget* window, int key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(window->windowHandle(), static_cast<Qt::Key>(key), modifiers);
-    Settle();
-}
-
-void InModal(std::function<void()> act) {
-    QTimer::singleShot(1, qApp, std::move(act));
-}
-
-} // namespace
-
-class HelpWindows : public ProbeInWindow {
-protected:
-    HelpWindows() {
-        Folder.Put("contents.txt", "index.html 0\n  plate.html 5100\n  meter.html 7400\n");
-        Put("index", "Welcome", "<a href=\"plate.html\">Go to the plate</a>");
-        Put("plate", "Plate", "An orifice plate. A sharp orifice.");
-        Put("meter", "Meter", "No moving part, no orifice");
-    }
-    void Put(const std::string& name, const std::string& title, const std::string& text) {
-        Folder.Put(name + ".html",
-                   "<html><head><title>" + title + "</title></head><body><p>" + text + "</p></body></html>");
-    }
-    void Open(int context) {
-        qt::ShowHelpWindow(QString::fromStdString(Folder.Path()), context, &Window());
-        Settle();
-    }
-    [[nodiscard]] static QWidget* Help() { return FindWindow("HelpWindow"); }
-    template <class W>
-    [[nodiscard]] static W& Part(const char* name) {
-        return *FindIn<W>(Help(), name);
-    }
-    [[nodiscard]] static QString Shown() { return Part<qt::HelpView>("HelpPage").source().fileName(); }
-    // All that a person does with the help works, by mouse and by key.
-    static void ExpectUsable() {
-        ClickOn(&Part<QToolButton>("HelpHome"));
-        EXPECT_EQ(Shown(), "index.html");
-        auto& contents = Part<QTreeWidget>("HelpContents");
-        ClickOn(contents.viewport(), contents.visualItemRect(contents.topLevelItem(0)->child(1)).center());
-        EXPECT_EQ(Shown(), "meter.html");
-        ClickOn(&Part<QLineEdit>("HelpWords"));
-        Press(Help(), Qt::Key_S);
-        EXPECT_EQ(Part<QLineEdit>("HelpWords").text(), "s");
-        Part<QLineEdit>("HelpWords").clear();
-    }
-
-    TempFolder Folder;
-};
 
 TEST_F(HelpWindows, open_at_the_page_of_the_number) {
     Open(7400);
@@ -206,80 +128,6 @@ TEST_F(HelpWindows, close_on_Escape_wherever_the_focus_is) {
     }
 }
 
-TEST_F(HelpWindows, let_the_forms_be_used) {
-    Open(0);
-    ClickOn(&Widget<QPushButton>("go"));
-    EXPECT_THAT(Form->Log, ::testing::Contains("go"));
-    EXPECT_NE(Help(), nullptr);
-}
-
-TEST_F(HelpWindows, stay_usable_when_a_modal_window_opens) {
-    Open(5100);
-    auto second = std::make_shared<ProbeForm>(Screen, "Second");
-    InModal([&] {
-        ClickOn(&Widget<QPushButton>("go"));
-        EXPECT_THAT(Form->Log, ::testing::Not(::testing::Contains("go"))) << "nothing blocks the first form";
-        ExpectUsable();
-        EXPECT_TRUE(second->IsShown());
-        second->Unload();
-    });
-    second->ShowModal();
-    ASSERT_NE(Help(), nullptr);
-    ExpectUsable();
-}
-
-TEST_F(HelpWindows, opened_over_a_modal_window_outlive_it) {
-    auto second = std::make_shared<ProbeForm>(Screen, "Second");
-    InModal([&] {
-        Open(5100);
-        ExpectUsable();
-        second->Unload();
-    });
-    second->ShowModal();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    ASSERT_NE(Help(), nullptr);
-    ExpectUsable();
-}
-
-TEST_F(HelpWindows, stay_usable_through_a_chain_of_modal_windows) {
-    Open(0);
-    auto second = std::make_shared<ProbeForm>(Screen, "Second");
-    InModal([&] {
-        InModal([&] {
-            ExpectUsable();
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_NE(box, nullptr);
-            ClickOn(box->button(QMessageBox::Ok));
-        });
-        (void)Screen.Ask({.Title = "Title", .Text = "Text"});
-        ExpectUsable();
-        second->Unload();
-    });
-    second->ShowModal();
-    ExpectUsable();
-}
-
-TEST_F(HelpWindows, open_from_the_help_button_of_a_box_and_leave_it_open) {
-    bool stayed = false;
-    InModal([&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        ClickOn(box->button(QMessageBox::Help));
-        stayed = box->isVisible();
-        ASSERT_NE(Help(), nullptr);
-        EXPECT_EQ(Help()->property("context").toInt(), 7300);
-        EXPECT_EQ(Help()->windowHandle()->transientParent(), box->windowHandle());
-        ClickOn(&Part<QToolButton>("HelpHome"));
-        Press(Help(), Qt::Key_Escape);
-        EXPECT_EQ(Help(), nullptr);
-        Press(box, Qt::Key_F1);
-        EXPECT_NE(Help(), nullptr);
-        ClickOn(box->button(QMessageBox::Ok));
-    });
-    (void)Screen.Ask({.Title = "Title", .Text = "Text", .HelpContext = 7300, .HelpFile = "AGA.chm"});
-    EXPECT_TRUE(stayed);
-}
-
 TEST_F(HelpWindows, say_where_the_manual_belongs_if_it_is_missing) {
     qt::ShowHelpWindow(QString::fromStdString(Folder.Path("nowhere")), 3000, &Window());
     const QString text = Part<qt::HelpView>("HelpPage").toPlainText();
@@ -287,14 +135,6 @@ TEST_F(HelpWindows, say_where_the_manual_belongs_if_it_is_missing) {
     EXPECT_TRUE(text.contains("nowhere")) << qPrintable(text);
     EXPECT_FALSE(Part<QTreeWidget>("HelpContents").isVisible());
     Press(Help(), Qt::Key_Escape);
-    EXPECT_EQ(Help(), nullptr);
-}
-
-TEST_F(HelpWindows, go_with_the_screen) {
-    auto screen = std::make_unique<qt::QtScreen>();
-    screen->OpenHelp("AGA.chm", 0);
-    ASSERT_NE(Help(), nullptr);
-    screen.reset();
     EXPECT_EQ(Help(), nullptr);
 }
 
