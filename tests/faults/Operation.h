@@ -36,6 +36,9 @@ struct Operation {
     std::string Refusal = {};
     // What matters of a file's bytes, where what fails on the way may rightly change the rest of them.
     std::function<std::string(const std::string& name, std::string bytes)> Essence = {};
+    // The file in which this operation changes single keys, so that what another program changed in it since
+    // it was read must still be there. Empty for operations that make or delete whole files.
+    std::string ChangesKeysOf = {};
     // The next start after a death: must find its way about, and remove what was left behind.
     std::function<void(const std::filesystem::path&)> StartAgain = {};
 };

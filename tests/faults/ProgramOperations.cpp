@@ -157,6 +157,11 @@ void StartAgain(const fs::path& folder) {
     plant.Play();
 }
 
+Operation InPlace(Operation operation) {
+    operation.ChangesKeysOf = NorthFile;
+    return operation;
+}
+
 // An operation whose story leads up to its last act, and goes on with it.
 Operation Told(const std::string& name, std::function<void(const fs::path&)> lay,
                std::function<void(Plant&)> until, std::function<void(Plant&)> act) {
@@ -331,13 +336,13 @@ Operation Delete() {
 
 std::vector<Operation> ProgramOperations() {
     return {FullWrite(),
-            ConfiguratorSave(),
-            ModifyTags(),
-            Log("log", LayConfigured),
-            Log("log again", LayLogged),
-            AddRun(),
-            Enable(),
-            Disable(),
+            InPlace(ConfiguratorSave()),
+            InPlace(ModifyTags()),
+            InPlace(Log("log", LayConfigured)),
+            InPlace(Log("log again", LayLogged)),
+            InPlace(AddRun()),
+            InPlace(Enable()),
+            InPlace(Disable()),
             CopyWithin(),
             CopyToOther(),
             Delete()};

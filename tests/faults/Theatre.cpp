@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstring>
 #include <ctime>
+#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <sys/mman.h>
@@ -192,6 +193,16 @@ void Theatre::Say(const std::string& words) {
 
 Ending Theatre::Run(const Plan& plan, long killAfter) {
     Restore(room_.Folder(), laid_);
+    return RunAsLaid(plan, killAfter);
+}
+
+Ending Theatre::RunAfterAddition(const std::string& file, const std::string& addition) {
+    Restore(room_.Folder(), laid_);
+    std::ofstream(room_.Folder() / file, std::ios::binary | std::ios::app) << addition;
+    return RunAsLaid({}, 0);
+}
+
+Ending Theatre::RunAsLaid(const Plan& plan, long killAfter) {
     Board& board = TheBoard();
     Wipe(board, plan, killAfter);
     int status = 0;

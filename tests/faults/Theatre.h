@@ -37,6 +37,8 @@ public:
     [[nodiscard]] std::string Folder() const { return room_.Folder().string(); }
     // Also kills after so many microseconds, unless that is 0.
     [[nodiscard]] Ending Run(const Plan& plan, long killAfter = 0);
+    // Nothing fails, but another program has added to the file since the operation's windows were opened.
+    [[nodiscard]] Ending RunAfterAddition(const std::string& file, const std::string& addition);
     // The next start, on what the last trial left: false if it fails, or if the save of every file leaves
     // behind what the dead one had begun.
     [[nodiscard]] bool StartsAgain() const;
@@ -46,6 +48,7 @@ private:
     // In the stage's process; returns in each trial's alone.
     void Serve();
     void Say(const std::string& words);
+    [[nodiscard]] Ending RunAsLaid(const Plan& plan, long killAfter);
     [[nodiscard]] bool HearStatus(int& status) const;
 
     const Operation& operation_;

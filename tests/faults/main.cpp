@@ -76,6 +76,7 @@ public:
             return Complain("setting up", {Found::Torn, "the operation did not begin"});
         quiet_ = theatre_.Run({});
         CheckQuietRun();
+        CheckOutsideEdit();
         if (faults_ > 0)
             return;
         settings_.Deep ? TryEveryFaultAtEveryCall() : TryOneFaultAtEveryCall();
@@ -96,6 +97,22 @@ private:
             Complain("no fault", {Found::Torn, "the operation changes nothing"});
         if (const std::string fault = FaultInOrder(quiet_.Calls); !fault.empty())
             Complain("no fault", {Found::Torn, fault});
+    }
+
+    // Somebody writes into the file while the windows of the operation stand open.
+    void CheckOutsideEdit() {
+        const std::string& file = operation_.ChangesKeysOf;
+        if (file.empty())
+            return;
+        const std::string addition = "[Mine]\r\nkept=yes\r\n";
+        const Ending ending = theatre_.RunAfterAddition(file, addition);
+        const auto left = ending.Left.find(file);
+        std::string bytes = left == ending.Left.end() ? "" : left->second.Bytes;
+        const auto at = bytes.find(addition);
+        if (at != std::string::npos)
+            bytes.erase(at, addition.size());
+        if (at == std::string::npos || ending.Failed || bytes != quiet_.Left.at(file).Bytes)
+            Complain("after an outside edit", {Found::Torn, "the edit is lost, or the operation is"});
     }
 
     void TryEveryFaultAtEveryCall() {

@@ -241,6 +241,47 @@ TEST_F(PosixFilesTest, copy_refuses_a_link_that_names_nothing) {
     EXPECT_FALSE(fs::exists(Folder.Path("nowhere")));
 }
 
+TEST_F(PosixFilesTest, copy_gives_others_no_right_to_write) {
+    Folder.Put("a", "x");
+    ASSERT_EQ(::chmod(Folder.Path("a").c_str(), 0666), 0);
+    EXPECT_EQ(InChild([&] {
+                  ::umask(0);
+                  return Real->CopyNew(Folder.Path("a"), Folder.Path("b")) ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(ModeOf(Folder.Path("b")), 0664u);
+}
+
+// Whoever may not search the folder cannot say what is in it.
+TEST_F(PosixFilesTest, exists_holds_what_it_cannot_see_for_possible) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs a user whom to become";
+    fs::create_directory(Folder.Path("closed"));
+    Folder.Put("closed/f", "x");
+    ASSERT_EQ(::chmod(Folder.Path("closed").c_str(), 0), 0);
+    EXPECT_EQ(InChild([&] {
+                  const bool reached = ::chmod(Folder.Path().c_str(), 0755) == 0 && ::seteuid(65534) == 0;
+                  const bool inDoubt = Real->Exists(Folder.Path("closed/f"));
+                  const bool replaced = Real->Replace(Folder.Path("closed/f"), "y");
+                  return reached && inDoubt && !replaced ? 0 : 1;
+              }),
+              0);
+    ASSERT_EQ(::chmod(Folder.Path("closed").c_str(), 0755), 0);
+    EXPECT_EQ(Folder.Get("closed/f"), "x");
+}
+
+// A second writer of the same process comes between its making and its move.
+TEST_F(PosixFilesTest, leftovers_of_the_living_stay_although_they_are_many) {
+    const std::string target = Folder.Put("f", "old");
+    auto first = TemporaryFile::Beside(target, 0600);
+    auto second = TemporaryFile::Beside(target, 0600);
+    ASSERT_TRUE(first && second);
+    TemporaryFile::RemoveLeftovers(target);
+    EXPECT_TRUE(first->MoveOver(target));
+    EXPECT_TRUE(second->MoveOver(target));
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
 TEST_F(PosixFilesTest, copy_to_new_refuses_a_target_that_came_meanwhile) {
     auto file = TemporaryFile::Beside(Folder.Path("b"), 0600);
     ASSERT_TRUE(file);
