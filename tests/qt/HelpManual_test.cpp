@@ -13,6 +13,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <QXmlStreamReader>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -100,6 +101,16 @@ TEST_F(Manual, has_a_title_over_each_page) {
     for (const auto& page : Book.Pages()) {
         EXPECT_TRUE(titles.insert(page.Title).second) << qPrintable(page.Title);
         EXPECT_TRUE(Html(page.File).contains("<h1>" + page.Title + "</h1>")) << qPrintable(page.File);
+    }
+}
+
+TEST_F(Manual, is_written_without_a_slip_in_its_marks) {
+    for (const auto& page : Book.Pages()) {
+        QXmlStreamReader reader(Html(page.File));
+        while (!reader.atEnd())
+            reader.readNext();
+        EXPECT_FALSE(reader.hasError()) << qPrintable(page.File) << ", line " << reader.lineNumber() << ": "
+                                        << qPrintable(reader.errorString());
     }
 }
 
