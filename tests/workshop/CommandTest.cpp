@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace gfc::workshop {
 
 using testing::AllOf;
@@ -93,7 +95,7 @@ TEST_F(Command, import_takes_a_table_or_tells_each_fault) {
     EXPECT_EQ(bad.Status, 1);
     EXPECT_THAT(bad.Output, AllOf(HasSubstr("bad.csv: row 2, column Class: \"ZX\" is no register class"),
                                   HasSubstr("bad.csv: row 2, column Register: \"a\" is not a whole number"),
-                                  HasSubstr("nothing was imported")));
+                                  HasSubstr("io-workshop: 2 faults; nothing was imported. Mend the table")));
     EXPECT_THAT(Run("stations " + onSmall).Output, AllOf(HasSubstr("West"), Not(HasSubstr("East"))));
     EXPECT_THAT(Run("import-tags " + Quoted("good.csv") + " " + onSmall).Output,
                 HasSubstr("holds all of the table already; nothing was changed"));
@@ -137,6 +139,19 @@ TEST_F(Command, preview_of_a_table_at_fault_fails_as_the_import_would) {
         Run("import-tags --preview " + Quoted("bad.csv") + " --project " + Quoted("small.KPJ"));
     EXPECT_EQ(preview.Status, 1);
     EXPECT_THAT(preview.Output, HasSubstr("bad.csv: row 2, column Class: \"ZX\""));
+}
+
+TEST_F(Command, import_tells_every_fault_however_many_there_are) {
+    MakeSmallProject();
+    std::string table = "Station,Module,Tag,Class,Register\n";
+    for (int row = 0; row < 200; ++row) {
+        table += "North,V,T-" + std::to_string(row) + ",ZX," + std::to_string(row) + "\n";
+    }
+    WriteBytes(Folder / "bad.csv", table);
+    const Outcome import = Run("import-tags " + Quoted("bad.csv") + " --project " + Quoted("small.KPJ"));
+    EXPECT_EQ(import.Status, 1);
+    EXPECT_EQ(std::count(import.Output.begin(), import.Output.end(), '\n'), 201);
+    EXPECT_THAT(import.Output, HasSubstr("row 201, column Class"));
 }
 
 TEST_F(Command, import_says_how_it_read_a_table_that_is_not_utf8) {

@@ -6,15 +6,12 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <iostream>
 #include <memory>
 
 namespace gfc::workshop {
 
 namespace {
-
-constexpr std::size_t MostComplaints = 50; // more than this is one cause told many times
 
 constexpr const char* Footer =
     "The first row names the columns, in any order: Station, Station Type, IP Address, Serial Number,\n"
@@ -41,13 +38,10 @@ struct ImportOptions {
 };
 
 void TellComplaints(const std::string& csv, const std::vector<Complaint>& complaints) {
-    for (std::size_t at = 0; at < std::min(complaints.size(), MostComplaints); ++at) {
-        std::cerr << csv << ": " << TextOf(complaints[at]) << '\n';
+    for (const Complaint& complaint : complaints) {
+        std::cerr << csv << ": " << TextOf(complaint) << '\n';
     }
-    if (complaints.size() > MostComplaints) {
-        std::cerr << csv << ": and " << complaints.size() - MostComplaints << " more faults\n";
-    }
-    Tell("nothing was imported; mend the table and import it again.");
+    Tell(Counted(complaints.size(), "fault") + "; nothing was imported. Mend the table and import it again.");
 }
 
 // Of tags that a binding would no longer find as it has them.
