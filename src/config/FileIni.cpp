@@ -1,5 +1,6 @@
 #include "config/FileIni.h"
 
+#include "platform/ProfileIndex.h"
 #include "services/CodePage.h"
 #include "services/Utf8.h"
 #include "services/Utilidades.h"
@@ -214,7 +215,7 @@ bool FileBatch::Save() {
 
 platform::ProfileIndex& FileBatch::Index() {
     if (!index_)
-        index_.emplace(profile_->Profile());
+        index_ = std::make_unique<platform::ProfileIndex>(profile_->Profile());
     return *index_;
 }
 

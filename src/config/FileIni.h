@@ -1,13 +1,17 @@
 #pragma once
 
 #include "platform/ProfileFile.h"
-#include "platform/ProfileIndex.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace gfc::platform {
+class ProfileIndex;
+}
 
 // The station's configuration file: the only gates to it, and what is read and written through them.
 namespace gfc::config {
@@ -104,8 +108,8 @@ private:
     std::string file_;
     bool outermost_;
     bool changed_ = false;
-    std::optional<platform::ProfileFile> profile_; // none where the file cannot be read
-    std::optional<platform::ProfileIndex> index_;  // of the profile as it stands, from a reading to a change
+    std::optional<platform::ProfileFile> profile_;  // none where the file cannot be read
+    std::unique_ptr<platform::ProfileIndex> index_; // of the profile as it stands, from a reading to a change
 };
 
 } // namespace gfc::config

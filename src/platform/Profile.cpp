@@ -1,7 +1,6 @@
 #include "platform/Profile.h"
 
 #include "platform/ProfileLines.h"
-#include "services/CodePage.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,25 +9,15 @@ namespace gfc::platform {
 namespace {
 
 using profile::CallName;
+using profile::FindEntry;
 using profile::LineEnd;
 using profile::SectionLines;
-using services::EqualBytesNoCase;
 
 constexpr std::string_view LineBreak = "\r\n";
 
 void AppendLine(std::string& lines, std::string_view line) {
     lines += line;
     lines += LineBreak;
-}
-
-// Goes on to the key's entry; nothing if the section has none.
-std::optional<profile::Entry> FindEntry(SectionLines& lines, std::string_view key) {
-    while (lines.Next()) {
-        const auto entry = lines.MayHold(key) ? lines.AsEntry() : std::nullopt;
-        if (entry && EqualBytesNoCase(entry->Key, key))
-            return entry;
-    }
-    return std::nullopt;
 }
 
 } // namespace

@@ -1,16 +1,18 @@
 #pragma once
 
 #include "platform/Profile.h"
+#include "platform/ProfileLines.h"
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace gfc::platform {
 
-// Reads many keys of a profile that stays as it is: each section is gone through once, when it is first asked
-// for, and not once for each of its keys. Answers as Profile::Read does.
+// Reads many keys of a profile that stays as it is: each section is looked for once, and gone through once
+// for most of its keys. Answers as Profile::Read does.
 class ProfileIndex {
 public:
     // The profile must outlive the index, unchanged.
@@ -19,21 +21,27 @@ public:
     [[nodiscard]] std::string Read(std::string_view section, std::string_view key);
 
 private:
-    // Names are the same where they differ in case alone.
-    struct NameHash {
-        [[nodiscard]] std::size_t operator()(std::string_view name) const;
+    // The entries of a section by name. Of equal names the first one counts.
+    class Table {
+    public:
+        explicit Table(profile::SectionLines lines);
+        [[nodiscard]] std::optional<profile::Entry> Find(std::string_view key) const;
+
+    private:
+        [[nodiscard]] std::size_t SlotOf(std::string_view key) const;
+
+        std::vector<profile::Entry> entries_;
+        std::vector<std::uint32_t> slots_; // the place of an entry, counted from 1; 0 for none
     };
-    struct SameName {
-        [[nodiscard]] bool operator()(std::string_view left, std::string_view right) const;
-    };
-    using Values = std::unordered_map<std::string_view, std::string_view, NameHash, SameName>;
     struct Section {
         std::string Name;
-        Values ValueOf;
+        std::optional<std::size_t> Header; // none if the profile lacks the section
+        int Readings = 0;
+        std::optional<Table> Entries; // not made for a few readings
     };
 
-    [[nodiscard]] const Values& ValuesOf(std::string_view section);
-    [[nodiscard]] Values Collect(std::string_view section) const;
+    [[nodiscard]] Section& SectionOf(std::string_view name);
+    [[nodiscard]] std::optional<profile::Entry> Find(Section& section, std::string_view key) const;
 
     std::string_view bytes_;
     std::vector<Section> sections_;

@@ -99,4 +99,13 @@ std::optional<Entry> SectionLines::AsEntry() const {
                  WithoutQuotes(Trimmed(line.substr(equals + 1), IsWhite))};
 }
 
+std::optional<Entry> FindEntry(SectionLines& lines, std::string_view key) {
+    while (lines.Next()) {
+        const auto entry = lines.MayHold(key) ? lines.AsEntry() : std::nullopt;
+        if (entry && services::EqualBytesNoCase(entry->Key, key))
+            return entry;
+    }
+    return std::nullopt;
+}
+
 } // namespace gfc::platform::profile

@@ -44,4 +44,7 @@ private:
     std::size_t end_;
 };
 
+// Goes on to the key's entry; nothing if the section has none. Of equal names the first one is found.
+[[nodiscard]] std::optional<Entry> FindEntry(SectionLines& lines, std::string_view key);
+
 } // namespace gfc::platform::profile

@@ -58,6 +58,19 @@ TEST(CodePage, keeps_a_nul_in_the_middle) {
     EXPECT_EQ(ToCodePage(text), text);
 }
 
+TEST(IsPlain, finds_one_byte_of_the_upper_half_wherever_it_stands) {
+    EXPECT_TRUE(IsPlain(""));
+    for (std::size_t length = 1; length < 30; ++length) {
+        std::string text(length, '\x7F');
+        EXPECT_TRUE(IsPlain(text));
+        for (char& byte : text) {
+            byte = '\x80';
+            EXPECT_FALSE(IsPlain(text)) << length;
+            byte = '\x7F';
+        }
+    }
+}
+
 TEST(CodePageFold, pairs_capitals_with_small_letters) {
     EXPECT_TRUE(EqualBytesNoCase("ABCXYZ", "abcxyz"));
     EXPECT_TRUE(EqualBytesNoCase("\x8A\x8C\x8E\x9F", "\x9A\x9C\x9E\xFF"));

@@ -19,6 +19,9 @@ constexpr std::string_view IndividualParameters = "Individual Parameters";
 
 // 1 to 5 for "Run 1" to "Run 5", 0 for any other text.
 [[nodiscard]] inline int RunOf(std::string_view nodeText) {
+    // Asked of each node of a plant.
+    if (!nodeText.starts_with("Run "))
+        return 0;
     for (int run = 1; run <= config::MaxRuns; ++run)
         if (nodeText == RunText(run))
             return run;
