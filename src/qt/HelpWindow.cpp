@@ -42,8 +42,11 @@ QToolButton* Button(const char* name, const QString& text, Qt::ArrowType arrow) 
     return button;
 }
 
+// For the contents and lines of a readable length beside them, whatever the font, if the screen is large
+// enough.
 QSize FittingSize(const QWidget& window) {
-    constexpr QSize wished(960, 680);
+    const QFontMetrics font = window.fontMetrics();
+    const QSize wished(160 * font.averageCharWidth(), 46 * font.lineSpacing());
     const QScreen* screen = window.screen();
     return screen == nullptr ? wished : wished.boundedTo(screen->availableSize() * 9 / 10);
 }
