@@ -13,6 +13,9 @@ using namespace gfc::workshop;
 int RunCommand(CLI::App& app, int argc, const char* const* argv, int& status) {
     try {
         app.parse(argc, argv);
+        if (!std::cout.flush()) {
+            throw Failure("the output could not be written; check the disk and the access rights.");
+        }
         return status;
     } catch (const CLI::ParseError& error) {
         return app.exit(error) == 0 ? Succeeded : WrongUsage; // a call for help is such an error too
