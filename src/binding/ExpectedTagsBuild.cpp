@@ -1,6 +1,7 @@
 #include "binding/Catalogue.h"
 #include "binding/ExpectedTags.h"
 #include "config/Vocabulary.h"
+#include "services/Text.h"
 
 namespace gfc::binding {
 
@@ -21,6 +22,9 @@ public:
     }
     [[nodiscard]] bool SaysYes(std::string_view section, std::string_view key) const {
         return Read(section, key) == config::Yes;
+    }
+    [[nodiscard]] bool SaysYesInAnyCase(std::string_view section, std::string_view key) const {
+        return services::EqualNoCase(Read(section, key), config::Yes);
     }
 
 private:
@@ -92,6 +96,20 @@ void AddRun(int run, Conditions conditions, const FileReader& reader, ExpectedTa
         Add(*row, section, reader, expected);
 }
 
+bool IsConfigured(int run, const FileReader& reader) {
+    const std::string flag = "Run" + std::to_string(run);
+    return reader.SaysYes(FlowRuns, flag) || reader.SaysYes(FlowRuns, flag + std::to_string(run));
+}
+
+void AddBound(int run, Conditions conditions, const FileReader& reader, ExpectedTags& bound) {
+    const std::string section = "Run" + std::to_string(run);
+    conditions.ExtMech = reader.SaysYesInAnyCase(section, "ExtMechParam");
+    for (const auto stage : {BindingStage::RunInputs, BindingStage::RunOutputs, BindingStage::GasInputs,
+                             BindingStage::GasOutputs})
+        for (const VariableRow* row : TreeRows(stage, conditions))
+            Add(*row, section, reader, bound);
+}
+
 ExpectedTag WorkingModule(const std::string& stem, const FileReader& reader) {
     ExpectedTag entry;
     entry.Tag = reader.Read(FlowRuns, stem + "ModName");
@@ -116,6 +134,22 @@ void BuildExpectedTags(const config::FileIni& ini, const std::string& file, conf
     expected.WorkingFloat = WorkingModule("WrkFloat", reader);
     expected.WorkingAnalog = WorkingModule("WrkAnalog", reader);
     expected.WorkingLong = WorkingModule("WrkIntLong", reader);
+}
+
+ExpectedTags TagsInUse(const config::FileIni& ini, const std::string& file) {
+    const FileReader reader(ini, file);
+    config::StationConfig station;
+    ReadChoices(reader, station);
+    const std::string own = station.FlowAlgorithm == config::algorithm::AGA7 ? "AGA7" : "AGA3";
+    Conditions common = CommonConditions(station, reader);
+    common.ExtAtmPress = reader.SaysYesInAnyCase(own, "ExtAtmPress");
+    ExpectedTags bound;
+    if (common.ExtAtmPress)
+        Add(CommonPressureRow(), own, reader, bound);
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        if (IsConfigured(run, reader))
+            AddBound(run, common, reader, bound);
+    return bound;
 }
 
 } // namespace gfc::binding

@@ -101,6 +101,11 @@ FileText& FileText::Touch(const std::string& section, const std::vector<std::str
     return *this;
 }
 
+FileText& FileText::AddSection(const std::string& section) {
+    lines_.push_back("[" + section + "]");
+    return *this;
+}
+
 FileText& FileText::Remove(const std::string& section, const std::string& key) {
     if (const auto line = LineOf(section, key))
         lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(*line));

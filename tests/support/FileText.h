@@ -17,6 +17,8 @@ public:
     FileText& Set(const std::string& section, const std::string& key, const std::string& value);
     // The value stays; a key that is not there does not come.
     FileText& Touch(const std::string& section, const std::vector<std::string>& keys);
+    // A new one behind all others, without keys.
+    FileText& AddSection(const std::string& section);
     FileText& Remove(const std::string& section, const std::string& key);
     // Nothing but these lines below the header.
     FileText& Replace(const std::string& section, const std::vector<std::string>& lines);

@@ -14,11 +14,13 @@ void OfferUnusedTags(Program& program, const project::WorkingModuleNames& workin
     binding::BuildExpectedTags(program.Ini, session.ConfigFile(), session.Station, expected);
     // Deliberately without a look at the result: an edit is how a person mends a file with errors.
     (void)binding::CheckExpectedTags(expected, pools);
-    binding::RemoveUsedTags(pools.AvailFloat, expected.ExpectedFloat);
-    binding::RemoveUsedTags(pools.AvailAnalog, expected.ExpectedAnalog);
-    binding::RemoveUsedTags(pools.AvailDigital, expected.ExpectedDigital);
-    if (isAGA7)
-        binding::RemoveUsedTags(pools.AvailLong, expected.ExpectedLong);
+    for (const auto& used : {expected, binding::TagsInUse(program.Ini, session.ConfigFile())}) {
+        binding::RemoveUsedTags(pools.AvailFloat, used.ExpectedFloat);
+        binding::RemoveUsedTags(pools.AvailAnalog, used.ExpectedAnalog);
+        binding::RemoveUsedTags(pools.AvailDigital, used.ExpectedDigital);
+        if (isAGA7)
+            binding::RemoveUsedTags(pools.AvailLong, used.ExpectedLong);
+    }
 }
 
 } // namespace gfc::forms

@@ -16,6 +16,7 @@ struct AddedRun {
     int Source = 0;
     bool Outside = false; // the composition comes from outside
     int Run = 3;
+    bool ExternalDiameters = false;
 };
 
 struct AddedRunDialog {
@@ -88,8 +89,13 @@ private:
                      story.Select("FrAccelabar", "Combo1", 3).Click("FrAccelabar", "Command1");
                  }});
         dialogs_.push_back({name_ + " Mechanical Parameters", "FrParMec",
-                            "Mechanical Parameters Station: North", [](Story& story) {
-                                story.Type("FrParMec", "txtDiaOrif", "1.3").Click("FrParMec", "cmdAceptar");
+                            "Mechanical Parameters Station: North",
+                            [external = added_.ExternalDiameters](Story& story) {
+                                if (external)
+                                    story.Click("FrParMec", "OptExt");
+                                else
+                                    story.Type("FrParMec", "txtDiaOrif", "1.3");
+                                story.Click("FrParMec", "cmdAceptar");
                             }});
     }
     void AddGas() {
