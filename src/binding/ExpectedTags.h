@@ -45,11 +45,6 @@ struct ExpectedTags {
 void BuildExpectedTags(const config::FileIni& ini, const std::string& file, config::StationConfig& station,
                        ExpectedTags& expected);
 
-// Every tag that the file binds, sorted into the same lists. Unlike the check this looks at runs that are
-// configured and off as well, at the atmospheric pressure of every algorithm, and at variables that the check
-// passes over: who gave their tags to another variable would have two of them share a register.
-[[nodiscard]] ExpectedTags TagsInUse(const config::FileIni& ini, const std::string& file);
-
 // Sets Found of every entry: address, type and name of one tag must all be the same, case included. True if
 // every entry was found and none has an empty name.
 [[nodiscard]] bool CheckExpectedTags(ExpectedTags& expected, const project::TagInventory& inventory);

@@ -1,5 +1,6 @@
 #include "binding/Catalogue.h"
 #include "binding/ExpectedTags.h"
+#include "binding/TagsInUse.h"
 #include "config/Vocabulary.h"
 #include "services/Text.h"
 

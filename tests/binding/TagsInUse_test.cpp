@@ -1,4 +1,4 @@
-#include "binding/ExpectedTags.h"
+#include "binding/TagsInUse.h"
 #include "support/MemoryFiles.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,6 @@
 // One more run for a configuration that stands.
 #include "forms/runs/AddRunStory.h"
+#include "scenarios/Moves.h"
 #include "scenarios/StoredStation.h"
 #include "support/TestFolders.h"
 
@@ -56,22 +57,6 @@ const std::vector<Way> allWays = {
     {"gbt_aga8_outside", {.Standard = 3, .Source = 1, .Outside = true}},
 };
 
-struct CancelWords {
-    std::string Button;
-    std::string Title;
-    Icon TheIcon = Icon::None;
-};
-
-CancelWords CancelOf(const std::string& form) {
-    if (form == "TagRuns")
-        return {"Command2", "Gas Flow Computer", Icon::Question};
-    if (form == "MDetail")
-        return {"Command3", "Orm Gas Flow Computer"};
-    if (form == "frSGERG88")
-        return {"Command2", "Gas Flow Computer"};
-    return {form == "FrParMec" ? "cmdCancel" : "Command2", "Close mechanical parameters"};
-}
-
 // Cancelled at its at-th dialog, from 0; no question about saving comes, and the run can be added again.
 Scenario CancelledAt(const Way& way, std::size_t at) {
     const AddRunStory adding(way.Added);
@@ -82,12 +67,8 @@ Scenario CancelledAt(const Way& way, std::size_t at) {
          .Tell = [=](Story& story, const TheOutside&) {
              Offer(story, 3, Answer::Yes);
              adding.Until(story, at);
-             const auto words = CancelOf(form);
-             story.Click(form, words.Button)
-                 .Box(words.Title, "", words.TheIcon, Answer::Yes)
-                 .SeeShown(form, false)
-                 .SeeShown("Step", false)
-                 .SeeShown("GFCPrincipal");
+             moves::CancelWindow(story, form);
+             story.SeeShown(form, false).SeeShown("Step", false).SeeShown("GFCPrincipal");
              SeeImage(story, RunNode(3), "NoRun");
              Offer(story, 3, Answer::No);
          }});

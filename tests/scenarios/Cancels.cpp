@@ -10,40 +10,10 @@ namespace {
 using ui::Answer;
 using ui::Icon;
 
-struct CancelOf {
-    std::string Form;
-    std::string Button;
-    std::string Title;
-    std::string Text;
-    Icon TheIcon;
-};
-
-const CancelOf mechanics{"FrParMec", "cmdCancel", "Close mechanical parameters",
-                         "Are you sure want to discard the changes made to the current configuration ?",
-                         Icon::None};
-const CancelOf accelabar{"FrAccelabar", "Command2", "Close mechanical parameters",
-                         "Are you sure want to discard the changes made to the current configuration ?",
-                         Icon::None};
-const CancelOf tags{"TagRuns", "Command2", "Gas Flow Computer",
-                    "Are you sure you want to discard the changes made to the current configuration?",
-                    Icon::Question};
-const CancelOf composition{"MDetail", "Command3", "Orm Gas Flow Computer",
-                           "Are you sure  you to want to cancel?. All changes will be lost", Icon::None};
-const CancelOf properties{"frSGERG88", "Command2", "Gas Flow Computer",
-                          "Are you sure  you to want to cancel?. All changes will be lost", Icon::None};
-
-void Cancel(Story& story, const CancelOf& window) {
-    story.Click(window.Form, window.Button)
-        .Box(window.Title, window.Text, window.TheIcon, Answer::No)
-        .SeeShown(window.Form)
-        .Click(window.Form, window.Button)
-        .Box(window.Title, window.Text, window.TheIcon, Answer::Yes);
-}
-
 // Goes through the pass for run 3 until the window-th dialog (from 1) is open, cancels it, and then takes the
 // same station through a whole pass: what the cancelled one used must be free again.
 Scenario CancelAt(const std::string& name, const moves::Choices& choices, int window,
-                  const CancelOf& cancel) {
+                  const std::string& form) {
     return {name, moves::ThreeStations,
             [=](Story& story) {
                 moves::StartUp(story);
@@ -51,7 +21,7 @@ Scenario CancelAt(const std::string& name, const moves::Choices& choices, int wi
                 moves::SelectRuns(story, {3});
                 moves::WalkPages(story, choices);
                 moves::PassUntil(story, choices, 3, window);
-                Cancel(story, cancel);
+                moves::CancelWindow(story, form);
                 story.SeeShown("GFCPrincipal").SeeShown("WizardFC", false).SeeShown("Step", false);
                 moves::OpenWizard(story, "North");
                 moves::SelectRuns(story, {1});
@@ -134,7 +104,7 @@ void SeeNothingLeft(Story& story) {
         .SeeEnabled("MDetail", "CopyGasCompButton", false)
         .Click("MDetail", "Command1")
         .Click("Step", "Command1");
-    Cancel(story, tags);
+    moves::CancelWindow(story, "TagRuns");
 }
 
 Scenario CancelledInTheSecondRun() {
@@ -147,7 +117,7 @@ Scenario CancelledInTheSecondRun() {
                 moves::WalkPages(story, choices);
                 WholeFirstRun(story);
                 UpToTheOutputs(story);
-                Cancel(story, tags);
+                moves::CancelWindow(story, "TagRuns");
                 moves::OpenWizard(story, "North");
                 moves::SelectRuns(story, {1, 2});
                 moves::WalkPages(story, choices);
@@ -198,15 +168,15 @@ std::vector<Scenario> CancelScenarios() {
         CancelOfRunSelection(),
         CancelledInTheSecondRun(),
         CancelledOnTheClosingPage(),
-        CancelAt("cancel_at_the_common_inputs", detail, 1, tags),
-        CancelAt("cancel_at_the_mechanical_parameters", detail, 2, mechanics),
-        CancelAt("cancel_at_the_run_inputs", detail, 3, tags),
-        CancelAt("cancel_at_the_run_outputs", detail, 4, tags),
-        CancelAt("cancel_at_the_gas_composition", detail, 5, composition),
-        CancelAt("cancel_at_the_gas_outputs", detail, 6, tags),
-        CancelAt("cancel_at_the_measured_composition", chromatograph, 4, tags),
-        CancelAt("cancel_at_the_gas_properties", gross, 3, properties),
-        CancelAt("cancel_at_the_accelabar_parameters", {.Standard = 2}, 1, accelabar),
+        CancelAt("cancel_at_the_common_inputs", detail, 1, "TagRuns"),
+        CancelAt("cancel_at_the_mechanical_parameters", detail, 2, "FrParMec"),
+        CancelAt("cancel_at_the_run_inputs", detail, 3, "TagRuns"),
+        CancelAt("cancel_at_the_run_outputs", detail, 4, "TagRuns"),
+        CancelAt("cancel_at_the_gas_composition", detail, 5, "MDetail"),
+        CancelAt("cancel_at_the_gas_outputs", detail, 6, "TagRuns"),
+        CancelAt("cancel_at_the_measured_composition", chromatograph, 4, "TagRuns"),
+        CancelAt("cancel_at_the_gas_properties", gross, 3, "frSGERG88"),
+        CancelAt("cancel_at_the_accelabar_parameters", {.Standard = 2}, 1, "FrAccelabar"),
     };
 }
 

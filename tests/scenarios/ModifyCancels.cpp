@@ -10,25 +10,10 @@ namespace {
 
 using namespace modify;
 using moves::RunNode;
-using ui::Answer;
-using ui::Icon;
-
-struct CancelOf {
-    std::string Form;
-    std::string Button;
-    std::string Title;
-    Icon TheIcon = Icon::None;
-};
-
-const CancelOf Tags{"TagRuns", "Command2", "Gas Flow Computer", Icon::Question};
-const CancelOf Mechanical{"FrParMec", "cmdCancel", "Close mechanical parameters"};
-const CancelOf AccelabarMeter{"FrAccelabar", "Command2", "Close mechanical parameters"};
-const CancelOf Composition{"MDetail", "Command3", "Orm Gas Flow Computer"};
-const CancelOf GasProperties{"frSGERG88", "Command2", "Gas Flow Computer"};
 
 // Ticks the boxes, goes on to the window and cancels it there; then the main window takes commands again.
 Scenario CancelAt(const std::string& name, const std::string& golden, const std::vector<int>& boxes,
-                  const std::function<void(Story&)>& until, const CancelOf& cancel) {
+                  const std::function<void(Story&)>& until, const std::string& form) {
     return TheScenario(
         {.Name = "modify_cancelled_at_" + name,
          .Golden = golden,
@@ -36,12 +21,8 @@ Scenario CancelAt(const std::string& name, const std::string& golden, const std:
              Open(story, RunNode(2), 2);
              TickAndAccept(story, boxes);
              until(story);
-             story.Click(cancel.Form, cancel.Button)
-                 .Box(cancel.Title, "", cancel.TheIcon, Answer::No)
-                 .SeeShown(cancel.Form)
-                 .Click(cancel.Form, cancel.Button)
-                 .Box(cancel.Title, "", cancel.TheIcon, Answer::Yes)
-                 .SeeShown(Form, false);
+             moves::CancelWindow(story, form);
+             story.SeeShown(Form, false);
              Open(story, RunNode(2), 2);
              story.SeeChecked(Form, "Check1", false).Click(Form, "Command2").SeeShown(Form, false);
          }});
@@ -51,16 +32,16 @@ void AtOnce(Story&) {}
 
 std::vector<Scenario> Cancelled() {
     return {
-        CancelAt("the_mechanical_parameters", "aga3_densimeter", {3}, AtOnce, Mechanical),
-        CancelAt("the_accelabar_parameters", "accelabar_densimeter", {1, 3}, AtOnce, AccelabarMeter),
+        CancelAt("the_mechanical_parameters", "aga3_densimeter", {3}, AtOnce, "FrParMec"),
+        CancelAt("the_accelabar_parameters", "accelabar_densimeter", {1, 3}, AtOnce, "FrAccelabar"),
         CancelAt(
             "the_run_inputs", "aga3_aga8_fixed", {1, 3},
-            [](Story& story) { moves::AcceptEditor(story, "FrParMec"); }, Tags),
-        CancelAt("the_gas_composition", "aga3_aga8_fixed", {1, 6}, Continue, Composition),
-        CancelAt("the_gas_properties", "aga7_iso3_fixed_external", {2, 6}, AtOnce, GasProperties),
-        CancelAt("the_measured_composition", "aga3_aga8_outside", {5}, AtOnce, Tags),
-        CancelAt("the_run_outputs", "aga3_densimeter", {2}, AtOnce, Tags),
-        CancelAt("the_gas_outputs", "aga3_aga8_fixed", {2, 4}, Continue, Tags),
+            [](Story& story) { moves::AcceptEditor(story, "FrParMec"); }, "TagRuns"),
+        CancelAt("the_gas_composition", "aga3_aga8_fixed", {1, 6}, Continue, "MDetail"),
+        CancelAt("the_gas_properties", "aga7_iso3_fixed_external", {2, 6}, AtOnce, "frSGERG88"),
+        CancelAt("the_measured_composition", "aga3_aga8_outside", {5}, AtOnce, "TagRuns"),
+        CancelAt("the_run_outputs", "aga3_densimeter", {2}, AtOnce, "TagRuns"),
+        CancelAt("the_gas_outputs", "aga3_aga8_fixed", {2, 4}, Continue, "TagRuns"),
     };
 }
 

@@ -12,6 +12,29 @@ constexpr int densimeter = 0;
 constexpr int aga7 = 1;
 constexpr int accelabar = 2;
 
+struct CancelOf {
+    std::string Form;
+    std::string Button;
+    std::string Title;
+    std::string Text;
+    ui::Icon TheIcon = ui::Icon::None;
+};
+
+const std::string discardMechanical =
+    "Are you sure want to discard the changes made to the current configuration ?";
+const std::string loseChanges = "Are you sure  you to want to cancel?. All changes will be lost";
+
+// clang-format off
+const CancelOf cancels[] = {
+    {"FrParMec",    "cmdCancel", "Close mechanical parameters", discardMechanical},
+    {"FrAccelabar", "Command2",  "Close mechanical parameters", discardMechanical},
+    {"TagRuns",     "Command2",  "Gas Flow Computer",
+     "Are you sure you want to discard the changes made to the current configuration?", ui::Icon::Question},
+    {"MDetail",     "Command3",  "Orm Gas Flow Computer",       loseChanges},
+    {"frSGERG88",   "Command2",  "Gas Flow Computer",           loseChanges},
+};
+// clang-format on
+
 bool IsGross(const Choices& choices) {
     return choices.Source == 2 || choices.Source == 4;
 }
@@ -150,6 +173,16 @@ void AutoBind(Story& story) {
 void AcceptEditor(Story& story, const std::string& form) {
     const bool firstButton = form != "FrParMec";
     story.SeeShown(form).Click(form, firstButton ? "Command1" : "cmdAceptar");
+}
+
+void CancelWindow(Story& story, const std::string& form) {
+    const auto* const cancel = std::ranges::find(cancels, form, &CancelOf::Form);
+    ASSERT_NE(cancel, std::end(cancels)) << form;
+    story.Click(form, cancel->Button)
+        .Box(cancel->Title, cancel->Text, cancel->TheIcon, ui::Answer::No)
+        .SeeShown(form)
+        .Click(form, cancel->Button)
+        .Box(cancel->Title, cancel->Text, cancel->TheIcon, ui::Answer::Yes);
 }
 
 void PassAllRuns(Story& story, const Choices& choices, const std::vector<int>& runs, const EditorActs& acts) {

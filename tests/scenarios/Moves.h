@@ -40,6 +40,9 @@ void Continue(Story& story, const std::string& announced, const std::string& ste
 void AutoBind(Story& story);
 // Accepts FrParMec, FrAccelabar, MDetail or frSGERG88 as it opens.
 void AcceptEditor(Story& story, const std::string& form);
+// Presses the cancel button of TagRuns, FrParMec, FrAccelabar, MDetail or frSGERG88; the question is first
+// answered No, and the window stays, then Yes.
+void CancelWindow(Story& story, const std::string& form);
 // Takes the place of an editor's acceptance for one run.
 using EditorActs = std::function<void(Story&, int run)>;
 // Everything that the finish pass asks for these runs: every dialog is bound automatically, every editor

@@ -1,16 +1,18 @@
 // The tour: the real program on Qt's offscreen platform, driven by real clicks and keys from splash to exit.
-// It takes two stations of the sample project through the wizard and leaves a picture of every window.
+// It takes stations of the sample project through the wizard and through the daily work on their runs, and
+// leaves a picture of every window.
 
 #include "app/Application.h"
 #include "platform/DynamicLibrary.h"
 #include "qt/support/Offscreen.h"
 #include "scenarios/Moves.h"
+#include "tour/RunsTour.h"
 #include "tour/TourScreen.h"
+#include "tour/Workshop.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QStyleFactory>
 #include <QTextStream>
 #include <gtest/gtest.h>
@@ -22,6 +24,7 @@ namespace {
 
 using namespace gfc;
 namespace moves = test::moves;
+using tour::Workshop;
 
 const QString single = QStringLiteral("Eastfield_Meter");
 const QString large = QStringLiteral("Northgate_Custody");
@@ -32,16 +35,6 @@ void Print(const QString& line) {
     QTextStream(stdout) << line << Qt::endl;
 }
 
-// The stand-in's command beside this program; what it prints is shown.
-bool Workshop(const QStringList& arguments) {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(QDir(QApplication::applicationDirPath()).filePath(QStringLiteral("io-workshop")),
-                  arguments);
-    return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit &&
-           process.exitCode() == 0;
-}
-
 // A fresh sample project in the folder, open in a workshop state of the tour's own.
 bool PrepareProject(const QDir& folder) {
     QDir(folder.filePath(QStringLiteral("project"))).removeRecursively();
@@ -49,6 +42,7 @@ bool PrepareProject(const QDir& folder) {
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.filePath(QStringLiteral("state"))));
     const QString project = folder.filePath(QStringLiteral("project"));
     return folder.mkpath(QStringLiteral("state")) && Workshop({QStringLiteral("demo"), project}) &&
+           Workshop({QStringLiteral("new"), project + QStringLiteral("/second.KPJ")}) &&
            Workshop({QStringLiteral("open"), project + QStringLiteral("/plant.KPJ")});
 }
 
@@ -112,16 +106,17 @@ void EditWithATagRenamed(test::Story& story, const QString& station) {
         .SeeShown("TagsChanged", false);
 }
 
-void Tell(test::Story& story) {
+void Tell(test::Story& story, const QDir& folder) {
     moves::StartUp(story);
     ConfigureStation(story, single, {}, {1});
-    ConfigureStation(story, large, {.Standard = 1, .Source = 1}, {1, 2});
+    ConfigureStation(story, large, {.Standard = 1, .Source = 1}, {1, 2, 3});
     ConfigureStation(story, skid, {.Standard = 2, .Source = 2}, {1});
     ConfigureStation(story, delivery, {.Standard = 3, .Source = 1, .Chromatograph = true}, {1});
     for (const QString& station : {single, large, skid, delivery})
         ReadSummaries(story, station, 1);
     LookAtTheConfigurator(story, large);
     EditWithATagRenamed(story, single);
+    tour::TellRuns(story, folder, large);
     moves::Exit(story);
 }
 
@@ -141,7 +136,7 @@ int Play(const QDir& folder) {
     platform::RealMachine machine;
     tour::TourScreen screen(folder.absolutePath());
     app::Application program(machine.Seams(), screen);
-    Tell(screen.TheStory);
+    Tell(screen.TheStory, folder);
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;
     screen.RunToEnd();

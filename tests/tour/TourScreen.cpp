@@ -48,14 +48,28 @@ QString TourScreen::SightOf(const QWidget& window) {
     return sight;
 }
 
+bool TourScreen::ViewText(const std::string& path, ui::WindowState state) {
+    const bool shown = QtScreen::ViewText(path, state);
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        if (window->isVisible() && window->objectName() == QStringLiteral("TextWindow")) {
+            TakePicture(*window);
+            window->close();
+        }
+    return shown;
+}
+
 void TourScreen::Look() {
     QWidget* window = WindowInFront();
-    if (window == nullptr || !seen_.insert(SightOf(*window)).second)
-        return;
+    if (window != nullptr && seen_.insert(SightOf(*window)).second)
+        TakePicture(*window);
+}
+
+void TourScreen::TakePicture(QWidget& window) {
     ++pictures_;
     const QString name =
-        QStringLiteral("%1-%2.png").arg(pictures_, 2, 10, QLatin1Char('0')).arg(NameOf(*window));
-    (void)window->grab().save(QDir(folder_).filePath(name));
+        QStringLiteral("%1-%2.png").arg(pictures_, 2, 10, QLatin1Char('0')).arg(NameOf(window));
+    (void)window.grab().save(QDir(folder_).filePath(name));
 }
 
 } // namespace gfc::tour

@@ -18,8 +18,12 @@ public:
 
     [[nodiscard]] int Pictures() const { return pictures_; }
 
+    // In the program's own window, which is gone again behind its picture.
+    bool ViewText(const std::string& path, ui::WindowState state) override;
+
 private:
     void Look();
+    void TakePicture(QWidget& window);
     // A window is pictured anew where it shows something else: another title, another page.
     [[nodiscard]] static QString SightOf(const QWidget& window);
 

@@ -1,5 +1,6 @@
 #include "forms/binding/UnusedTags.h"
 
+#include "binding/TagsInUse.h"
 #include "config/Vocabulary.h"
 #include "forms/program/Program.h"
 
