@@ -23,7 +23,10 @@ QWidget* WindowInFront() {
 }
 
 QString NameOf(const QWidget& window) {
-    return qobject_cast<const QMessageBox*>(&window) != nullptr ? QStringLiteral("Box") : window.objectName();
+    if (qobject_cast<const QMessageBox*>(&window) != nullptr)
+        return QStringLiteral("Box");
+    return window.objectName().isEmpty() ? QString::fromLatin1(window.metaObject()->className())
+                                         : window.objectName();
 }
 
 } // namespace
@@ -68,7 +71,7 @@ void TourScreen::Look() {
 void TourScreen::TakePicture(QWidget& window) {
     ++pictures_;
     const QString name =
-        QStringLiteral("%1-%2.png").arg(pictures_, 2, 10, QLatin1Char('0')).arg(NameOf(window));
+        QStringLiteral("%1-%2.png").arg(pictures_, 3, 10, QLatin1Char('0')).arg(NameOf(window));
     (void)window.grab().save(QDir(folder_).filePath(name));
 }
 
