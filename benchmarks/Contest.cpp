@@ -1,5 +1,7 @@
 #include "Contest.h"
 
+#include <chrono>
+
 namespace gfc::bench {
 
 namespace {
@@ -28,6 +30,12 @@ void Contest(const std::string& row, const std::string& contender, Work work, Pa
 
 void TakeSeconds(benchmark::State& state, double seconds) {
     state.SetIterationTime(seconds);
+}
+
+double SecondsOf(const std::function<void()>& act) {
+    const auto begin = std::chrono::steady_clock::now();
+    act();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
 void TakeBytes(benchmark::State& state, double bytes) {

@@ -26,6 +26,8 @@ void Contest(const std::string& row, const std::string& contender, Work work, Pa
 
 // The figure of this iteration in place of the clock's, in seconds; for works of Pace::Once alone.
 void TakeSeconds(benchmark::State& state, double seconds);
+// How long that takes by the clock.
+[[nodiscard]] double SecondsOf(const std::function<void()>& act);
 // The figure of the row is an amount of bytes and no time.
 void TakeBytes(benchmark::State& state, double bytes);
 

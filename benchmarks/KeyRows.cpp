@@ -3,6 +3,7 @@
 #include "Material.h"
 #include "peers/Peers.h"
 
+#include <map>
 #include <memory>
 
 // One key of a station's file, the whole way each time.
@@ -35,11 +36,17 @@ private:
     std::size_t turn_ = 0;
 };
 
+// Made once for each scale: at the largest they take longer to make than to be read.
+Files& FilesAt(int scale) {
+    static std::map<int, Files> files;
+    return files.try_emplace(scale, scale).first->second;
+}
+
 using Access = std::function<std::string(const std::string& path, const std::string& section)>;
 
 Work Reading(Access access) {
     return [access = std::move(access)](benchmark::State& state, int scale) {
-        Files files(scale);
+        Files& files = FilesAt(scale);
         if (access(files.Next(), files.Section).empty())
             state.SkipWithError("the key was not found");
         for (auto _ : state)
@@ -52,7 +59,7 @@ using Change =
 
 Work Writing(Change change) {
     return [change = std::move(change)](benchmark::State& state, int scale) {
-        Files files(scale);
+        Files& files = FilesAt(scale);
         int value = 0;
         for (auto _ : state)
             change(files.Next(), files.Section, std::to_string(1000 + ++value % 9000));
@@ -82,7 +89,7 @@ void ContestWriting() {
                                  const std::string& value) { ini->WriteKey(section, Key, value, path); }));
     // The bytes are at hand: the floor neither reads nor changes.
     Contest("write_key", Floor, [](benchmark::State& state, int scale) {
-        Files turn(scale);
+        Files& turn = FilesAt(scale);
         const std::string bytes = PlainRead(turn.Next());
         for (auto _ : state)
             PlainReplace(turn.Next(), bytes);

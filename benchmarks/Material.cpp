@@ -82,7 +82,7 @@ void PutField(char (&field)[Width], const std::string& text) {
 struct Share {
     const char* RegType;
     const char* ModuleType;
-    int Modulus; // of each hundred tags
+    int OfAHundred; // tags
 };
 
 // Most tags of a large station are floats of virtual modules.
@@ -98,7 +98,7 @@ constexpr std::array<Share, 8> Shares = {{{"FX", "Virtual Module", 60},
 const Share& ShareOf(std::size_t index, std::size_t count) {
     std::size_t upTo = 0;
     for (const Share& share : Shares) {
-        upTo += count * static_cast<std::size_t>(share.Modulus) / 100;
+        upTo += count * static_cast<std::size_t>(share.OfAHundred) / 100;
         if (index < upTo)
             return share;
     }
@@ -173,6 +173,14 @@ project::TagInventory StationInventory(std::size_t count) {
     project::TagInventory inventory;
     project::BuildInventory(library->ReadTags("North", "/jobs/plant.KPJ", {}), inventory);
     return inventory;
+}
+
+project::TagList FloatTags(std::size_t count) {
+    project::TagList tags;
+    tags.reserve(count);
+    for (int number = 1; number <= static_cast<int>(count); ++number)
+        tags.push_back({TagName(number), number, "FX", "FX-0", "Virtual Module"});
+    return tags;
 }
 
 } // namespace gfc::bench

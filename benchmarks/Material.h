@@ -40,5 +40,7 @@ void Put(const std::string& path, const std::string& bytes);
 // to.
 [[nodiscard]] std::vector<project::TagRecord> StationRecords(std::size_t count);
 [[nodiscard]] project::TagInventory StationInventory(std::size_t count);
+// Floats of one virtual module.
+[[nodiscard]] project::TagList FloatTags(std::size_t count);
 
 } // namespace gfc::bench

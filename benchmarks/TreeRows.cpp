@@ -4,7 +4,7 @@
 #include "QuietScreen.h"
 #include "forms/main_window/GFCPrincipal.h"
 
-#include <chrono>
+#include <map>
 
 // The tree of the main window, below the window: what a command ends with.
 namespace gfc::bench {
@@ -12,12 +12,6 @@ namespace gfc::bench {
 namespace {
 
 constexpr int Stations = 1000;
-
-double SecondsOf(const std::function<void()>& work) {
-    const auto begin = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
 
 // One plant for each scale serves all repetitions: to make a hundred thousand files takes far longer than to
 // read them.

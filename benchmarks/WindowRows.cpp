@@ -11,8 +11,6 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include <chrono>
-
 // The windows themselves, in memory: every figure ends when nothing is left to be painted.
 namespace gfc::bench {
 
@@ -33,17 +31,10 @@ void Settle() {
 }
 
 double SecondsUntilPainted(const std::function<void()>& act) {
-    const auto begin = std::chrono::steady_clock::now();
-    act();
-    Settle();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-}
-
-project::TagList FreeFloats(int scale) {
-    const std::size_t wanted = FreeTags * static_cast<std::size_t>(scale);
-    project::TagList tags = std::move(StationInventory(wanted * 10 / 6 + 10).VirtFX);
-    tags.resize(wanted);
-    return tags;
+    return SecondsOf([&act] {
+        act();
+        Settle();
+    });
 }
 
 // TagRuns over a station of which nothing is bound yet, closed again at the end.
@@ -55,7 +46,7 @@ public:
         session.Station.Runs.PrepareWholeStation(1);
         session.EditMode = forms::EditMode::Wizard;
         session.BindingStage = stage;
-        session.Inventory.AvailFloat = FreeFloats(scale);
+        session.Inventory.AvailFloat = FloatTags(FreeTags * static_cast<std::size_t>(scale));
         const auto others = StationInventory(1000);
         session.Inventory.AvailDigital = others.PhysX;
         session.Inventory.AvailAnalog = others.PhysAY;
@@ -97,7 +88,7 @@ void FillModel(QStandardItemModel& model, const project::TagList& tags) {
 }
 
 void OpenBareList(benchmark::State& state, int scale) {
-    const auto tags = FreeFloats(scale);
+    const auto tags = FloatTags(FreeTags * static_cast<std::size_t>(scale));
     QWidget window;
     QStandardItemModel model;
     for (auto _ : state)
