@@ -37,6 +37,10 @@ void Call(const std::string& call) {
     answers->Calls.push_back(call);
 }
 
+void* ArrayIn(std::vector<char>& bytes) {
+    return answers->NoArray || bytes.empty() ? nullptr : bytes.data() + 1;
+}
+
 extern "C" {
 
 static std::int32_t GFC_ADDON_CALL FakeGetProjectFile(char* buffer, std::int32_t size) {
@@ -49,7 +53,7 @@ static std::int16_t GFC_ADDON_CALL FakeGetStaList(std::int32_t* count, void** st
                                                   const char* text) {
     Call("GetStaList " + std::to_string(one) + " '" + text + "'");
     *count = answers->StationCount;
-    *stations = answers->NoArray ? nullptr : answers->Stations.data() + 1;
+    *stations = ArrayIn(answers->Stations);
     return answers->StationResult;
 }
 
@@ -62,7 +66,7 @@ static std::int32_t GFC_ADDON_CALL FakeReadTagList(TagRequest* request, void** t
     Call("ReadTagList");
     answers->Requests.push_back(*request);
     std::memset(request, '#', sizeof *request);
-    *tags = answers->NoArray ? nullptr : answers->Tags.data() + 1;
+    *tags = ArrayIn(answers->Tags);
     return answers->TagCount;
 }
 

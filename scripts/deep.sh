@@ -1,0 +1,53 @@
+# Sourced by ./test: the steps that take minutes, each with a build of its own under build/.
+# shellcheck shell=bash
+
+fuzz_targets=(profile update reader check wire csv project entry contract_time)
+
+# Built objects are kept where that can be.
+use_ccache() {
+    if command -v ccache >/dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    fi
+}
+
+build_sanitized() {
+    install_missing "${packages_for_deep[@]}"
+    use_ccache
+    cmake --preset sanitize >/dev/null
+    cmake --build --preset sanitize
+}
+
+# The whole suite, windows and tour too. A program at a time, so that leaks are looked for once in each.
+check_sanitized() {
+    say "Sanitizers"
+    build_sanitized
+    local bin=build/sanitize/bin program
+    export QT_QPA_PLATFORM=offscreen
+    export LSAN_OPTIONS="suppressions=$PWD/tests/sanitizers/leaks.supp:print_suppressions=0"
+    export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
+    export UBSAN_OPTIONS=print_stacktrace=1
+    find "$bin" -name '*_test' | sort | xargs -P "$(nproc)" -I{} sh -c \
+        '{} --gtest_brief=1 >{}.log 2>&1 && echo "${1##*/} passes" || { cat {}.log; exit 255; }' sh {}
+    "$bin/gfc-tour" build/sanitize/tour >build/sanitize/tour.log 2>&1 || { tail -n 60 build/sanitize/tour.log; return 1; }
+    echo "gfc-tour passes"
+}
+
+# Every fuzzer for some seconds from the kept corpus, under the sanitizers; a finding ends it and leaves its bytes.
+check_fuzz() {
+    local seconds=${1:-15}
+    say "Fuzzers, $seconds s each"
+    [ -x build/sanitize/bin/fuzz_profile ] || build_sanitized
+    mkdir -p build/fuzzing
+    printf '%s\n' "${fuzz_targets[@]}" | xargs -P "$(nproc)" -I{} scripts/fuzz build/sanitize {} \
+        -max_total_time="$seconds"
+}
+
+# What the tests do not reach below the window: lines, and both outcomes of every condition.
+check_coverage() {
+    say "Coverage"
+    install_missing "${packages_for_deep[@]}"
+    use_ccache
+    cmake --preset coverage >/dev/null
+    cmake --build --preset coverage
+    scripts/coverage build/coverage
+}
