@@ -10,24 +10,26 @@ use_ccache() {
     fi
 }
 
+# build_sanitized TARGET...
 build_sanitized() {
     install_missing "${packages_for_deep[@]}"
     use_ccache
     cmake --preset sanitize >/dev/null
-    cmake --build --preset sanitize
+    cmake --build build/sanitize --target "$@"
 }
 
 # The whole suite, windows and tour too. A program at a time, so that leaks are looked for once in each.
 check_sanitized() {
     say "Sanitizers"
-    build_sanitized
-    local bin=build/sanitize/bin program
+    build_sanitized all
+    local bin=build/sanitize/bin
     export QT_QPA_PLATFORM=offscreen
     export LSAN_OPTIONS="suppressions=$PWD/tests/sanitizers/leaks.supp:print_suppressions=0"
     export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
     export UBSAN_OPTIONS=print_stacktrace=1
+    # shellcheck disable=SC2016 # the shell that xargs starts is to see these
     find "$bin" -name '*_test' | sort | xargs -P "$(nproc)" -I{} sh -c \
-        '{} --gtest_brief=1 >{}.log 2>&1 && echo "${1##*/} passes" || { cat {}.log; exit 255; }' sh {}
+        '"$1" --gtest_brief=1 >"$1.log" 2>&1 || { cat "$1.log"; exit 255; }; echo "$1 passes"' sh {}
     "$bin/gfc-tour" build/sanitize/tour >build/sanitize/tour.log 2>&1 || { tail -n 60 build/sanitize/tour.log; return 1; }
     echo "gfc-tour passes"
 }
@@ -36,8 +38,7 @@ check_sanitized() {
 check_fuzz() {
     local seconds=${1:-15}
     say "Fuzzers, $seconds s each"
-    [ -x build/sanitize/bin/fuzz_profile ] || build_sanitized
-    mkdir -p build/fuzzing
+    build_sanitized fuzzers
     printf '%s\n' "${fuzz_targets[@]}" | xargs -P "$(nproc)" -I{} scripts/fuzz build/sanitize {} \
         -max_total_time="$seconds"
 }

@@ -6,7 +6,8 @@
 #include "project/WireRecords.h"
 #include "services/CodePage.h"
 
-#include <cstring>
+#include <algorithm>
+#include <memory>
 #include <vector>
 
 // Any bytes as what the add-on library hands over: the project's path, the stations, a station's tags.
@@ -16,6 +17,9 @@ namespace {
 
 using project::StationRecord;
 using project::TagRecord;
+
+// The least that the library may write back behind a text that it was given.
+constexpr std::size_t textRoom = 255;
 
 // What the library answers. The interface is one of C functions, which know no object.
 struct Answers {
@@ -36,8 +40,7 @@ Answers& TheAnswers() {
 
 std::int32_t GetProjectFile(char* buffer, std::int32_t size) {
     const auto& answers = TheAnswers();
-    std::memcpy(buffer, answers.ProjectFile.data(),
-                std::min(answers.ProjectFile.size(), static_cast<std::size_t>(size)));
+    answers.ProjectFile.copy(buffer, static_cast<std::size_t>(size));
     return answers.Result;
 }
 
@@ -68,7 +71,7 @@ void FreeTagList() {
 
 std::int32_t AddFileToLoad(char* station, char* local, char* target, std::int32_t /*flag*/, char* text) {
     for (char* argument : {station, local, target, text})
-        std::memcpy(argument, TheAnswers().ProjectFile.data(), TheAnswers().ProjectFile.size());
+        TheAnswers().ProjectFile.copy(argument, textRoom);
     return TheAnswers().Result;
 }
 
