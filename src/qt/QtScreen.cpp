@@ -140,6 +140,11 @@ void QtScreen::WaitAMoment() {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
+void QtScreen::Busy(const std::function<void()>& work) {
+    const Waiting waiting;
+    work();
+}
+
 void QtScreen::EndProgram(int exitCode) {
     if (ended_)
         return;

@@ -45,6 +45,7 @@ public:
     bool ViewText(const std::string& path, ui::WindowState state) override;
     void DoEvents() override;
     void WaitAMoment() override;
+    void Busy(const std::function<void()>& work) override;
     void EndProgram(int exitCode) override;
     [[nodiscard]] bool Ended() const override { return ended_; }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -59,6 +60,8 @@ public:
     // Waits some milliseconds with the windows painting, a busy pointer and the processor idle. Of what a
     // person does only the closing of a window is taken; all else is dropped.
     virtual void WaitAMoment() = 0;
+    // Does the work behind a busy pointer: for what other programs may take seconds over.
+    virtual void Busy(const std::function<void()>& work) = 0;
     // Ends the program: every modal loop returns, no window opens any more.
     virtual void EndProgram(int exitCode) = 0;
     [[nodiscard]] virtual bool Ended() const = 0;

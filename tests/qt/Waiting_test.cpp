@@ -39,6 +39,17 @@ TEST_F(Waiting, shows_a_busy_pointer) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(Waiting, is_shown_for_as_long_as_work_is_done) {
+    bool done = false;
+    Screen.Busy([&] {
+        done = true;
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    });
+    EXPECT_TRUE(done);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(Waiting, lets_the_window_be_closed) {
     Meanwhile([&] { Window().close(); });
     EXPECT_FALSE(Form->IsShown());

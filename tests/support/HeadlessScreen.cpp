@@ -113,6 +113,11 @@ void HeadlessScreen::WaitAMoment() {
     EndProgram(-1);
 }
 
+void HeadlessScreen::Busy(const std::function<void()>& work) {
+    ++TimesBusy;
+    work();
+}
+
 void HeadlessScreen::EndProgram(int exitCode) {
     ExitCode = exitCode;
     ended_ = true;

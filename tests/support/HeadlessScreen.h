@@ -37,6 +37,7 @@ public:
     ui::MenuEntry* LastPopUp = nullptr;
     int ExitCode = 0;
     bool ViewerWorks = true;
+    int TimesBusy = 0;
     // Called at each moment that the program waits, for what changes outside it meanwhile; without it the
     // story goes on there.
     std::function<void()> OnWait;
@@ -56,6 +57,7 @@ public:
     bool ViewText(const std::string& path, ui::WindowState state) override;
     void DoEvents() override {}
     void WaitAMoment() override;
+    void Busy(const std::function<void()>& work) override;
     void EndProgram(int exitCode) override;
     [[nodiscard]] bool Ended() const override { return ended_; }
 

@@ -99,7 +99,8 @@ void GFCPrincipal::PrepareWindow() {
 }
 
 bool GFCPrincipal::LoadProjectAndStations() {
-    const auto outcome = project::LoadProject(program_.Library, session_.Project);
+    auto outcome = project::LoadOutcome::NoProject;
+    program_.Screen.Busy([&] { outcome = project::LoadProject(program_.Library, session_.Project); });
     session_.Station.ProjectFile = session_.Project.ProjectFile;
     session_.Station.ProjectName = session_.Project.ProjectName;
     if (outcome == project::LoadOutcome::NoProject)
@@ -129,8 +130,10 @@ void GFCPrincipal::Unloading() {
 }
 
 void GFCPrincipal::RegisterFiles() {
-    project::RegisterAllStations(program_.Library, program_.Ini, session_.Project,
-                                 session_.Station.CurrentStation);
+    program_.Screen.Busy([this] {
+        project::RegisterAllStations(program_.Library, program_.Ini, session_.Project,
+                                     session_.Station.CurrentStation);
+    });
 }
 
 } // namespace gfc::forms

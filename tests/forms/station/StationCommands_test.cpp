@@ -68,6 +68,21 @@ TEST_F(StationCommands, status_bar_shows_the_tag_that_was_copied_last) {
     EXPECT_TRUE(Window().StatusBar1.Visible());
 }
 
+// The library may take its time, and nothing else runs meanwhile.
+TEST(Loading, shows_a_busy_pointer_for_as_long_as_the_library_is_asked) {
+    PaintingScreen screen;
+    FakeProgram fake(screen);
+    fake.AddStation("Big", TagsInModule("VF0", "Virtual FI", "FX", "FT-", 600));
+    fake.OpenProject();
+    fake.Station.CurrentStation = "Big";
+    std::vector<int> times;
+    screen.OnPaint = [&] { times.push_back(screen.TimesBusy); };
+    (void)forms::OpenStation(fake.Program);
+    ASSERT_EQ(times.size(), 3U) << "before, amid and after the tags";
+    EXPECT_EQ(times[1], times[0] + 1);
+    EXPECT_EQ(times[2], times[1]);
+}
+
 TEST(Loading, paints_now_and_then_but_not_for_each_of_100000_tags) {
     PaintingScreen screen;
     FakeProgram fake(screen);
