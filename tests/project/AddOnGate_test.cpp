@@ -197,6 +197,17 @@ TEST_F(AddOnGate, hands_on_the_reason_of_a_library_that_does_not_load) {
     EXPECT_EQ(Error, std::string("/opt") + platform::Separator + AddOnFileName() + ": no such file");
 }
 
+TEST_F(AddOnGate, is_loaded_from_nowhere_where_the_program_folder_is_not_known) {
+    const auto none = LoadAddOnLibrary(
+        [](const std::string& path) {
+            ADD_FAILURE() << path << " was asked for";
+            return platform::LibraryLoad{};
+        },
+        {}, Error);
+    EXPECT_EQ(none, nullptr);
+    EXPECT_EQ(Error, "The folder of the program is not known");
+}
+
 TEST_F(AddOnGate, requires_no_function_that_is_never_called) {
     for (const auto& function : AddOnFunctions) {
         if (function.Called)
