@@ -19,6 +19,7 @@ public:
     bool ViewText(const std::string&, ui::WindowState) override { return false; }
     void DoEvents() override {}
     void WaitAMoment() override {}
+    void Busy(const std::function<void()>& work) override { work(); }
     void EndProgram(int) override {}
     [[nodiscard]] bool Ended() const override { return false; }
 };
