@@ -15,12 +15,14 @@ namespace {
 // changed since. So many files in turn make each access a complete one, for everybody.
 constexpr std::size_t FilesInTurn = 64;
 
+constexpr std::size_t FileSize = 32 * 1024;
+
 // In the last run's section, as far from the top as a key can be.
 constexpr const char* Key = "AGA8StatusKDIORegAddr";
 
 struct Files {
     explicit Files(int scale) {
-        const std::string bytes = LongStationFile(scale);
+        const std::string bytes = LongStationFile(FileSize * static_cast<std::size_t>(scale));
         Section = bytes.substr(bytes.rfind("\n[") + 2);
         Section.resize(Section.find(']'));
         for (std::size_t i = 0; i < FilesInTurn; ++i)

@@ -143,11 +143,10 @@ std::string StationFile(int runs) {
     return ReadAll(folder.File("station.ini"));
 }
 
-std::string LongStationFile(int scale) {
+std::string LongStationFile(std::size_t size) {
     std::string bytes = StationFile();
     const std::string lastRun = bytes.substr(bytes.rfind("[Run5]") + std::strlen("[Run5]"));
-    const std::size_t wanted = bytes.size() * static_cast<std::size_t>(scale);
-    for (int run = config::MaxRuns + 1; bytes.size() < wanted; ++run)
+    for (int run = config::MaxRuns + 1; bytes.size() < size; ++run)
         bytes += "[Run" + std::to_string(run) + "]" + lastRun;
     return bytes;
 }

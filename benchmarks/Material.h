@@ -31,10 +31,10 @@ void Put(const std::string& path, const std::string& bytes);
 
 // AGA-3 over AGA-8 with a chromatograph, all runs configured and bound.
 [[nodiscard]] config::StationConfig FullStation(int runs = config::MaxRuns);
-// What the program writes for it: some 32 KB for five runs.
+// What the program writes for it: some 5 KB for one run and 22 KB for five.
 [[nodiscard]] std::string StationFile(int runs = config::MaxRuns);
-// The same with more runs than a station may have: 32 KB times the scale.
-[[nodiscard]] std::string LongStationFile(int scale);
+// The same for five runs, and then with more than a station may have until it is that long.
+[[nodiscard]] std::string LongStationFile(std::size_t size);
 
 // A station of that many tags: every class, working modules large enough, and those that FullStation is bound
 // to.

@@ -18,8 +18,16 @@ struct OneFile {
     config::FileIni Ini{*Files};
 };
 
+constexpr std::size_t LoadedSize = 5000;
+constexpr std::size_t SavedSize = 32 * 1024;
+
+// One run, and for the larger scales others behind it.
+std::string OneRunFile(int scale) {
+    return scale == 1 ? StationFile(1) : LongStationFile(LoadedSize * static_cast<std::size_t>(scale));
+}
+
 void Load(benchmark::State& state, int scale) {
-    OneFile file(scale == 1 ? StationFile(1) : LongStationFile(scale / 10));
+    OneFile file(OneRunFile(scale));
     config::StationConfig station;
     for (auto _ : state) {
         const config::FileBatch batch(file.Ini, file.Path);
@@ -31,14 +39,14 @@ void Load(benchmark::State& state, int scale) {
 }
 
 void LoadFloor(benchmark::State& state, int scale) {
-    const OneFile file(scale == 1 ? StationFile(1) : LongStationFile(scale / 10));
+    const OneFile file(OneRunFile(scale));
     for (auto _ : state)
         benchmark::DoNotOptimize(PlainRead(file.Path));
 }
 
 // Each save changes a value of all runs.
 void Save(benchmark::State& state, int scale) {
-    OneFile file(LongStationFile(scale));
+    OneFile file(LongStationFile(SavedSize * static_cast<std::size_t>(scale)));
     config::StationConfig station = FullStation();
     int viscosity = 0;
     for (auto _ : state) {
@@ -48,7 +56,7 @@ void Save(benchmark::State& state, int scale) {
 }
 
 void SaveFloor(benchmark::State& state, int scale) {
-    const OneFile file(LongStationFile(scale));
+    const OneFile file(LongStationFile(SavedSize * static_cast<std::size_t>(scale)));
     const std::string bytes = PlainRead(file.Path);
     for (auto _ : state)
         PlainReplace(file.Path, bytes);
