@@ -23,14 +23,21 @@ struct Row {
 
 // clang-format off
 constexpr std::array<Row, 10> Rows = {{
-    {"read_key",  "one `ReadKey`, complete access, 32 KB file", "open, read, scan, close of the same bytes", 1.2},
-    {"write_key", "one `WriteKey`, complete, atomic, flushed", "write beside, flush, rename, flush of the folder", 1.15},
+    {"read_key",  "one `ReadKey`, complete access, 32 KB file",
+                  "open, read, scan, close of the same bytes", 1.2},
+    {"write_key", "one `WriteKey`, complete, atomic, flushed",
+                  "write beside, flush, rename, flush of the folder", 1.15},
     {"load",      "load of a station and one run, 230 keys", "open, read, close of the file", 2},
-    {"save",      "the configurator's save, 100 keys, 32 KB file", "one atomic replace of the same bytes", 1.3},
-    {"tree",      "tree and table of 1,000 configured stations, rebuilt, below the window", "open, read, close of the 1,000 files", 1.5},
-    {"tags",      "100,000 tags: copy from the library, inventory, candidates, derived lists", "`memcpy` of the records into fresh memory", 4},
-    {"check",     "check of a full file, five runs with chromatograph, against 100,000 tags", "one pass over the records", 2},
-    {"open_tags", "`TagRuns` opened on 50,000 free tags", "a bare table view over Qt's own model of the same rows", 1.5},
+    {"save",      "the configurator's save, 100 keys, 32 KB file",
+                  "one atomic replace of the same bytes", 1.3},
+    {"tree",      "tree and table of 1,000 configured stations, rebuilt, below the window",
+                  "open, read, close of the 1,000 files", 1.5},
+    {"tags",      "100,000 tags: copy from the library, inventory, candidates, derived lists",
+                  "`memcpy` of the records into fresh memory", 4},
+    {"check",     "check of a full file, five runs with chromatograph, against 100,000 tags",
+                  "one pass over the records", 2},
+    {"open_tags", "`TagRuns` opened on 50,000 free tags",
+                  "a bare table view over Qt's own model of the same rows", 1.5},
     {"start",     "process start to main window, less the splash's wait", "start of an empty Qt window", 1.5},
     {"start",     "the same", "start of a Qt window with one word in it", 0, "one word"},
 }};
