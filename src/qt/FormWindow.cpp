@@ -4,6 +4,7 @@
 #include "qt/Renderer.h"
 #include "qt/Texts.h"
 
+#include <QAbstractButton>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
@@ -77,17 +78,22 @@ void FormWindow::BindControl(ui::Control& control) {
     renderers_[&control] = std::move(renderer);
 }
 
-// A control without an accessible name of its own bears its caption, or that of the label beside it.
+// A control whose widget does not speak for itself bears its caption, or that of the label beside it. What
+// shows a text is left alone, since it is read as it stands at the time.
 void FormWindow::NameForReaders() {
-    setAccessibleName(windowTitle());
     for (const auto& [control, renderer] : renderers_) {
         QWidget* widget = WidgetNamed(control->Name());
-        if (widget != nullptr && widget->accessibleName().isEmpty())
+        if (widget != nullptr && control->TakesFocus() && widget->accessibleName().isEmpty() &&
+            qobject_cast<QAbstractButton*>(widget) == nullptr)
             widget->setAccessibleName(WithoutMnemonics(ToQt(control->Caption())));
     }
     for (const QLabel* label : content_->findChildren<QLabel*>())
         if (QWidget* named = label->buddy(); named != nullptr && named->accessibleName().isEmpty())
             named->setAccessibleName(WithoutMnemonics(label->text()));
+    // The part of a widget on which the focus rests bears the name of the whole.
+    for (const auto& [control, renderer] : renderers_)
+        if (QWidget* part = renderer->FocusWidget(); part != nullptr && part->accessibleName().isEmpty())
+            part->setAccessibleName(WidgetNamed(control->Name())->accessibleName());
 }
 
 void FormWindow::Release() {
@@ -132,6 +138,7 @@ QMenuBar& FormWindow::MenuBar() {
     if (menuBar_ == nullptr) {
         menuBar_ = new QMenuBar(this);
         menuBar_->setObjectName("layoutMenuBar");
+        menuBar_->setAccessibleName(tr("Menu bar"));
         layout()->setMenuBar(menuBar_);
     }
     return *menuBar_;
@@ -141,6 +148,7 @@ void FormWindow::Act(Renderer& renderer, const std::function<void()>& act) {
     if (form_ == nullptr || IsWriting())
         return;
     const InEvent going(*this);
+    busy_.Note();
     act();
     if (form_ == nullptr)
         return;
@@ -155,6 +163,7 @@ void FormWindow::RefreshAll() {
 }
 
 void FormWindow::ControlChanged(ui::Control& control) {
+    busy_.Note();
     const Writing writing(*this);
     if (Renderer* renderer = RendererOf(&control); renderer != nullptr)
         renderer->Refresh();
@@ -163,6 +172,7 @@ void FormWindow::ControlChanged(ui::Control& control) {
 void FormWindow::FormChanged() {
     const Writing writing(*this);
     setWindowTitle(ToQt(form_->Caption()));
+    setAccessibleName(windowTitle());
     const auto flags = FlagsFor(windowModality());
     if (isVisible() && flags != windowFlags()) {
         setWindowFlags(flags);

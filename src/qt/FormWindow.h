@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/BusyPointer.h"
 #include "qt/Designs.h"
 #include "qt/FocusGate.h"
 #include "ui/Form.h"
@@ -106,6 +107,7 @@ private:
     QMenuBar* menuBar_ = nullptr;
     std::map<const ui::Control*, std::unique_ptr<Renderer>> renderers_;
     std::unique_ptr<FocusGate> gate_;
+    BusyPointer busy_;
     QPointer<QWidget> focusBeforeDisabling_;
     int writing_ = 0;
     int events_ = 0;

@@ -4,6 +4,8 @@
 #include "qt/Renderer.h"
 #include "qt/Texts.h"
 #include "qt/support/AllForms.h"
+#include "qt/support/Reading.h"
+#include "qt/support/WindowDriver.h"
 #include "support/World.h"
 #include "ui/Buttons.h"
 #include "ui/Furniture.h"
@@ -12,17 +14,24 @@
 #include "ui/TabbedPane.h"
 #include "ui/Tree.h"
 
+#include <QApplication>
 #include <QLayout>
+#include <QPushButton>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QWidget>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <ostream>
 #include <set>
 
 namespace gfc::test {
+
+using ::testing::IsEmpty;
 
 namespace {
 
@@ -158,6 +167,51 @@ TEST_P(EveryForm, fits_on_a_small_screen) {
     window.ShowAs(Qt::NonModal, nullptr);
     EXPECT_LE(window.width(), 1366);
     EXPECT_LE(window.height(), 700);
+}
+
+TEST_P(EveryForm, cuts_no_text_however_large_the_letters_are) {
+    const QFont usual = QApplication::font();
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * scale);
+        QApplication::setFont(font);
+        qt::FormWindow window(*Form);
+        window.ShowAs(Qt::NonModal, nullptr);
+        Settle();
+        EXPECT_THAT(CutTexts(window), IsEmpty()) << "letters of " << scale;
+    }
+    QApplication::setFont(usual);
+}
+
+TEST_P(EveryForm, tells_readers_the_name_and_the_role_of_all_that_is_seen) {
+    qt::FormWindow window(*Form);
+    window.ShowAs(Qt::NonModal, nullptr);
+    EXPECT_THAT(Unnamed(window), IsEmpty());
+}
+
+TEST_P(EveryForm, is_gone_through_by_tab_as_it_is_read) {
+    qt::FormWindow window(*Form);
+    window.ShowAs(Qt::NonModal, nullptr);
+    Settle();
+    EXPECT_THAT(StepsAgainstReading(window), IsEmpty());
+}
+
+TEST_P(EveryForm, gives_each_button_a_letter_of_its_own) {
+    const qt::FormWindow window(*Form);
+    std::map<std::string, std::vector<const QWidget*>> owners;
+    for (const QShortcut* key : window.findChildren<QShortcut*>())
+        if (const auto* owner = qobject_cast<QWidget*>(key->parent()); owner != &window)
+            owners[qt::FromQt(key->key().toString())].push_back(owner);
+    for (const auto& [key, widgets] : owners)
+        EXPECT_LE(std::count_if(widgets.begin(), widgets.end(),
+                                [&window](const QWidget* each) { return each->isVisibleTo(&window); }),
+                  1)
+            << key;
+    for (const ui::Control* control : Form->Controls())
+        if (const auto* button = dynamic_cast<QPushButton*>(window.WidgetNamed(control->Name()))) {
+            EXPECT_TRUE(button->text().contains(u'&') || button->findChild<QShortcut*>() != nullptr)
+                << control->Name();
+        }
 }
 
 TEST_P(EveryForm, has_even_margins) {

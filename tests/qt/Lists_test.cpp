@@ -100,6 +100,16 @@ TEST_F(Lists, of_nodes_show_text_picture_colour_and_weight) {
     EXPECT_FALSE(leaf.data(Qt::FontRole).value<QFont>().bold());
 }
 
+TEST_F(Lists, of_nodes_tell_in_words_what_picture_and_colour_tell) {
+    const QModelIndex branch = NodeAt(Tree(), "Root\\Branch");
+    EXPECT_EQ(branch.data(Qt::AccessibleTextRole).toString(), "Branch, configured");
+    EXPECT_EQ(branch.data(Qt::ToolTipRole).toString(), "Branch, configured");
+    EXPECT_EQ(branch.data().toString(), "Branch");
+    Form->tree.SetImage(2, "StationNoConfig");
+    EXPECT_EQ(branch.data(Qt::AccessibleTextRole).toString(), "Branch, not configured");
+    EXPECT_EQ(NodeAt(Tree(), "Root").data(Qt::AccessibleTextRole).toString(), "Root");
+}
+
 TEST_F(Lists, of_nodes_use_shades_that_can_be_read) {
     for (const auto colour : {ui::Colour::Blue, ui::Colour::Red, ui::Colour::Green}) {
         Form->tree.SetColour(3, colour);

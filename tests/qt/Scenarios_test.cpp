@@ -1,11 +1,15 @@
 #include "forms/program/StartUp.h"
 #include "forms/station/PassStory.h"
 #include "qt/support/KeyboardDriver.h"
+#include "qt/support/Reading.h"
 #include "qt/support/StoryScreen.h"
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
 #include "support/TestFolders.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <set>
@@ -26,11 +30,26 @@ void Play(const Scenario& scenario, StoryScreen& screen) {
     scenario.After(program);
 }
 
+// Whatever is shown on the way can be read, also by a screen reader.
+void LookAtWindows(std::set<std::string>& complaints) {
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || qobject_cast<const QDialog*>(window) != nullptr)
+            continue;
+        for (const auto& complaint : CutTexts(*window))
+            complaints.insert(complaint);
+        for (const auto& complaint : Unnamed(*window))
+            complaints.insert(complaint);
+    }
+}
+
 } // namespace
 
 TEST_P(InWindows, plays) {
     StoryScreen screen;
+    std::set<std::string> complaints;
+    screen.BeforeStep = [&complaints] { LookAtWindows(complaints); };
     Play(GetParam(), screen);
+    EXPECT_THAT(complaints, ::testing::IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Scenarios, InWindows, ::testing::ValuesIn(AllScenarios()),

@@ -1,6 +1,7 @@
 #include "qt/WindowFixture.h"
 #include "support/TempFolder.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCursor>
@@ -43,8 +44,16 @@ TEST_F(Windows, bear_the_forms_name_and_caption) {
 }
 
 TEST_F(Windows, name_their_widgets_for_readers) {
-    EXPECT_EQ(Widget<QPushButton>("go").accessibleName(), "Go");
-    EXPECT_EQ(Widget<QGroupBox>("group").accessibleName(), "Group");
+    const auto read = [this](const char* name) {
+        return QAccessible::queryAccessibleInterface(&Widget<QWidget>(name))->text(QAccessible::Name);
+    };
+    EXPECT_EQ(read("go"), "Go");
+    EXPECT_EQ(read("group"), "Group");
+    EXPECT_EQ(read("title"), "A title");
+    Form->title.SetCaption("Another title");
+    EXPECT_EQ(read("title"), "Another title");
+    Form->SetCaption("Renamed");
+    EXPECT_EQ(Window().accessibleName(), "Renamed");
 }
 
 TEST_F(Windows, without_a_close_command_have_no_close_button) {

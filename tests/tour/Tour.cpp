@@ -145,22 +145,44 @@ int Play(const QDir& folder) {
     return PrintResults(folder) && whole ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+struct Options {
+    QString Folder; // empty if the arguments say nothing of use
+    int Scale = 1;
+    bool Dark = false;
+};
+
+Options OptionsOf(int argc, char* argv[]) {
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const QString argument = QString::fromLocal8Bit(argv[i]);
+        if (argument == QLatin1String("--dark"))
+            options.Dark = true;
+        else if (options.Folder.isEmpty())
+            options.Folder = QDir(argument).absolutePath();
+        else
+            options.Scale = std::max(1, argument.toInt());
+    }
+    return options;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
     ::testing::InitGoogleTest(&argc, argv);
-    if (argc < 2 || argc > 3) {
-        QTextStream(stderr) << "usage: gfc-tour FOLDER [SCALE]" << Qt::endl;
+    const Options options = OptionsOf(argc, argv);
+    if (options.Folder.isEmpty()) {
+        QTextStream(stderr) << "usage: gfc-tour FOLDER [SCALE] [--dark]" << Qt::endl;
         return 2;
     }
-    const int scale = argc == 3 ? std::max(1, std::atoi(argv[2])) : 1;
-    qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
-    test::UseOffscreenPlatform(scale);
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(options.Scale));
+    test::UseOffscreenPlatform(options.Scale);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setQuitOnLastWindowClosed(false);
-    const QDir folder(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
+    if (options.Dark)
+        test::UseDarkPalette();
+    const QDir folder(options.Folder);
     if (!folder.mkpath(QStringLiteral(".")) || !PrepareProject(folder))
         return EXIT_FAILURE;
     RemoveOldPictures(folder);

@@ -23,13 +23,13 @@ public:
     explicit TagRuns(Program& program);
 
     ui::Tree TreeAGA{*this, "TreeAGA"};
-    ui::ListView ListViewRuns{*this, "ListViewRuns"};
-    ui::ListView ListLong{*this, "ListLong"};
-    ui::ListView ListAnalogDig{*this, "ListAnalogDig"};
     ui::CommandButton Command1{*this, "Command1", "Assign"};
     ui::CommandButton Command4{*this, "Command4", "Undo Tag"};
     ui::CommandButton Command3{*this, "Command3", "Undo All"};
     ui::CommandButton Command6{*this, "Command6", "Auto-Assign"};
+    ui::ListView ListViewRuns{*this, "ListViewRuns"};
+    ui::ListView ListLong{*this, "ListLong"};
+    ui::ListView ListAnalogDig{*this, "ListAnalogDig"};
 
     ui::Frame Frame1{*this, "Frame1", "Flow Factors"};
     ui::Label Label2{Frame1, "Label2", "Calibration Factor"};
@@ -37,6 +37,11 @@ public:
     ui::Label lbkfactor{Frame1, "lbkfactor", "Meter K-Factor"};
     ui::TextBox kfactor{Frame1, "kfactor"};
     ui::Label ukfactor{Frame1, "ukfactor"};
+
+    ui::Frame Frphostd{*this, "Frphostd", "Run's Gas Properties"};
+    ui::Label lbrhostd{Frphostd, "lbrhostd", "Density @ Std. Cond."};
+    ui::TextBox phostd{Frphostd, "phostd"};
+    ui::Label uphostd{Frphostd, "uphostd"};
 
     ui::Frame Frame2{*this, "Frame2", "Run's Daily Contract Time (24-hr)"};
     ui::Label lbHour{Frame2, "lbHour", "Hour"};
@@ -46,11 +51,6 @@ public:
     ui::DropDownList ListMinx1{Frame2, "ListMinx1"};
     ui::OptionButton OptionLocal{Frame2, "OptionLocal", "Local"};
     ui::OptionButton OptionGMT{Frame2, "OptionGMT", "GMT"};
-
-    ui::Frame Frphostd{*this, "Frphostd", "Run's Gas Properties"};
-    ui::Label lbrhostd{Frphostd, "lbrhostd", "Density @ Std. Cond."};
-    ui::TextBox phostd{Frphostd, "phostd"};
-    ui::Label uphostd{Frphostd, "uphostd"};
 
     ui::Frame FrameCopy{*this, "FrameCopy", "     Copy Tag assignments from:"};
     ui::ControlArray<ui::OptionButton, config::MaxRuns> Option1{

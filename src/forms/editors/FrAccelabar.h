@@ -38,10 +38,10 @@ public:
     ui::CheckBox Check1{Frame2, "Check1", "Enable Copy"};
     SourceRuns Option1{Frame2, "Option1", SourceRunCaption};
 
+    ui::CommandButton Command4{*this, "Command4", "Help"};
     ui::CommandButton Command1{*this, "Command1", "Accept"};
     ui::CommandButton Command2{*this, "Command2", "Cancel"};
     ui::CommandButton Command3{*this, "Command3", "Default Value"};
-    ui::CommandButton Command4{*this, "Command4", "Help"};
 
 protected:
     void Load() override;

@@ -58,10 +58,10 @@ public:
     ui::CheckBox Check1{FrameCopy, "Check1", "Enable Copy"};
     SourceRuns Option1{FrameCopy, "Option1", SourceRunCaption};
 
+    ui::CommandButton cmdHelp{*this, "cmdHelp", "Help"};
     ui::CommandButton cmdAceptar{*this, "cmdAceptar", "Accept"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
     ui::CommandButton cmdDefaultValue{*this, "cmdDefaultValue", "Default Value"};
-    ui::CommandButton cmdHelp{*this, "cmdHelp", "Help"};
 
 protected:
     void Load() override;

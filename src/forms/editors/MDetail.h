@@ -27,10 +27,10 @@ public:
     SourceRuns Option1{Frame2, "Option1", SourceRunCaption};
     ui::CommandButton CopyGasCompButton{Frame2, "CopyGasCompButton", "Copy"};
 
+    ui::CommandButton HelpCompGas{*this, "HelpCompGas", "&Help"};
     ui::CommandButton Command1{*this, "Command1", "&Accept"};
     ui::CommandButton Command2{*this, "Command2", "&Undo All"};
     ui::CommandButton Command3{*this, "Command3", "&Cancel"};
-    ui::CommandButton HelpCompGas{*this, "HelpCompGas", "&Help"};
 
 protected:
     void Load() override;

@@ -34,11 +34,11 @@ public:
     SourceRuns Option1{Frame2, "Option1", SourceRunCaption};
     ui::CommandButton CopyGasCompButton{Frame2, "CopyGasCompButton", "Copy"};
 
+    ui::CommandButton ayuda{*this, "ayuda", "Help"};
     ui::CommandButton Command1{*this, "Command1", "Accept"};
     ui::CommandButton Command2{*this, "Command2", "Cancel"};
     // Deliberately without any action.
     ui::CommandButton Command3{*this, "Command3", "Undo All"};
-    ui::CommandButton ayuda{*this, "ayuda", "Help"};
 
 protected:
     void Load() override;

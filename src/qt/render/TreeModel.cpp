@@ -1,6 +1,7 @@
 #include "qt/render/TreeModel.h"
 
 #include "qt/Icons.h"
+#include "qt/StateWords.h"
 #include "qt/Texts.h"
 
 #include <QFont>
@@ -33,6 +34,12 @@ QVariant ColourOf(ui::Colour colour) {
     return QColor(QLatin1String(dark ? shade.OnDark : shade.OnLight));
 }
 
+// With what the picture and the colour tell.
+QString InWords(const ui::Tree::Node& node) {
+    const QString state = StateTold(node.Image);
+    return state.isEmpty() ? ToQt(node.Text) : ToQt(node.Text) + QStringLiteral(", ") + state;
+}
+
 } // namespace
 
 QModelIndex TreeModel::IndexOf(int node) const {
@@ -63,8 +70,10 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
     const ui::Tree::Node& its = tree_->At(node);
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return ToQt(its.Text);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return InWords(its);
     case Qt::DecorationRole:
         return Picture(node);
     case Qt::ForegroundRole:

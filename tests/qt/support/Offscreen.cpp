@@ -1,7 +1,9 @@
 #include "qt/support/Offscreen.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QPalette>
 #include <QString>
 #include <QTemporaryDir>
 
@@ -44,6 +46,27 @@ void UseOffscreenPlatform(int scale) {
         return;
     file.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + path.toUtf8());
+}
+
+void UseDarkPalette() {
+    const QColor ground(0x2a, 0x2e, 0x32);
+    const QColor text(0xee, 0xf0, 0xf1);
+    const QColor faded(0x8a, 0x90, 0x96);
+    // Lights and shadows of frames and buttons follow from these two.
+    QPalette palette(QColor(0x36, 0x3b, 0x40), ground);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, text);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, faded);
+    palette.setColor(QPalette::Base, QColor(0x1d, 0x20, 0x23));
+    palette.setColor(QPalette::AlternateBase, ground);
+    palette.setColor(QPalette::ToolTipBase, ground);
+    palette.setColor(QPalette::PlaceholderText, faded);
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x66, 0x90));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x8f, 0xb6, 0xff));
+    QApplication::setPalette(palette);
 }
 
 } // namespace gfc::test

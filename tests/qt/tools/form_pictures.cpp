@@ -71,14 +71,17 @@ int main(int argc, char* argv[]) {
     gfc::test::UseOffscreenPlatform(twice ? 2 : 1);
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    const QStringList arguments = QApplication::arguments().mid(1);
+    QStringList arguments = QApplication::arguments().mid(1);
+    const bool dark = arguments.removeAll(QStringLiteral("--dark")) > 0;
     if (arguments.isEmpty()) {
-        std::fputs("usage: form_pictures FOLDER [FORM ...]\n", stderr);
+        std::fputs("usage: form_pictures [--dark] FOLDER [FORM ...]\n", stderr);
         return 2;
     }
+    if (dark)
+        gfc::test::UseDarkPalette();
     QDir().mkpath(arguments.first());
     std::fflush(stdout);
     const bool well = PictureAll(arguments.first(), arguments.mid(1), twice ? "@2x.png" : ".png");
     std::fflush(stdout);
-    return well && (twice || PictureAtTwice(arguments)) ? 0 : 1;
+    return well && (twice || PictureAtTwice(QApplication::arguments().mid(1))) ? 0 : 1;
 }
