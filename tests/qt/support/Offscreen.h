@@ -6,7 +6,8 @@ namespace gfc::test {
 // platform. To be called before the application is made.
 void UseOffscreenPlatform(int scale = 1);
 
-// The palette that a system in its dark setting gives to the style. To be called once the application is made.
+// The palette that a system in its dark setting gives to the style. To be called once the application is
+// made.
 void UseDarkPalette();
 
 } // namespace gfc::test
