@@ -283,4 +283,17 @@ TEST(FileIniOnDisk, gives_the_same_bytes_one_by_one_and_in_a_batch) {
 }
 
 } // namespace
+TEST(FileBatchReading, sees_what_was_written_between_its_readings) {
+    test::MemoryFiles files;
+    files.Content["f.ini"] = "[A]\r\na=1\r\nb=2\r\n";
+    FileIni ini(files);
+    const FileBatch batch(ini, "f.ini");
+    for (const std::string value : {"a longer value", "3"}) {
+        for (int i = 0; i < 100; ++i) // more readings than an index is made for
+            EXPECT_EQ(ini.ReadKey("A", "b", "f.ini"), "2");
+        ini.WriteKey("A", "a", value, "f.ini");
+        EXPECT_EQ(ini.ReadKey("A", "a", "f.ini"), value);
+    }
+}
+
 } // namespace gfc::config
