@@ -24,7 +24,6 @@ check_sanitized() {
     build_sanitized all
     local bin=build/sanitize/bin
     export QT_QPA_PLATFORM=offscreen
-    export LSAN_OPTIONS="suppressions=$PWD/tests/sanitizers/leaks.supp:print_suppressions=0"
     export ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
     export UBSAN_OPTIONS=print_stacktrace=1
     # shellcheck disable=SC2016 # the shell that xargs starts is to see these
