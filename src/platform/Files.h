@@ -35,9 +35,9 @@ public:
     // written.
     [[nodiscard]] virtual bool Replace(const std::string& path, std::string_view bytes) = 0;
 
-    // True for a file, not for a folder. True also where the machine cannot tell, so that what may be there is
-    // not taken for missing: nothing is written over it, and its station keeps its entry among the files to
-    // load.
+    // True for a file, not for a folder. True also where the machine cannot tell, so that what may be there
+    // is not taken for missing: nothing is written over it, and its station keeps its entry among the files
+    // to load.
     [[nodiscard]] virtual bool Exists(const std::string& path) = 0;
 
     // True if a file was there and is gone.

@@ -7,7 +7,8 @@
 
 namespace gfc::workshop {
 
-/// Makes the folder and those above it, as far as they are not there. Throws Failure when that cannot be done.
+/// Makes the folder and those above it, as far as they are not there. Throws Failure when that cannot be
+/// done.
 void MakeFolder(const std::filesystem::path& folder);
 
 /// The bytes of the file. Throws Failure when it cannot be read.
