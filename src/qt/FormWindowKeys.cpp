@@ -1,7 +1,9 @@
 #include "qt/FindBar.h"
 #include "qt/FormWindow.h"
+#include "qt/HelpWindow.h"
 #include "qt/Mnemonics.h"
 #include "qt/Renderer.h"
+#include "qt/Texts.h"
 #include "ui/Buttons.h"
 
 #include <QKeyEvent>
@@ -68,6 +70,9 @@ bool FormWindow::PressKey(ui::Key key) {
     const InEvent going(*this);
     if (form_->PersonPresses(key) || form_ == nullptr)
         return true;
+    // A form that has no help number has its page in the manual all the same.
+    if (key == ui::Key::F1)
+        ShowHelpWindow(ManualFolder(), ToQt(form_->Name()), this);
     if (key == ui::Key::Escape)
         PressButton(form_->CancelButton());
     // The button that has the focus comes before the one that Enter presses elsewhere.

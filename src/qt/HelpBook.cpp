@@ -18,7 +18,7 @@ QString Read(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-// "  page.html 3000 3100"; a page without a file if the line names none.
+// "  page.html 3000 3100 Step"; a page without a file if the line names none.
 HelpPage PageOfLine(const QString& line) {
     const QStringList parts = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     HelpPage page;
@@ -26,8 +26,14 @@ HelpPage PageOfLine(const QString& line) {
         return page;
     page.File = parts.front();
     page.Level = static_cast<int>(line.indexOf(page.File)) / indent;
-    for (const QString& number : parts.mid(1))
-        page.Contexts.push_back(number.toInt());
+    for (const QString& part : parts.mid(1)) {
+        bool isNumber = false;
+        const int number = part.toInt(&isNumber);
+        if (isNumber)
+            page.Contexts.push_back(number);
+        else
+            page.Forms.push_back(part);
+    }
     return page;
 }
 
@@ -90,6 +96,12 @@ const HelpPage* HelpBook::PageOf(int context) const {
         if (std::find(page.Contexts.begin(), page.Contexts.end(), context) != page.Contexts.end())
             return &page;
     return pages_.empty() ? nullptr : &pages_.front();
+}
+
+const HelpPage* HelpBook::PageOfForm(const QString& form) const {
+    const auto found = std::find_if(pages_.begin(), pages_.end(),
+                                    [&form](const HelpPage& page) { return page.Forms.contains(form); });
+    return found == pages_.end() ? PageOf(0) : &*found;
 }
 
 const HelpPage* HelpBook::PageIn(const QString& file) const {

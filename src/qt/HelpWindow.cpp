@@ -51,6 +51,22 @@ QSize FittingSize(const QWidget& window) {
     return screen == nullptr ? wished : wished.boundedTo(screen->availableSize() * 9 / 10);
 }
 
+// The one that is open, or a new one, which deletes itself when it is closed.
+HelpWindow& WindowOver(const QString& folder, QWidget* owner) {
+    auto* window = dynamic_cast<HelpWindow*>(SideWindow::Named(windowName));
+    if (window == nullptr)
+        window = new HelpWindow(folder);
+    window->StandOver(owner);
+    return *window;
+}
+
+void Raise(HelpWindow& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    window.activateWindow();
+}
+
 } // namespace
 
 HelpWindow::HelpWindow(const QString& folder)
@@ -159,7 +175,14 @@ void HelpWindow::ShowFile(const QString& file) {
 }
 
 void HelpWindow::ShowContext(int context) {
-    const HelpPage* page = book_.PageOf(context);
+    ShowPage(book_.PageOf(context));
+}
+
+void HelpWindow::ShowForm(const QString& form) {
+    ShowPage(book_.PageOfForm(form));
+}
+
+void HelpWindow::ShowPage(const HelpPage* page) {
     if (page == nullptr)
         return SayThatThereIsNone();
     words_->clear();
@@ -214,16 +237,15 @@ QString ManualFolder() {
 }
 
 void ShowHelpWindow(const QString& folder, int context, QWidget* owner) {
-    auto* window = dynamic_cast<HelpWindow*>(SideWindow::Named(windowName));
-    // It deletes itself when it is closed.
-    if (window == nullptr)
-        window = new HelpWindow(folder);
-    window->StandOver(owner);
-    window->ShowContext(context);
-    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    window->show();
-    window->raise();
-    window->activateWindow();
+    HelpWindow& window = WindowOver(folder, owner);
+    window.ShowContext(context);
+    Raise(window);
+}
+
+void ShowHelpWindow(const QString& folder, const QString& form, QWidget* owner) {
+    HelpWindow& window = WindowOver(folder, owner);
+    window.ShowForm(form);
+    Raise(window);
 }
 
 } // namespace gfc::qt

@@ -24,6 +24,8 @@ public:
 
     // Context 0 is the contents page; so is a number that leads nowhere.
     void ShowContext(int context);
+    // What there is to say of a window that has no number.
+    void ShowForm(const QString& form);
 
 private:
     void AddParts();
@@ -34,6 +36,7 @@ private:
     void Follow();
     void Search(const QString& words);
     void ShowHits(const QString& words);
+    void ShowPage(const HelpPage* page);
     void ShowFile(const QString& file);
     void EnterHits();
     // The page that is shown is the one that is selected in the contents, also after a link or Back.
@@ -55,5 +58,6 @@ private:
 
 // Opens the help window at this page, or turns the one that is open to it, and puts it over its owner.
 void ShowHelpWindow(const QString& folder, int context, QWidget* owner);
+void ShowHelpWindow(const QString& folder, const QString& form, QWidget* owner);
 
 } // namespace gfc::qt

@@ -12,7 +12,8 @@ using ::testing::ElementsAre;
 class HelpBooks : public ::testing::Test {
 protected:
     HelpBooks() {
-        Folder.Put("contents.txt", "# a remark\n\nindex.html 0\n  orifice.html 5100 5101\n    taps.html\n");
+        Folder.Put("contents.txt",
+                   "# a remark\n\nindex.html 0\n  orifice.html 5100 5101\n    taps.html Step\n");
         Folder.Put("index.html", "<html><head><title>Welcome</title></head><body>All of it</body></html>");
         Folder.Put("orifice.html", "<html><head><title>Orifice plate</title></head>"
                                    "<body>The bore of the <b>Plate</b></body></html>");
@@ -43,6 +44,9 @@ TEST_F(HelpBooks, read_titles_depths_and_texts) {
     EXPECT_EQ(book.Pages()[1].Text, "The bore of the Plate");
     EXPECT_EQ(book.Pages()[2].Level, 2);
     EXPECT_TRUE(book.Pages()[2].Contexts.empty());
+    EXPECT_EQ(book.Pages()[2].Forms, QStringList{"Step"});
+    EXPECT_EQ(book.PageOfForm("Step"), &book.Pages()[2]);
+    EXPECT_EQ(book.PageOfForm("Other"), &book.Pages()[0]);
 }
 
 TEST_F(HelpBooks, open_at_the_page_of_a_number) {

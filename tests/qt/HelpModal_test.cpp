@@ -27,6 +27,17 @@ TEST_F(HelpWindows, stay_usable_when_a_modal_window_opens) {
     ExpectUsable();
 }
 
+TEST_F(HelpWindows, open_by_F1_over_a_form_that_has_no_number) {
+    auto second = std::make_shared<ProbeForm>(Screen, "Second");
+    InModal([&] {
+        Press(QApplication::activeModalWidget(), Qt::Key_F1);
+        ASSERT_NE(Help(), nullptr);
+        ExpectUsable();
+        second->Unload();
+    });
+    second->ShowModal();
+}
+
 TEST_F(HelpWindows, opened_over_a_modal_window_outlive_it) {
     auto second = std::make_shared<ProbeForm>(Screen, "Second");
     InModal([&] {
