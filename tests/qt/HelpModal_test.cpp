@@ -29,13 +29,15 @@ TEST_F(HelpWindows, stay_usable_when_a_modal_window_opens) {
 
 TEST_F(HelpWindows, open_by_F1_over_a_form_that_has_no_number) {
     auto second = std::make_shared<ProbeForm>(Screen, "Second");
+    second->HasHelp = false;
     InModal([&] {
         Press(QApplication::activeModalWidget(), Qt::Key_F1);
-        ASSERT_NE(Help(), nullptr);
-        ExpectUsable();
+        EXPECT_NE(Help(), nullptr);
         second->Unload();
     });
     second->ShowModal();
+    ASSERT_NE(Help(), nullptr);
+    EXPECT_EQ(Shown(), "index.html") << "the manual tells nothing of it";
 }
 
 TEST_F(HelpWindows, opened_over_a_modal_window_outlive_it) {

@@ -79,9 +79,10 @@ void ProbeForm::CheckNumber() {
 }
 
 bool ProbeForm::KeyDown(ui::Key key) {
-    if (key == ui::Key::F1)
-        Note("F1");
-    return key == ui::Key::F1;
+    if (key != ui::Key::F1 || !HasHelp)
+        return false;
+    Note("F1");
+    return true;
 }
 
 namespace {

@@ -52,6 +52,7 @@ public:
     ui::Timer timer{*this, "timer", 60'000};
 
     std::vector<std::string> Log;
+    bool HasHelp = true; // F1 is its own
     void UseDefaultButtons();
     using ui::Form::TheScreen;
 
