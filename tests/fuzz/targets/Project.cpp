@@ -49,21 +49,30 @@ std::string Damaged(Input& input) {
     return bytes;
 }
 
-void Look(workshop::Project& project) {
-    for (const auto& station : ListStations(project)) {
-        (void)workshop::TagRecords(project, station.Name);
-        (void)CountTags(project, station.Id);
+// One question and one change for each input: to open the project costs most of the time already.
+void Look(workshop::Project& project, std::size_t what) {
+    if (what == 0) {
+        for (const auto& station : ListStations(project)) {
+            (void)workshop::TagRecords(project, station.Name);
+            (void)CountTags(project, station.Id);
+        }
+    } else if (what == 1) {
+        (void)StationRecords(project);
+        (void)project.IsSample();
+    } else {
+        (void)ListFilesToLoad(project);
     }
-    (void)StationRecords(project);
-    (void)ListFilesToLoad(project);
-    (void)project.IsSample();
 }
 
-void Change(workshop::Project& project) {
-    (void)AddFileToLoad(project, {"North", "a.ini", "/etc/a.ini", -1});
-    (void)RemoveFileToLoad(project, "North", "/etc/a.ini");
-    if (const auto station = FindStation(project, "North"))
-        workshop::RenameTag(project, station->Id, "FT-1", "FT-2");
+void Change(workshop::Project& project, std::size_t what) {
+    if (what == 0) {
+        if (const auto station = FindStation(project, "North"))
+            workshop::RenameTag(project, station->Id, "FT-1", "FT-2");
+    } else if (what == 1) {
+        (void)AddFileToLoad(project, {"North", "a.ini", "/etc/a.ini", -1});
+    } else {
+        (void)RemoveFileToLoad(project, "North", "/etc/b.ini");
+    }
 }
 
 } // namespace
@@ -71,15 +80,16 @@ void Change(workshop::Project& project) {
 void Project(std::string_view bytes) {
     (void)Sound(); // before anything else stands at its path
     Input input(bytes);
-    const std::size_t what = input.Below(4);
+    const std::size_t first = input.Byte();
+    const std::size_t what = first % 4;
     const std::string project = what < 2 ? Damaged(input) : std::string(input.Rest());
     ForgetMemoryFiles(ProjectPath()); // with what an earlier one left beside it
     MemoryFile(ProjectPath()) = project;
     try {
         auto opened = workshop::Project::Open(ProjectPath(), what % 2 == 0 ? Access::Read : Access::Write);
-        Look(opened);
+        Look(opened, first / 4 % 3);
         if (what % 2 != 0)
-            Change(opened);
+            Change(opened, first / 12 % 3);
     } catch (const workshop::Failure& failure) {
         Require(*failure.what() != '\0', "a refusal says why");
     }
