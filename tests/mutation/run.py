@@ -116,6 +116,7 @@ def main():
     parser.add_argument("--count", type=int, default=300, help="mutants in the sample, over all parts")
     parser.add_argument("--seed", type=int, default=1)
     parser.add_argument("--part", default="1/1", help="K/N: the K-th of N parts of the sample, each on a tree of its own")
+    parser.add_argument("--first", type=int, default=1, help="where in the sample to begin, for one broken off")
     parser.add_argument("--only", default="", help="mutants whose name holds this text")
     arguments = parser.parse_args()
     part, parts = (int(number) for number in arguments.part.split("/"))
@@ -128,8 +129,8 @@ def main():
     configure(tree, build)
     if not compiles(build, *FURTHER, "services_test", seconds=None):
         sys.exit("the tree does not build")
-    with open(folder / "outcomes.jsonl", "w", encoding="utf-8") as log:
-        tell(list(run(tree, build, sample[part - 1::parts], log)))
+    with open(folder / "outcomes.jsonl", "w" if arguments.first == 1 else "a", encoding="utf-8") as log:
+        tell(list(run(tree, build, sample[arguments.first - 1:][part - 1::parts], log)))
 
 
 if __name__ == "__main__":
