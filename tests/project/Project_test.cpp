@@ -105,6 +105,19 @@ TEST(LoadProject, tells_a_failed_list_from_an_empty_one) {
     EXPECT_THAT(project.Stations, IsEmpty());
 }
 
+TEST(LoadProject, forgets_the_stations_of_an_earlier_project) {
+    Tool tool;
+    Project project;
+    EXPECT_EQ(LoadProject(tool, project), LoadOutcome::Loaded);
+    tool.Answer = std::nullopt;
+    EXPECT_EQ(LoadProject(tool, project), LoadOutcome::ListFailed);
+    EXPECT_THAT(project.Stations, IsEmpty());
+    tool.File = "";
+    project.Stations.resize(1);
+    EXPECT_EQ(LoadProject(tool, project), LoadOutcome::NoProject);
+    EXPECT_THAT(project.Stations, IsEmpty());
+}
+
 struct Registration : testing::Test {
     Tool Library;
     test::MemoryFiles Files;

@@ -78,6 +78,12 @@ TEST(DateToSystemTime, is_true_and_bounded_for_dates_beyond_the_type) {
     EXPECT_TRUE(DateToSystemTime(std::numeric_limits<double>::quiet_NaN(), record));
 }
 
+TEST(DateToSystemTime, takes_what_is_no_number_for_day_0) {
+    SystemTime record;
+    EXPECT_TRUE(DateToSystemTime(std::numeric_limits<double>::quiet_NaN(), record));
+    EXPECT_EQ(record, (SystemTime{1899, 12, 6, 30, 0, 0, 0, 0}));
+}
+
 TEST(FirstWeekdayOfMonth, finds_the_day) {
     EXPECT_EQ(FirstWeekdayOfMonth(1, DateSerial(2006, 4, 20)), DateSerial(2006, 4, 2));
     EXPECT_EQ(FirstWeekdayOfMonth(7, DateSerial(2006, 4, 20) + 0.5), DateSerial(2006, 4, 1));
