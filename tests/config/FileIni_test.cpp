@@ -47,6 +47,16 @@ TEST(ConfigFilePath, cuts_the_station_at_its_first_nul) {
               paths.ConfigFilePrefix + "plant_North.ini");
 }
 
+TEST(ConfigFilePath, refuses_just_what_the_machine_refuses_in_a_name) {
+    const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
+    for (const char sign : std::string_view("<>:\"|?*")) {
+        const std::string path = ConfigFilePath(paths, "plant", std::string("North").append(1, sign));
+        EXPECT_EQ(path.empty(), Own == '\\') << sign;
+    }
+    for (const char sign : std::string_view("~!#$%&'()+,-.;=@[]^_`{} "))
+        EXPECT_NE(ConfigFilePath(paths, "plant", std::string("a").append(1, sign).append("b")), "") << sign;
+}
+
 TEST(ConfigFilePath, never_leads_out_of_the_folder) {
     const ProjectPaths paths = PathsOf("/jobs/plant.KPJ");
     for (const char* name :

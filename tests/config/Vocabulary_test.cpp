@@ -49,6 +49,25 @@ TEST(Vocabulary, knows_each_source_by_its_place) {
     EXPECT_EQ(SourceIndex("measured"), -1);
 }
 
+TEST(Vocabulary, shows_each_source_by_its_caption) {
+    const char* wizard[] = {"Densimeter", "AGA-8", "SGERG-88", "ISO 12213-2 1997", "ISO 12213-3 1997 "};
+    const char* configurador[] = {"Densimeter", "AGA-8", "SGERG-88", "ISO 12213-2 1997", "ISO 12213-3 1997"};
+    for (std::size_t i = 0; i < GasDensitySources.size(); ++i) {
+        EXPECT_EQ(GasDensitySources[i].InWizard, wizard[i]);
+        EXPECT_EQ(GasDensitySources[i].InConfigurador, configurador[i]);
+        EXPECT_EQ(StoredSource(wizard[i]), GasDensitySources[i].Stored);
+    }
+}
+
+TEST(Vocabulary, shows_each_algorithm_by_its_caption) {
+    const char* wizard[] = {"AGA-3 1992", "AGA-7", "Accelabar-AGA-3 1992", "GBT21446-2008"};
+    const char* configurador[] = {"AGA-3 1992", "AGA-7", "Accelabar-AGA-3-1992", "GBT21446-2008"};
+    for (std::size_t i = 0; i < FlowAlgorithms.size(); ++i) {
+        EXPECT_EQ(FlowAlgorithms[i].InWizard, wizard[i]);
+        EXPECT_EQ(FlowAlgorithms[i].InConfigurador, configurador[i]);
+    }
+}
+
 TEST(Vocabulary, sorts_sources_into_families) {
     EXPECT_EQ(FamilyOf("MEASURED"), GasFamily::Densimeter);
     EXPECT_EQ(FamilyOf("AGA8"), GasFamily::Detail);
