@@ -70,9 +70,13 @@ def notices(build, program):
         return True
 
 
-def outcome_of(build, mutant):
-    own = mutant.file.split("/")[1] + "_test"
-    for program in [own] + [name for name in FURTHER if name != own]:
+def own_test(mutant):
+    return mutant.file.split("/")[1] + "_test"
+
+
+def outcome_of(build, mutant, further):
+    own = own_test(mutant)
+    for program in [own] + [name for name in further if name != own]:
         if not compiles(build, program):
             return "stillborn", ""  # the compiler noticed, by a warning or an error
         if notices(build, program):
@@ -87,12 +91,12 @@ def apply(tree, mutant):
     file.write_text("\n".join(lines), encoding="utf-8")
 
 
-def run(tree, build, mutants, log):
+def run(tree, build, mutants, further, log):
     for mutant in mutants:
         file = tree / mutant.file
         original = file.read_text(encoding="utf-8")
         apply(tree, mutant)
-        outcome, by = outcome_of(build, mutant)
+        outcome, by = outcome_of(build, mutant, further)
         file.write_text(original, encoding="utf-8")
         log.write(json.dumps({"mutant": mutant.name, "outcome": outcome, "by": by}) + "\n")
         log.flush()
@@ -118,6 +122,7 @@ def main():
     parser.add_argument("--part", default="1/1", help="K/N: the K-th of N parts of the sample, each on a tree of its own")
     parser.add_argument("--first", type=int, default=1, help="where in the sample to begin, for one broken off")
     parser.add_argument("--only", default="", help="mutants whose name holds this text")
+    parser.add_argument("--own", action="store_true", help="the tests of the mutant's own layer alone; builds far less")
     arguments = parser.parse_args()
     part, parts = (int(number) for number in arguments.part.split("/"))
     folder = ROOT / "build" / "mutation" / f"part{part}"
@@ -127,10 +132,12 @@ def main():
     sample = random.Random(arguments.seed).sample(everything, min(arguments.count, len(everything)))
     print(f"{len(everything)} mutants in all, {len(sample)} in the sample", flush=True)
     configure(tree, build)
-    if not compiles(build, *FURTHER, "services_test", seconds=None):
+    further = [] if arguments.own else FURTHER
+    if not compiles(build, *{own_test(mutant) for mutant in everything}, *further, seconds=None):
         sys.exit("the tree does not build")
     with open(folder / "outcomes.jsonl", "w" if arguments.first == 1 else "a", encoding="utf-8") as log:
-        tell(list(run(tree, build, sample[arguments.first - 1:][part - 1::parts], log)))
+        tell(list(run(tree, build, sample[arguments.first - 1:][part - 1::parts],
+                      further, log)))
 
 
 if __name__ == "__main__":
