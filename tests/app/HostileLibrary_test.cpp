@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace gfc::test {
 
 namespace {
@@ -45,11 +47,21 @@ protected:
         EXPECT_EQ(loaded.Error, "");
         if (auto* const setWay = loaded.Library->FunctionOf<void(int)>("hostile_way"))
             setWay(static_cast<int>(GetParam()));
+        if (auto* const setDelay = loaded.Library->FunctionOf<void(void (*)())>("hostile_delay"))
+            setDelay(Delay);
         return loaded;
     }
+    // What goes on while the library takes its time over an answer.
+    static void Delay() { meanwhile(); }
     [[nodiscard]] static const HostileRow& Row() { return ways[GetParam()]; }
 
     TempFolder Folder;
+    static inline std::function<void()> meanwhile;
+
+private:
+    void SetUp() override {
+        meanwhile = [] {};
+    }
 };
 
 TEST_P(HostileLibrary, gives_what_can_be_read_and_no_more) {
@@ -83,6 +95,11 @@ TEST_P(HostileLibrary, leaves_the_program_alive) {
     app::Application program(
         {world.Files, world.TimeZone, world.Clock, world.SingleInstance, world.Launcher, paths},
         world.Screen);
+    int calls = 0;
+    meanwhile = [&] {
+        ++calls;
+        EXPECT_GT(world.Screen.BusyNow, 0) << "the program stands still, and nobody is shown that it waits";
+    };
     ASSERT_TRUE(program.Start([this](const std::string& path) { return Load(path); }));
     const std::string station = "All Stations\\" + std::string(80, 'x');
     world.TheStory.Tick("formInicio", "timerInicio")
@@ -101,6 +118,8 @@ TEST_P(HostileLibrary, leaves_the_program_alive) {
     EXPECT_TRUE(world.Screen.Ended());
     EXPECT_TRUE(world.TheStory.Done());
     EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_EQ(world.Screen.BusyNow, 0);
+    EXPECT_GE(calls, 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, HostileLibrary, testing::Range(std::size_t{0}, std::size(ways)),

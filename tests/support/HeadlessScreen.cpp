@@ -114,8 +114,9 @@ void HeadlessScreen::WaitAMoment() {
 }
 
 void HeadlessScreen::Busy(const std::function<void()>& work) {
-    ++TimesBusy;
+    ++BusyNow;
     work();
+    --BusyNow;
 }
 
 void HeadlessScreen::EndProgram(int exitCode) {

@@ -37,7 +37,7 @@ public:
     ui::MenuEntry* LastPopUp = nullptr;
     int ExitCode = 0;
     bool ViewerWorks = true;
-    int TimesBusy = 0;
+    int BusyNow = 0; // so many works are under way, one within the other
     // Called at each moment that the program waits, for what changes outside it meanwhile; without it the
     // story goes on there.
     std::function<void()> OnWait;

@@ -1,4 +1,5 @@
-// An add-on library that answers what no library should. Which way it does is set before each call.
+// An add-on library that answers what no library should, as slowly as it likes. Which way it does, and what
+// goes on in each call before it comes back, is set before.
 #include "project/AddOnInterface.h"
 
 #include <cstring>
@@ -28,6 +29,7 @@ enum class Way {
 
 constexpr std::int32_t Records = 3;
 Way theWay = Way::NullArrays;
+void (*theDelay)() = [] {};
 
 // So many bytes that the first one behind them belongs to nobody.
 char* UpToTheEdge(std::size_t size) {
@@ -73,13 +75,19 @@ void hostile_way(int way) {
     theWay = static_cast<Way>(way);
 }
 
+void hostile_delay(void (*delay)()) {
+    theDelay = delay;
+}
+
 std::int32_t kdaddon_VBGetProjectFile(char* buffer, std::int32_t size) {
+    theDelay();
     std::memset(buffer, 'p', static_cast<std::size_t>(size));
     std::memcpy(buffer, "/jobs/", 6);
     return 1;
 }
 
 std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int32_t, const char*) {
+    theDelay();
     if (theWay == Way::NothingWritten)
         return 1;
     *count = Count();
@@ -90,6 +98,7 @@ std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int
 void kdaddon_VBFreeData(void*) {}
 
 std::int32_t kdaddon_VBReadTagList(TagRequest* request, void** tags) {
+    theDelay();
     std::memset(request, 'r', sizeof *request);
     if (theWay != Way::NothingWritten)
         *tags = Array<TagRecord>();
@@ -99,17 +108,21 @@ std::int32_t kdaddon_VBReadTagList(TagRequest* request, void** tags) {
 void kdaddon_VBFreeTagList() {}
 
 std::int32_t kdaddon_VBAddFileToLoad(char* station, char* local, char* target, std::int32_t, char* text) {
+    theDelay();
     for (char* given : {station, local, target, text})
         Overwrite(given);
     return -1;
 }
 
 std::int16_t kdaddon_VBRemoveFileToLoad(char* station, char* local, char* target, char* text) {
+    theDelay();
     for (char* given : {station, local, target, text})
         Overwrite(given);
     return -1;
 }
 
-void kdaddon_VBCoInitialize() {}
+void kdaddon_VBCoInitialize() {
+    theDelay();
+}
 
 } // extern "C"

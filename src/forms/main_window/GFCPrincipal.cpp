@@ -99,8 +99,7 @@ void GFCPrincipal::PrepareWindow() {
 }
 
 bool GFCPrincipal::LoadProjectAndStations() {
-    auto outcome = project::LoadOutcome::NoProject;
-    program_.Screen.Busy([&] { outcome = project::LoadProject(program_.Library, session_.Project); });
+    const auto outcome = project::LoadProject(program_.Library, session_.Project);
     session_.Station.ProjectFile = session_.Project.ProjectFile;
     session_.Station.ProjectName = session_.Project.ProjectName;
     if (outcome == project::LoadOutcome::NoProject)

@@ -5,6 +5,6 @@
 namespace gfc::forms {
 
 Program::Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen)
-    : Machine(machine), Library(library), Screen(screen), Ini(machine.Files), Forms(*this) {}
+    : Machine(machine), Library(library, screen), Screen(screen), Ini(machine.Files), Forms(*this) {}
 
 } // namespace gfc::forms

@@ -2,6 +2,7 @@
 
 #include "config/FileIni.h"
 #include "forms/program/FormStore.h"
+#include "forms/program/PatientLibrary.h"
 #include "forms/program/Session.h"
 #include "ui/Screen.h"
 
@@ -16,7 +17,7 @@ struct Program {
     Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen);
 
     platform::Machine& Machine;
-    project::AddOnLibrary& Library;
+    PatientLibrary Library;
     ui::Screen& Screen;
     config::FileIni Ini;
     forms::Session Session;

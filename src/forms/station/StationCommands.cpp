@@ -24,10 +24,8 @@ void LoadStationTags(Program& program) {
         if (++copied % tagsPerRepaint == 0)
             program.Screen.DoEvents();
     };
-    program.Screen.Busy([&] {
-        session.Tags =
-            program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, show);
-    });
+    session.Tags =
+        program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, show);
     program.Screen.DoEvents();
     if (session.Tags.empty())
         program.Screen.Ask({.Title = "Flow Gas Computer",
