@@ -61,7 +61,8 @@ bool IsLeftover(const std::string& name) {
     // One without the number of a process belongs to a person.
     const bool numbered = last.find(".ini-") != std::string::npos || last.find(".log-") != std::string::npos;
     return (last.starts_with(".gfc-save-") && numbered) || last.starts_with("tmpTags_") ||
-           last.ends_with(".KPJ-journal") || last.ends_with(".new") || last.ends_with(".new-journal");
+           last.ends_with(".KPJ-journal") || last.ends_with(".io-workshop-new") ||
+           last.ends_with(".io-workshop-new-journal");
 }
 
 Room::Room() {

@@ -1,16 +1,20 @@
 // What the stand-in does to a project's database, and to the mark that says which project is open.
 #include "faults/Operation.h"
+#include "workshop/export/TagExport.h"
 #include "workshop/import/TagImport.h"
+#include "workshop/load/Download.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/store/OpenProject.h"
 #include "workshop/store/Stations.h"
 #include "workshop/store/Tags.h"
+#include "workshop/store/WholeFile.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <exception>
 #include <fstream>
+#include <stdexcept>
 
 namespace gfc::test::faults {
 
@@ -131,6 +135,21 @@ Operation NewProject() {
     return operation;
 }
 
+// To where an earlier one has been.
+Operation DownloadAgain() {
+    auto operation = OnProject("stand-in: download", [](Project& project, const fs::path& folder) {
+        for (const std::string& fault : Download(project, folder / "out").Faults)
+            throw std::runtime_error(fault);
+    });
+    operation.Lay = [](const fs::path& folder) {
+        LayProject(folder);
+        Put(folder / "old.ini", std::string(20'000, 'n'));
+        fs::create_directories(folder / "out/North/etc/stacfg");
+        Put(folder / "out/North/etc/stacfg/kdormaga.ini", std::string(30'000, 'o'));
+    };
+    return operation;
+}
+
 } // namespace
 
 std::vector<Operation> WorkshopOperations() {
@@ -151,6 +170,11 @@ std::vector<Operation> WorkshopOperations() {
             [](Project& project, const fs::path&) {
                 EXPECT_TRUE(AddFileToLoad(project, {"North", "new.ini", "/etc/stacfg/kdormaga.ini", -1}));
             }),
+        OnProject("stand-in: export tags over a file",
+                  [](Project& project, const fs::path& folder) {
+                      ReplaceWhole(folder / CsvFile, TagTableText(StationTagsOf(project, ""), ';'));
+                  }),
+        DownloadAgain(),
     };
 }
 

@@ -75,7 +75,8 @@ TEST_F(DownloadTo, tells_a_folder_that_cannot_be_written) {
     WriteBytes(Folder / "n.ini", "north");
     WriteBytes(Folder / "out", "a file in the way");
     Enter(project, "North", In("n.ini"), "/a");
-    EXPECT_THAT(Download(project, Folder / "out").Faults, ElementsAre(HasSubstr("cannot be written")));
+    EXPECT_THAT(Download(project, Folder / "out").Faults,
+                ElementsAre(HasSubstr("the folder cannot be made: Not a directory")));
 }
 
 } // namespace gfc::workshop

@@ -105,7 +105,7 @@ TEST_F(TagExport, command_writes_one_station_or_all_and_spares_a_file_that_is_th
     EXPECT_THAT(ReadBytes(Folder / "t.csv"), testing::Not(HasSubstr("Lakeside")));
     EXPECT_EQ(Run("export-tags --force " + Quoted("t.csv")).Status, 0);
     EXPECT_THAT(ReadBytes(Folder / "t.csv"), HasSubstr("Lakeside"));
-    EXPECT_FALSE(std::filesystem::exists(Folder / "t.csv.new"));
+    EXPECT_FALSE(std::filesystem::exists(Folder / ".t.csv.io-workshop-new"));
 }
 
 TEST_F(TagExport, command_refuses_what_it_cannot_do) {

@@ -1,6 +1,8 @@
 #include "workshop/load/Download.h"
 
+#include "workshop/store/Failure.h"
 #include "workshop/store/FilesToLoad.h"
+#include "workshop/store/WholeFile.h"
 #include "workshop/text/Paths.h"
 
 #include <optional>
@@ -36,15 +38,20 @@ std::string Fault(const FileToLoad& file, const std::string& text) {
     return file.Station + ": " + text;
 }
 
-// Empty when the file was copied to `to`.
+// Empty when the file was copied to `to`, whole.
 std::string CopyTo(const fs::path& from, const fs::path& to) {
     std::error_code error;
     if (!fs::is_regular_file(from, error)) {
         return PathText(from) + " is missing; configure the station again or take the entry out.";
     }
-    fs::create_directories(to.parent_path(), error);
-    fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
-    return error ? PathText(to) + " cannot be written: " + error.message() + "." : std::string{};
+    try {
+        const std::string bytes = ReadWhole(from);
+        MakeFolder(to.parent_path());
+        ReplaceWhole(to, bytes);
+        return {};
+    } catch (const Failure& failure) {
+        return failure.what();
+    }
 }
 
 void DownloadOne(const Project& project, const FileToLoad& file, const fs::path& folder,

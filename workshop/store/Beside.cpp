@@ -4,7 +4,6 @@
 #include "workshop/text/Paths.h"
 
 #include <system_error>
-#include <utility>
 
 #ifndef _WIN32
 #include <cerrno>
@@ -37,10 +36,21 @@ std::error_code Flush(const fs::path& path) {
 }
 #endif
 
+// A link stays, and what it names is replaced.
+fs::path BehindLinks(const fs::path& place) {
+    std::error_code error;
+    const fs::path behind = fs::is_symlink(place, error) ? fs::weakly_canonical(place, error) : place;
+    return error ? place : behind;
+}
+
+// Hidden, and by a name that nobody else gives: it is removed unasked.
+fs::path HiddenBeside(const fs::path& place) {
+    return place.parent_path() / PathOf("." + PathText(place.filename()) + ".io-workshop-new");
+}
+
 } // namespace
 
-Beside::Beside(fs::path place) : place_(std::move(place)), beside_(place_) {
-    beside_ += ".new";
+Beside::Beside(const fs::path& place) : place_(BehindLinks(place)), beside_(HiddenBeside(place_)) {
     Remove();
 }
 
@@ -57,12 +67,16 @@ void Beside::Remove() const {
 }
 
 void Beside::MoveIntoPlace() {
-    std::error_code error = Flush(beside_);
+    std::error_code error;
+    if (const fs::file_status there = fs::status(place_, error); fs::is_regular_file(there)) {
+        fs::permissions(beside_, there.permissions(), error);
+    }
+    error = Flush(beside_);
     if (!error) {
         fs::rename(beside_, place_, error);
     }
     if (!error) {
-        error = Flush(place_.parent_path());
+        error = Flush(beside_.has_parent_path() ? beside_.parent_path() : fs::path("."));
     }
     if (error) {
         throw Failure(PathText(place_) + ": cannot be written: " + error.message() + ".");

@@ -5,12 +5,13 @@
 
 namespace gfc::workshop {
 
-/// Whatever stops the program or the machine, the file in its place is the old one or the new one. What was
-/// made beside it and not moved goes with this object; what a crash left there goes with the next one.
+/// Whatever stops the program or the machine, the file in its place is the old one or the new one. It keeps
+/// its mode, and a link to it stays one. What was made beside it and not moved goes with this object; what a
+/// crash left there goes with the next one.
 class Beside {
 public:
     /// The place is taken at the move alone: what stands there until then is left as it is.
-    explicit Beside(std::filesystem::path place);
+    explicit Beside(const std::filesystem::path& place);
     ~Beside();
     Beside(const Beside&) = delete;
     Beside& operator=(const Beside&) = delete;
