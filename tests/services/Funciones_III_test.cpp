@@ -65,6 +65,11 @@ TEST(ValueOf, stops_at_the_first_character_that_is_no_part_of_a_number) {
     EXPECT_EQ(ValueOf("1e"), 1);
 }
 
+TEST(ValueOf, reads_no_further_than_its_text) {
+    EXPECT_EQ(ValueOf(std::string_view("1234", 2)), 12);
+    EXPECT_EQ(ValueOf(std::string_view("1.25e3", 3)), 1.2);
+}
+
 TEST(ValueOf, gives_zero_where_no_number_starts) {
     for (const char* text : {"", "   ", "abc", "-", "+", ".", "+-5", "--5", "inf", "nan", "-inf", "x1"})
         EXPECT_EQ(ValueOf(text), 0) << text;
