@@ -52,11 +52,11 @@ std::string Damaged(Input& input) {
 // One question and one change for each input: to open the project costs most of the time already.
 void Look(workshop::Project& project, std::size_t what) {
     if (what == 0) {
-        for (const auto& station : ListStations(project)) {
-            (void)workshop::TagRecords(project, station.Name);
+        for (const auto& station : ListStations(project))
             (void)CountTags(project, station.Id);
-        }
     } else if (what == 1) {
+        (void)workshop::TagRecords(project, "North");
+    } else if (what == 2) {
         (void)StationRecords(project);
         (void)project.IsSample();
     } else {
@@ -87,9 +87,9 @@ void Project(std::string_view bytes) {
     MemoryFile(ProjectPath()) = project;
     try {
         auto opened = workshop::Project::Open(ProjectPath(), what % 2 == 0 ? Access::Read : Access::Write);
-        Look(opened, first / 4 % 3);
+        Look(opened, first / 4 % 4);
         if (what % 2 != 0)
-            Change(opened, first / 12 % 3);
+            Change(opened, first / 16 % 3);
     } catch (const workshop::Failure& failure) {
         Require(*failure.what() != '\0', "a refusal says why");
     }
