@@ -46,6 +46,17 @@ TEST(TagsInUse, are_those_of_a_run_that_is_on) {
     EXPECT_EQ(used.ExpectedFloat.front().RegAddr, "1001");
 }
 
+TEST(TagsInUse, are_those_of_every_run) {
+    std::string flags;
+    std::string sections;
+    for (const std::string run : {"Run1", "Run2", "Run3", "Run4", "Run5"}) {
+        flags += run + "=Yes\r\n";
+        sections += "[" + run + "]\r\nResetTotalsKDIOTag=XS-" + run.substr(3) + "\r\n";
+    }
+    EXPECT_THAT(NamesOf(InUse(Runs("AGA3", flags) + sections).ExpectedDigital),
+                ElementsAre("XS-1", "XS-2", "XS-3", "XS-4", "XS-5"));
+}
+
 TEST(TagsInUse, are_those_of_a_run_that_is_configured_and_off) {
     const auto used = InUse(Runs("AGA3", "Run2=No\r\nRun22=Yes\r\n") + runTwo);
     EXPECT_THAT(NamesOf(used.ExpectedFloat), ElementsAre("FT-1"));

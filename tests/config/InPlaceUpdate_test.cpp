@@ -196,6 +196,15 @@ TEST_F(InPlaceUpdate, saves_to_a_disabled_run_that_is_configured) {
     EXPECT_THAT(Bytes, Not(HasSubstr("[Run1]")));
 }
 
+TEST_F(InPlaceUpdate, saves_to_every_run_that_is_configured) {
+    Bytes = Lines({"[FlowRuns]", "Run11=Yes", "Run22=Yes", "Run33=Yes", "Run44=Yes", "Run55=Yes"});
+    StationConfig station = SampleStation({"AGA3", "MEASURED", ""});
+    station.IsentropicCoeff = "1.4";
+    SaveConfiguratorChanges(Ini, station, File);
+    for (const char* run : {"Run1", "Run2", "Run3", "Run4", "Run5"})
+        EXPECT_EQ(Ini.ReadKey(run, "IsentropicCoeff", File), "1.4") << run;
+}
+
 // The odd form meets the one line of the full write, since case does not count.
 TEST_F(InPlaceUpdate, keeps_one_line_for_the_analog_module) {
     Bytes = GoldenFile("aga3_densimeter");

@@ -76,6 +76,14 @@ TEST(StationConfig, places_runs_compactly) {
     EXPECT_EQ(ElementOfRun(station, 4), 1);
 }
 
+TEST(StationConfig, places_the_first_run_before_all_others) {
+    StationConfig station;
+    for (RunFlag& run : station.RunList)
+        run.Flag = "Yes";
+    for (int run = 0; run < MaxRuns; ++run)
+        EXPECT_EQ(ElementOfRun(station, run), run);
+}
+
 TEST(RunArrays, always_hold_five_mechanical_records_for_a_whole_station) {
     RunArrays runs;
     runs.PrepareWholeStation(2);

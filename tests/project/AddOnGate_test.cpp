@@ -226,6 +226,8 @@ TEST_F(AddOnGate, requires_every_function_that_is_called) {
         EXPECT_EQ(Library, nullptr) << function.Name;
         EXPECT_NE(Error.find(AddOnFileName()), std::string::npos) << Error;
         EXPECT_NE(Error.find(function.Name), std::string::npos) << Error;
+        EXPECT_EQ(Error, std::string("/opt/gfc") + platform::Separator + AddOnFileName() + ": the function " +
+                             std::string(function.Name) + " is missing");
     }
 }
 

@@ -67,6 +67,12 @@ TEST(TagInventory, does_not_show_a_tag_of_an_unknown_class) {
         EXPECT_THAT(*list, IsEmpty());
 }
 
+TEST(TagInventory, goes_on_behind_a_tag_of_an_unknown_class) {
+    const TagInventory inventory =
+        InventoryOf(Module("M", "Virtual", "ZX", 1) + Module("M", "Virtual", "AX", 2));
+    EXPECT_EQ(inventory.VirtAX.size(), 2U);
+}
+
 TEST(TagInventory, keeps_the_whole_record_in_delivery_order) {
     const TagInventory inventory =
         InventoryOf({{"B", 9, "fx", "M2", "Virtual FI"}, {"A", 3, "FX", "M1", "Virtual"}});

@@ -81,6 +81,7 @@ TEST(ValueOf, stays_finite_for_numbers_beyond_the_machine) {
     EXPECT_EQ(ValueOf("-1e999"), -largest);
     EXPECT_EQ(ValueOf("1e-999"), 0);
     EXPECT_EQ(ValueOf(std::string(400, '9')), largest);
+    EXPECT_EQ(ValueOf("1" + std::string(400, '0')), largest);
     EXPECT_EQ(ValueOf("0." + std::string(400, '0') + "1"), 0);
 }
 
