@@ -36,10 +36,13 @@ function(gfc_take_header_set target name)
         return()
     endif()
     target_precompile_headers(${target} REUSE_FROM gfc_headers_${name})
+    if(NOT MSVC)
+        # A set serves only what is compiled as it was itself, as position-independent code of a library.
+        target_compile_options(${target} PRIVATE -fPIC)
+    endif()
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        # A set serves only what is compiled as it was itself, as position-independent code of a library. And its
-        # hundred megabytes count as heap: without this the compiler collects garbage from the first line on.
-        target_compile_options(${target} PRIVATE -fPIC --param=ggc-min-heapsize=524288)
+        # Its hundred megabytes count as heap: without this the compiler collects garbage from the first line on.
+        target_compile_options(${target} PRIVATE --param=ggc-min-heapsize=524288)
     endif()
 endfunction()
 
