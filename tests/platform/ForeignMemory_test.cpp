@@ -7,6 +7,8 @@
 
 #ifndef _WIN32
 #include <sys/mman.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #endif
 
@@ -41,10 +43,23 @@ TEST(ForeignMemory, ends_where_the_pages_do) {
     EXPECT_TRUE(IsReadable(room, pages * page));
     EXPECT_TRUE(IsReadable(room + pages * page - 1, 1));
     EXPECT_TRUE(IsReadable(room + 7, pages * page - 7));
+    EXPECT_TRUE(IsReadable(room, 512 * page)) << "as many as in one go";
     EXPECT_FALSE(IsReadable(room, pages * page + 1));
     EXPECT_FALSE(IsReadable(room + pages * page - 1, 2));
     EXPECT_FALSE(IsReadable(room + pages * page, 1));
     ::munmap(room, (pages + 1) * page);
+}
+
+// The question goes through a pipe: where there can be none, the library is believed.
+TEST(ForeignMemory, is_taken_for_readable_where_nothing_can_be_asked) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit none{0, 0};
+        ::_exit(::setrlimit(RLIMIT_NOFILE, &none) == 0 && IsReadable(nullptr, 1) ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 #endif
 

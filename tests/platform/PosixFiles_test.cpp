@@ -13,6 +13,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -94,6 +95,49 @@ TEST_F(PosixFilesTest, replace_makes_the_file_that_a_link_names_in_vain) {
     EXPECT_EQ(Folder.Get("real"), "new");
 }
 
+TEST_F(PosixFilesTest, replace_follows_a_link_that_names_its_file_in_full) {
+    fs::create_directory(Folder.Path("sub"));
+    Folder.Put("sub/real", "old");
+    fs::create_symlink(Folder.Path("sub/real"), Folder.Path("link"));
+    EXPECT_TRUE(Real->Replace(Folder.Path("link"), "new"));
+    EXPECT_EQ(Folder.Get("sub/real"), "new");
+    EXPECT_TRUE(fs::is_symlink(Folder.Path("link")));
+}
+
+TEST_F(PosixFilesTest, replace_takes_a_name_without_a_folder_in_the_working_one) {
+    fs::create_symlink("real", Folder.Path("link"));
+    EXPECT_EQ(InChild([&] {
+                  const bool there = ::chdir(Folder.Path().c_str()) == 0;
+                  return there && Real->Replace("link", "new") && Real->Replace("plain", "x") ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(Folder.Get("real"), "new");
+    EXPECT_EQ(Folder.Get("plain"), "x");
+    EXPECT_EQ(Folder.Count(), 3u);
+}
+
+// The folder alone would let it be replaced.
+TEST_F(PosixFilesTest, replace_leaves_a_file_that_may_not_be_written) {
+    Folder.Put("f", "old");
+    ASSERT_EQ(::chmod(Folder.Path("f").c_str(), 0444), 0);
+    ASSERT_EQ(::chmod(Folder.Path().c_str(), 0777), 0);
+    EXPECT_EQ(InChild([&] {
+                  const bool plain = ::geteuid() != 0 || ::seteuid(65534) == 0;
+                  return plain && !Real->Replace(Folder.Path("f"), "new") ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(Folder.Get("f"), "old");
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, exists_takes_what_no_path_can_lead_to_for_missing) {
+    Folder.Put("f", "x");
+    fs::create_symlink("ring", Folder.Path("ring"));
+    EXPECT_FALSE(Real->Exists(Folder.Path("f/below")));
+    EXPECT_FALSE(Real->Exists(Folder.Path("ring")));
+    EXPECT_FALSE(Real->Exists(Folder.Path(std::string(300, 'n'))));
+}
+
 TEST_F(PosixFilesTest, replace_refuses_a_ring_of_links) {
     fs::create_symlink("b", Folder.Path("a"));
     fs::create_symlink("a", Folder.Path("b"));
@@ -153,6 +197,16 @@ TEST_F(PosixFilesTest, a_full_disk_leaves_the_old_file_and_nothing_beside_it) {
               0);
     EXPECT_EQ(Folder.Get("f"), "old");
     EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST(Descriptor, survives_being_given_itself) {
+    posix::Descriptor file = posix::Open("/dev/null", O_RDONLY);
+    ASSERT_TRUE(file);
+    const int number = file.Get();
+    posix::Descriptor& same = file;
+    file = std::move(same);
+    EXPECT_EQ(file.Get(), number);
+    EXPECT_GE(::fcntl(number, F_GETFD), 0) << "it is still open";
 }
 
 TEST(WriteAll, reports_a_device_that_takes_nothing) {
@@ -280,6 +334,21 @@ TEST_F(PosixFilesTest, leftovers_of_the_living_stay_although_they_are_many) {
     EXPECT_TRUE(first->MoveOver(target));
     EXPECT_TRUE(second->MoveOver(target));
     EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(PosixFilesTest, a_writer_gives_up_where_all_names_are_taken) {
+    const std::string target = Folder.Put("f", "old");
+    std::vector<TemporaryFile> taken;
+    while (auto file = TemporaryFile::Beside(target, 0600)) {
+        taken.push_back(std::move(*file));
+        ASSERT_LE(taken.size(), 256u);
+    }
+    EXPECT_EQ(taken.size(), 256u);
+    EXPECT_FALSE(Real->Replace(target, "new"));
+    EXPECT_EQ(Folder.Get("f"), "old");
+    taken.pop_back();
+    EXPECT_TRUE(Real->Replace(target, "new"));
+    EXPECT_EQ(Folder.Count(), 256u) << "the file and those of the living";
 }
 
 TEST_F(PosixFilesTest, copy_to_new_refuses_a_target_that_came_meanwhile) {

@@ -11,6 +11,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <pwd.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -103,6 +105,23 @@ TEST_F(SingleInstanceTest, lets_the_program_run_where_no_lock_can_be_had) {
     EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
 }
 
+// Another one may have put it there; and the program must not wait at it.
+TEST_F(SingleInstanceTest, locks_nothing_that_is_no_plain_file) {
+    ASSERT_EQ(::mkfifo(Folder.Path("gfc.lock").c_str(), 0600), 0);
+    const auto first = MakeSingleInstance();
+    EXPECT_TRUE(first->Acquire("gfc"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+}
+
+TEST_F(SingleInstanceTest, locks_no_file_of_another_user) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser may give files away";
+    ASSERT_EQ(::chown(Folder.Put("gfc.lock", "").c_str(), 65534, 65534), 0);
+    const auto first = MakeSingleInstance();
+    EXPECT_TRUE(first->Acquire("gfc"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+}
+
 TEST(SingleInstanceFolder, must_be_the_users_own_full_path) {
     const TempFolder folder;
     folder.Put("plain", "");
@@ -113,6 +132,21 @@ TEST(SingleInstanceFolder, must_be_the_users_own_full_path) {
         EXPECT_TRUE(MakeSingleInstance()->Acquire(name));
         EXPECT_TRUE(std::filesystem::remove(common)) << bad;
     }
+    const Environment none("XDG_RUNTIME_DIR", nullptr);
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(name));
+    EXPECT_TRUE(std::filesystem::remove(common));
+}
+
+TEST(SingleInstanceFolder, is_not_that_of_another_user) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser may give folders away";
+    const TempFolder folder;
+    ASSERT_EQ(::chown(folder.Path().c_str(), 65534, 65534), 0);
+    const Environment runtime("XDG_RUNTIME_DIR", folder.Path().c_str());
+    const std::string name = "gfc-test-other-" + std::to_string(::getpid());
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(name));
+    EXPECT_EQ(folder.Count(), 0u);
+    EXPECT_TRUE(std::filesystem::remove("/tmp/" + name + "-0.lock"));
 }
 
 class LauncherTest : public testing::Test {
@@ -166,6 +200,14 @@ TEST_F(LauncherTest, works_while_ended_children_are_ignored) {
     ::signal(SIGCHLD, before);
 }
 
+TEST_F(LauncherTest, starts_nothing_where_no_more_can_be_opened) {
+    EXPECT_EQ(InChild([&] {
+                  const rlimit none{0, 0};
+                  return ::setrlimit(RLIMIT_NOFILE, &none) == 0 && !Real->Start("/bin/true", {}) ? 0 : 1;
+              }),
+              0);
+}
+
 TEST_F(LauncherTest, finds_a_bare_name_on_the_search_path_only) {
     Script("say", "echo found > \"$(dirname \"$0\")/said\"");
     const std::string path = "relative::/nowhere:" + Folder.Path() + ":/usr/bin:/bin";
@@ -206,6 +248,31 @@ TEST(Paths, follows_the_desktops_rule_for_profiles) {
     }
     const Environment config("XDG_CONFIG_HOME", nullptr);
     EXPECT_EQ(MakePaths()->ProfileFolder(), "/home/anna/.config");
+}
+
+TEST(Paths, asks_the_system_for_a_home_that_no_variable_names) {
+    const passwd* user = ::getpwuid(::geteuid());
+    if (user == nullptr || user->pw_dir == nullptr)
+        GTEST_SKIP() << "this user has no entry";
+    const std::string expected = std::string(user->pw_dir) + "/.config";
+    const Environment config("XDG_CONFIG_HOME", nullptr);
+    for (const char* value : {static_cast<const char*>(nullptr), "", "relative"}) {
+        const Environment home("HOME", value);
+        EXPECT_EQ(MakePaths()->ProfileFolder(), expected);
+    }
+}
+
+TEST(Paths, knows_no_profiles_of_a_user_without_a_home) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "needs a user whom to become";
+    constexpr uid_t nobodyAtAll = 3'000'000'000;
+    ASSERT_EQ(::getpwuid(nobodyAtAll), nullptr);
+    EXPECT_EQ(InChild([] {
+                  ::unsetenv("HOME");
+                  ::unsetenv("XDG_CONFIG_HOME");
+                  return ::seteuid(nobodyAtAll) == 0 && MakePaths()->ProfileFolder().empty() ? 0 : 1;
+              }),
+              0);
 }
 
 TEST(DynamicLibrary, gives_its_symbols) {
