@@ -121,6 +121,15 @@ TEST_F(FileIniTest, reads_empty_for_whatever_is_missing) {
     EXPECT_EQ(Ini.ReadKey("a", "k", File), "1");
 }
 
+TEST_F(FileIniTest, finds_names_that_are_not_plain) {
+    EXPECT_TRUE(Ini.WriteKey("Estación", "Presión", "1", File));
+    EXPECT_EQ(Bytes, "[Estaci\xF3n]\r\nPresi\xF3n=1\r\n");
+    EXPECT_EQ(Ini.ReadKey("ESTACIÓN", "PRESIÓN", File), "1");
+    const FileBatch batch(Ini, File);
+    EXPECT_EQ(Ini.ReadKey("Estación", "presión", File), "1");
+    EXPECT_EQ(Ini.ReadKey("Estacion", "Presion", File), "");
+}
+
 TEST_F(FileIniTest, cuts_a_long_value) {
     Bytes = "[A]\r\nK=" + std::string(254, 'x') + "\r\nL=" + std::string(255, 'y') + "\r\n";
     EXPECT_EQ(Ini.ReadKey("A", "K", File), std::string(254, 'x'));
@@ -258,6 +267,28 @@ TEST_F(FileBatchTest, puts_on_disk_what_is_pending_before_a_copy) {
     Ini.WriteKey("A", "K", "1", File);
     EXPECT_TRUE(Ini.CopyConfigFile(File, "/jobs/copy.ini"));
     EXPECT_EQ(Files.Content["/jobs/copy.ini"], Lines({"[A]", "K=1"}));
+}
+
+TEST_F(FileBatchTest, puts_on_disk_what_is_pending_before_it_tells_whether_the_file_is_there) {
+    Files.Content.erase(File);
+    const FileBatch batch(Ini, File);
+    EXPECT_FALSE(Ini.FileExists(File));
+    Ini.WriteKey("A", "K", "1", File);
+    EXPECT_TRUE(Ini.FileExists(File));
+    EXPECT_EQ(Files.Content[File], Lines({"[A]", "K=1"}));
+}
+
+TEST_F(FileBatchTest, reads_anew_the_file_that_a_copy_made) {
+    Bytes = Lines({"[A]", "K=1"});
+    const std::string other = "/jobs/copy.ini";
+    {
+        const FileBatch batch(Ini, other);
+        EXPECT_EQ(Ini.ReadKey("A", "K", other), "");
+        EXPECT_TRUE(Ini.CopyConfigFile(File, other));
+        EXPECT_EQ(Ini.ReadKey("A", "K", other), "1");
+        Ini.WriteKey("A", "L", "2", other);
+    }
+    EXPECT_EQ(Files.Content[other], Lines({"[A]", "K=1", "L=2"}));
 }
 
 TEST_F(FileBatchTest, forgets_a_file_that_was_deleted) {

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace gfc::config {
 namespace {
 
@@ -56,6 +58,21 @@ TEST_F(InPlaceUpdate, gives_an_added_pulse_run_pressure_keys_for_a_gas_model_onl
     Bytes.clear();
     AddRun({"AGA7", "MEASURED", ""});
     EXPECT_EQ(Bytes, Head + Lines({"FlowAlgorithm=AGA7", "GasDensitySource=MEASURED"}));
+}
+
+TEST_F(InPlaceUpdate, gives_an_added_run_of_an_unknown_algorithm_the_common_keys_only) {
+    AddRun({"", "AGA8", "FIXED"});
+    EXPECT_EQ(Bytes, Head + Lines({"FlowAlgorithm=", "GasDensitySource=AGA8"}));
+}
+
+TEST_F(InPlaceUpdate, gives_an_added_run_of_either_orifice_algorithm_the_same_keys) {
+    StationConfig station = SampleRun({"SYT6143-2004", "MEASURED", ""}, 2);
+    WriteAddedRunKeys(Ini, station, station.Runs.Mechanical.front(), 2, File);
+    std::string expected = std::exchange(Bytes, "");
+    expected.replace(expected.find("SYT6143-2004"), 12, "AGA3");
+    station.FlowAlgorithm = "AGA3";
+    WriteAddedRunKeys(Ini, station, station.Runs.Mechanical.front(), 2, File);
+    EXPECT_EQ(Bytes, expected);
 }
 
 TEST_F(InPlaceUpdate, calls_the_gas_compressible_in_every_run_key_by_key) {
