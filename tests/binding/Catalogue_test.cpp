@@ -194,8 +194,11 @@ TEST(Variables, of_one_stage_each_have_a_binding_of_their_own) {
 
 TEST(Variables, of_a_run_that_has_no_records_are_none) {
     auto station = StationWith(algorithm::AGA3, source::AGA8);
-    for (const int element : {-1, 1, 5})
-        EXPECT_TRUE(VariablesOf(RunInputs, station, element).empty());
+    for (const auto stage : {RunInputs, RunOutputs, GasOutputs, GasInputs}) {
+        EXPECT_FALSE(VariablesOf(stage, station, 0).empty());
+        for (const int element : {-1, 1, 5})
+            EXPECT_TRUE(VariablesOf(stage, station, element).empty());
+    }
 }
 
 TEST(Variables, share_one_slot_for_carbon_dioxide_and_not_for_hydrogen) {
@@ -262,6 +265,7 @@ TEST(Root, is_named_by_the_standard_for_the_run_and_by_the_source_for_the_gas) {
         const bool detail = density == source::AGA8 || density == source::ISO12213_2;
         EXPECT_EQ(RootCaption(GasOutputs, station), detail ? "AGA 8 Outputs" : "SGERG 88 Outputs");
         EXPECT_EQ(RootCaption(GasInputs, station), detail ? "AGA 8 Inputs" : "SGERG 88 Inputs");
+        EXPECT_EQ(RootCaption(BindingStage::None, station), "");
     }
 }
 

@@ -152,6 +152,13 @@ TEST_F(ErrorLog, keeps_what_it_cannot_replace) {
     EXPECT_EQ(LogBytes(), "old");
 }
 
+TEST_F(ErrorLog, stands_beside_its_configuration_whatever_that_ends_in) {
+    EXPECT_EQ(ErrorLogPath("/jobs/KDOrmAGA_plant_North.ini"), Log);
+    EXPECT_EQ(ErrorLogPath("/jobs/plant.INI"), "/jobs/plant.INI_Errors.log");
+    EXPECT_EQ(ErrorLogPath("/jobs/plant"), "/jobs/plant_Errors.log");
+    EXPECT_EQ(ErrorLogPath(""), "");
+}
+
 TEST_F(ErrorLog, without_a_path_is_not_written) {
     ExpectEveryFault();
     WriteErrorLog(Ini, Expected, "");

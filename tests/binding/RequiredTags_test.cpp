@@ -72,6 +72,13 @@ TEST(RequiredTags, of_the_gas_are_none_with_densimeter_and_no_inputs_with_fixed_
     EXPECT_EQ(CountRequiredTags(fixed, 0, 4).Total(), 8);
 }
 
+TEST(RequiredTags, of_an_unknown_standard_or_source_are_what_every_run_has) {
+    EXPECT_EQ(CountRequiredTags(StationWith("", source::AGA8), 0, 1), (TagCounts{.Digital = 3}));
+    EXPECT_EQ(CountRequiredTags(StationWith("", source::Measured), 0, 1),
+              (TagCounts{.Float = 1, .Digital = 3}));
+    EXPECT_EQ(CountRequiredTags(StationWith(algorithm::AGA3, ""), 0, 3), (TagCounts{.Digital = 1}));
+}
+
 TEST(RequiredTags, of_kind_five_are_the_sum_of_all) {
     EXPECT_EQ(CountRequiredTags(StationWith(algorithm::AGA7, source::AGA8), 0, 5),
               (TagCounts{.Float = 2 + 4 + 21 + 7, .Analog = 2, .Digital = 4, .Long = 1}));

@@ -358,6 +358,23 @@ TEST_F(AddOnGate, cuts_a_station_name_at_the_width_of_the_request) {
     EXPECT_EQ(std::memcmp(&Given.Requests[0], &expected, sizeof expected), 0);
 }
 
+TEST_F(AddOnGate, copies_the_tags_where_nobody_is_to_be_told) {
+    TagRecord record{};
+    Put("FT-1", record.TagName);
+    GiveTag(record);
+    const auto tags = Library->ReadTags("North", "/p.KPJ", {});
+    ASSERT_EQ(tags.size(), 1U);
+    EXPECT_EQ(tags.front().TagName, "FT-1");
+}
+
+TEST_F(AddOnGate, takes_an_array_without_a_count_as_no_stations) {
+    GiveStation({});
+    for (const int count : {0, -1}) {
+        Given.StationCount = count;
+        EXPECT_TRUE(Library->GetStations().value().empty());
+    }
+}
+
 TEST_F(AddOnGate, frees_tags_only_when_there_are_some) {
     EXPECT_TRUE(Library->ReadTags("North", "/p.KPJ", {}).empty());
     Given.TagCount = -3;
@@ -390,8 +407,13 @@ TEST_F(AddOnGate, gives_the_library_room_to_write_texts_back) {
 TEST_F(AddOnGate, keeps_texts_that_the_code_page_lacks_from_the_library) {
     const std::string outside = "\xE6\xBC\xA2";
     Library->AddFileToLoad(outside, "l", "t");
+    Library->AddFileToLoad("N", outside, "t");
+    Library->AddFileToLoad("N", "l", outside);
+    EXPECT_EQ(Library->RemoveFileToLoad(outside, "l", "t"), 0);
     EXPECT_EQ(Library->RemoveFileToLoad("N", outside, "t"), 0);
+    EXPECT_EQ(Library->RemoveFileToLoad("N", "l", outside), 0);
     EXPECT_TRUE(Library->ReadTags(outside, "/p.KPJ", {}).empty());
+    EXPECT_TRUE(Library->ReadTags("N", outside, {}).empty());
     EXPECT_TRUE(Given.Calls.empty());
 }
 
