@@ -1,5 +1,4 @@
 #include "workshop/text/CodePage.h"
-
 #include "workshop/text/Paths.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,5 @@
-#include "workshop/import/CsvFile.h"
-
 #include "WorkshopFixture.h"
+#include "workshop/import/CsvFile.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,5 @@
-#include "workshop/load/Download.h"
-
 #include "WorkshopFixture.h"
+#include "workshop/load/Download.h"
 #include "workshop/store/FilesToLoad.h"
 
 #include <gmock/gmock.h>

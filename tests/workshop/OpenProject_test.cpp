@@ -1,6 +1,5 @@
-#include "workshop/store/OpenProject.h"
-
 #include "WorkshopFixture.h"
+#include "workshop/store/OpenProject.h"
 
 namespace gfc::workshop {
 

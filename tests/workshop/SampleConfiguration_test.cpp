@@ -1,6 +1,5 @@
-#include "workshop/demo/SampleConfiguration.h"
-
 #include "SampleFixture.h"
+#include "workshop/demo/SampleConfiguration.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/text/Paths.h"
 

@@ -1,7 +1,6 @@
-#include "workshop/store/WholeFile.h"
-
 #include "WorkshopFixture.h"
 #include "workshop/store/Failure.h"
+#include "workshop/store/WholeFile.h"
 
 #include <gtest/gtest.h>
 
