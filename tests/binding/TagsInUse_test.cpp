@@ -84,6 +84,15 @@ TEST(TagsInUse, are_those_of_the_atmospheric_pressure_under_every_algorithm) {
     EXPECT_THAT(NamesOf(InUse(Runs("AGA7", "") + "[AGA3]\r\n" + pressure).ExpectedFloat), IsEmpty());
 }
 
+TEST(TagsInUse, are_those_of_external_diameters_in_any_spelling_of_yes) {
+    for (const char* yes : {"Yes", "yes", "YES"})
+        EXPECT_THAT(NamesOf(InUse(Runs("AGA3", "Run2=Yes\r\n") +
+                                  "[Run2]\r\nPipeDiaKDIOTag=FT-3\r\nExtMechParam=" + yes + "\r\n")
+                                .ExpectedFloat),
+                    ElementsAre("FT-3"))
+            << yes;
+}
+
 // Keys that an earlier choice has left in the file bind nothing.
 TEST(TagsInUse, are_not_those_that_the_options_no_longer_call_for) {
     const auto used = InUse("[FlowRuns]\r\nFlowAlgorithm=AGA3\r\nGasDensitySource=AGA8\r\nRun2=Yes\r\n"

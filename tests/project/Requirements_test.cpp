@@ -95,6 +95,13 @@ TEST(LongCapacity, does_not_count_physical_longs) {
     EXPECT_FALSE(LongCapacity(plant.Capacity(), 1));
 }
 
+TEST(LongCapacity, counts_virtual_longs_of_both_directions) {
+    Plant plant({.Longs = 1});
+    plant.Inventory.VirtLY = Module("M", "Virtual", "LY", 2);
+    EXPECT_TRUE(LongCapacity(plant.Capacity(), 3));
+    EXPECT_FALSE(LongCapacity(plant.Capacity(), 4));
+}
+
 int RunsOf(const Numbers& numbers, bool isAGA7 = false) {
     return MaximumRuns(Plant(numbers).Capacity(), isAGA7);
 }
