@@ -3,76 +3,138 @@
 #include "config/CommonLayout.h"
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
+#include "platform/ProfileKeys.h"
+
+#include <array>
+#include <cstdint>
+#include <utility>
+#include <variant>
+#include <vector>
 
 namespace gfc::config {
 namespace {
 
-void ReadRow(const FileIni& ini, const RunRow& row, const RunTarget& to, const std::string& file, int run) {
-    ForEachPart(row, [&](BindingPart part) {
-        if (std::string* place = PlaceOf(row, part, to))
-            *place = ini.ReadKey(RunSection(run), KeyOf(row, part, KeyUse::Read), file);
-    });
-}
-
-void ReadGroups(const FileIni& ini, std::string_view groups, const RunTarget& to, const std::string& file,
-                int run) {
-    for (const RunRow& row : RunRows())
-        if (groups.find(row.Group) != std::string_view::npos)
-            ReadRow(ini, row, to, file, run);
-}
-
 // No writer makes these keys: under the detail family the slot deliberately loads empty.
 constexpr RunRow HydrogenOfDetail{'R', "GC_H2", GasBinding{GasSlot::XH2}, "KDIOAddr"};
 
-constexpr std::string_view MechanicalGroups = "BCDE";
-constexpr std::string_view InputAndOutputGroups = "FGHIJKLMNO"; // whatever the algorithm
-constexpr std::string_view GasGroups = "PU";
+// Groups of a run's rows. In one word, since each key of a run is asked for its group.
+class Groups {
+public:
+    explicit constexpr Groups(std::string_view letters) {
+        for (const char letter : letters)
+            bits_ |= BitOf(letter);
+    }
+    [[nodiscard]] constexpr bool Have(char letter) const { return (bits_ & BitOf(letter)) != 0; }
+
+private:
+    static constexpr std::uint32_t BitOf(char letter) { return std::uint32_t{1} << (letter - 'A'); }
+    std::uint32_t bits_ = 0;
+};
+
+constexpr Groups Mechanical("BCDE");
+constexpr Groups FixedOfDetail("T");
+constexpr Groups FixedOfGross("S");
+// Inputs and outputs are read whatever the algorithm.
+constexpr Groups WithDetail("BCDEFGHIJKLMNOPURT");
+constexpr Groups WithGross("BCDEFGHIJKLMNOPUQS");
+
+struct RunKey {
+    const RunRow* Row;
+    BindingPart Part;
+};
+
+// Every key of a run's section, and what each is read into.
+struct RunKeyTable {
+    std::vector<RunKey> Keys;
+    platform::ProfileKeys Names;
+};
+
+RunKeyTable MakeRunKeys() {
+    std::vector<RunKey> keys;
+    std::vector<std::string> names;
+    const auto add = [&](const RunRow& row) {
+        ForEachPart(row, [&](BindingPart part) {
+            keys.push_back({&row, part});
+            names.push_back(KeyOf(row, part, KeyUse::Read));
+        });
+    };
+    for (const RunRow& row : RunRows())
+        add(row);
+    add(HydrogenOfDetail);
+    return {std::move(keys), platform::ProfileKeys(std::move(names))};
+}
+
+void ReadGroups(const FileIni& ini, Groups groups, const RunTarget& to, const std::string& file, int run) {
+    static const RunKeyTable table = MakeRunKeys();
+    std::vector<std::string*> places;
+    places.reserve(table.Keys.size());
+    for (const auto& [row, part] : table.Keys)
+        places.push_back(groups.Have(row->Group) ? PlaceOf(*row, part, to) : nullptr);
+    ini.ReadKeys(RunSection(run), table.Names, file, places);
+}
+
+// The keys that are read of a common section, and what each is read into.
+struct CommonKeyTable {
+    std::vector<CommonField> Fields;
+    platform::ProfileKeys Names;
+};
+
+CommonKeyTable MakeCommonKeys(CommonSection section) {
+    std::vector<CommonField> fields;
+    std::vector<std::string> names;
+    for (const CommonRow& row : CommonRows())
+        if (row.Section == section && !std::holds_alternative<NotRead>(row.Read)) {
+            fields.push_back(row.Read);
+            names.emplace_back(row.Key);
+        }
+    return {std::move(fields), platform::ProfileKeys(std::move(names))};
+}
+
+const CommonKeyTable& CommonKeys(CommonSection section) {
+    using enum CommonSection;
+    static const std::array<CommonKeyTable, 5> tables = {MakeCommonKeys(General), MakeCommonKeys(Station),
+                                                         MakeCommonKeys(FlowRuns), MakeCommonKeys(Flow),
+                                                         MakeCommonKeys(Gas)};
+    return tables[static_cast<std::size_t>(section)];
+}
 
 } // namespace
 
 void LoadStationConfig(const FileIni& ini, StationConfig& station, const std::string& file) {
     const FileBatch batch(ini, file);
-    // In table order: which section the later rows stand in is decided by what the earlier ones have read.
-    for (const CommonRow& row : CommonRows()) {
-        std::string* place = CommonPlaceOf(row.Read, station);
-        if (place == nullptr)
-            continue;
-        const std::string section = row.Section == CommonSection::Flow ? FlowSectionToRead(station)
-                                                                       : SectionToWrite(row.Section, station);
-        *place = ini.ReadKey(section, row.Key, file);
+    using enum CommonSection;
+    // In this order: which section the later keys stand in is decided by what the earlier ones have read.
+    for (const CommonSection section : {Station, FlowRuns, Flow, Gas}) {
+        const CommonKeyTable& table = CommonKeys(section);
+        const std::string name =
+            section == Flow ? FlowSectionToRead(station) : SectionToWrite(section, station);
+        std::vector<std::string*> places;
+        for (const CommonField& field : table.Fields)
+            places.push_back(CommonPlaceOf(field, station));
+        ini.ReadKeys(name, table.Names, file, places);
     }
 }
 
 void LoadRun(const FileIni& ini, StationConfig& station, const std::string& file, int run) {
-    const FileBatch batch(ini, file);
     station.Runs.PrepareSingleRun();
     const RunTarget to{station.Runs.IO.front(), station.Runs.Gas.front(), station.Runs.Mechanical.front(),
                        station.GasComposition};
-    ReadGroups(ini, MechanicalGroups, to, file, run);
-    ReadGroups(ini, InputAndOutputGroups, to, file, run);
-    ReadGroups(ini, GasGroups, to, file, run);
-    const bool detail = IsDetail(station.GasDensitySource);
-    ReadGroups(ini, detail ? "R" : "Q", to, file, run);
-    if (detail)
-        ReadRow(ini, HydrogenOfDetail, to, file, run);
-    LoadFixedComposition(ini, station, file, run);
+    ReadGroups(ini, IsDetail(station.GasDensitySource) ? WithDetail : WithGross, to, file, run);
 }
 
 void LoadFixedComposition(const FileIni& ini, StationConfig& station, const std::string& file, int run) {
-    const FileBatch batch(ini, file);
     RunIO io;
     RunGas gas;
     RunMechanical mechanical;
     const RunTarget to{io, gas, mechanical, station.GasComposition};
-    ReadGroups(ini, IsDetail(station.GasDensitySource) ? "T" : "S", to, file, run);
+    ReadGroups(ini, IsDetail(station.GasDensitySource) ? FixedOfDetail : FixedOfGross, to, file, run);
 }
 
 RunMechanical LoadRunMechanical(const FileIni& ini, const std::string& file, int run) {
-    const FileBatch batch(ini, file);
     RunIO io;
     RunGas gas;
     RunMechanical mechanical;
-    ReadGroups(ini, MechanicalGroups, {io, gas, mechanical, gas}, file, run);
+    ReadGroups(ini, Mechanical, {io, gas, mechanical, gas}, file, run);
     return mechanical;
 }
 

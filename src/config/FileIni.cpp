@@ -1,6 +1,7 @@
 #include "config/FileIni.h"
 
 #include "platform/ProfileIndex.h"
+#include "platform/ProfileKeys.h"
 #include "services/CodePage.h"
 #include "services/Utf8.h"
 #include "services/Utilidades.h"
@@ -107,6 +108,18 @@ std::string FileIni::ReadKey(std::string_view section, std::string_view key, con
         return batch->profile_ ? ReadFrom(batch->Index(), section, key) : std::string{};
     const auto profile = platform::ProfileFile::Open(files_, file);
     return profile ? ReadFrom(profile->Profile(), section, key) : std::string{};
+}
+
+void FileIni::ReadKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
+                       std::span<std::string* const> places) const {
+    const FileBatch* batch = OpenBatch(file);
+    const auto single = batch || file.empty() ? std::nullopt : platform::ProfileFile::Open(files_, file);
+    const auto& profile = batch ? batch->profile_ : single;
+    const auto values = keys.Read(profile ? std::string_view(profile->Profile().Bytes()) : std::string_view(),
+                                  NameBytes(section));
+    for (std::size_t key = 0; key < values.size(); ++key)
+        if (places[key] != nullptr)
+            services::AssignFromCodePage(*places[key], values[key]);
 }
 
 bool FileIni::WriteKey(std::string_view section, std::string_view key,

@@ -5,13 +5,15 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace gfc::platform {
 class ProfileIndex;
-}
+class ProfileKeys;
+} // namespace gfc::platform
 
 // The station's configuration file: the only gates to it, and what is read and written through them.
 namespace gfc::config {
@@ -57,6 +59,10 @@ public:
     // At most 254 characters, a longer value is cut; a missing key, section or file gives the empty text.
     [[nodiscard]] std::string ReadKey(std::string_view section, std::string_view key,
                                       const std::string& file) const;
+    // The same for many keys of a section, in one access. The text of each goes to its place; null for one
+    // that is not wanted. There must be a place for each key.
+    void ReadKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
+                  std::span<std::string* const> places) const;
     // An absent value deletes the key. False if the file could not be written; no caller acts on it. A value
     // ends at its first NUL or line break, since it would otherwise break the lines of the file; a character
     // that the code page lacks is written as "?".

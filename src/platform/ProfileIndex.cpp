@@ -3,7 +3,7 @@
 #include "services/CodePage.h"
 
 #include <algorithm>
-#include <bit>
+#include <utility>
 
 namespace gfc::platform {
 namespace {
@@ -13,43 +13,26 @@ using services::EqualBytesNoCase;
 // From this reading on a table of the section pays for itself.
 constexpr int WorthATable = 8;
 
-std::size_t Hash(std::string_view name) {
-    std::size_t hash = 14695981039346656037U;
-    for (const char byte : name)
-        hash = (hash ^ services::FoldByte(byte)) * 1099511628211U;
-    return hash ^ (hash >> 32);
-}
-
 } // namespace
 
-// One slot in two is free, so that a search soon ends.
 ProfileIndex::Table::Table(profile::SectionLines lines) {
+    std::vector<std::string_view> names;
     while (lines.Next())
-        if (const auto entry = lines.AsEntry())
-            entries_.push_back(*entry);
-    slots_.resize(std::bit_ceil(2 * entries_.size() + 1));
-    for (std::size_t i = 0; i < entries_.size(); ++i)
-        if (auto& slot = slots_[SlotOf(entries_[i].Key)]; slot == 0)
-            slot = static_cast<std::uint32_t>(i + 1);
+        if (const auto entry = lines.AsEntry()) {
+            names.push_back(entry->Key);
+            values_.push_back(entry->Value);
+        }
+    names_ = NameTable(std::move(names));
 }
 
-// That of the key, else the free one where it would stand.
-std::size_t ProfileIndex::Table::SlotOf(std::string_view key) const {
-    const std::size_t mask = slots_.size() - 1;
-    std::size_t slot = Hash(key) & mask;
-    while (slots_[slot] != 0 && !EqualBytesNoCase(entries_[slots_[slot] - 1].Key, key))
-        slot = (slot + 1) & mask;
-    return slot;
-}
-
-std::optional<profile::Entry> ProfileIndex::Table::Find(std::string_view key) const {
-    const std::uint32_t place = slots_[SlotOf(key)];
-    return place == 0 ? std::nullopt : std::optional(entries_[place - 1]);
+std::optional<std::string_view> ProfileIndex::Table::Find(std::string_view key) const {
+    const auto place = names_.Find(key);
+    return place ? std::optional(values_[*place]) : std::nullopt;
 }
 
 std::string ProfileIndex::Read(std::string_view section, std::string_view key) {
-    const auto entry = Find(SectionOf(profile::CallName(section)), profile::CallName(key));
-    return entry ? std::string(entry->Value.substr(0, ProfileValueLimit)) : std::string();
+    const auto value = Find(SectionOf(profile::CallName(section)), profile::CallName(key));
+    return std::string(value.value_or("").substr(0, ProfileValueLimit));
 }
 
 ProfileIndex::Section& ProfileIndex::SectionOf(std::string_view name) {
@@ -60,12 +43,14 @@ ProfileIndex::Section& ProfileIndex::SectionOf(std::string_view name) {
     return sections_.emplace_back(Section{std::string(name), profile::FindHeader(bytes_, name), 0, {}});
 }
 
-std::optional<profile::Entry> ProfileIndex::Find(Section& section, std::string_view key) const {
+std::optional<std::string_view> ProfileIndex::Find(Section& section, std::string_view key) const {
     if (!section.Header)
         return std::nullopt;
     profile::SectionLines lines(bytes_, *section.Header);
-    if (++section.Readings < WorthATable)
-        return profile::FindEntry(lines, key);
+    if (++section.Readings < WorthATable) {
+        const auto entry = profile::FindEntry(lines, key);
+        return entry ? std::optional(entry->Value) : std::nullopt;
+    }
     if (!section.Entries)
         section.Entries.emplace(lines);
     return section.Entries->Find(key);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/NameTable.h"
 #include "platform/Profile.h"
 #include "platform/ProfileLines.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -25,13 +26,11 @@ private:
     class Table {
     public:
         explicit Table(profile::SectionLines lines);
-        [[nodiscard]] std::optional<profile::Entry> Find(std::string_view key) const;
+        [[nodiscard]] std::optional<std::string_view> Find(std::string_view key) const;
 
     private:
-        [[nodiscard]] std::size_t SlotOf(std::string_view key) const;
-
-        std::vector<profile::Entry> entries_;
-        std::vector<std::uint32_t> slots_; // the place of an entry, counted from 1; 0 for none
+        NameTable names_;
+        std::vector<std::string_view> values_;
     };
     struct Section {
         std::string Name;
@@ -41,7 +40,7 @@ private:
     };
 
     [[nodiscard]] Section& SectionOf(std::string_view name);
-    [[nodiscard]] std::optional<profile::Entry> Find(Section& section, std::string_view key) const;
+    [[nodiscard]] std::optional<std::string_view> Find(Section& section, std::string_view key) const;
 
     std::string_view bytes_;
     std::vector<Section> sections_;

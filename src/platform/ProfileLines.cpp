@@ -9,19 +9,24 @@ namespace {
 
 constexpr auto npos = std::string_view::npos;
 
-bool IsWhite(char byte) {
+constexpr bool IsWhite(char byte) {
     return byte == ' ' || byte == '\t' || byte == '\v';
 }
 
-std::string_view Trimmed(std::string_view text, bool (*isDropped)(char)) {
-    while (!text.empty() && isDropped(text.front()))
+constexpr bool IsBlank(char byte) {
+    return byte == ' ';
+}
+
+template <bool IsDropped(char)>
+constexpr std::string_view Trimmed(std::string_view text) {
+    while (!text.empty() && IsDropped(text.front()))
         text.remove_prefix(1);
-    while (!text.empty() && isDropped(text.back()))
+    while (!text.empty() && IsDropped(text.back()))
         text.remove_suffix(1);
     return text;
 }
 
-std::string_view WithoutBreak(std::string_view line) {
+constexpr std::string_view WithoutBreak(std::string_view line) {
     while (line.ends_with('\n') || line.ends_with('\r'))
         line.remove_suffix(1);
     return line;
@@ -30,7 +35,7 @@ std::string_view WithoutBreak(std::string_view line) {
 // A name ends at the first closing bracket; one that is never closed takes the whole line.
 std::string_view HeaderName(std::string_view line) {
     line.remove_prefix(1);
-    return Trimmed(line.substr(0, line.find(']')), IsWhite);
+    return Trimmed<IsWhite>(line.substr(0, line.find(']')));
 }
 
 // Where the line starts that has nothing but white space before that place; nothing if it has more.
@@ -40,16 +45,20 @@ std::optional<std::size_t> StartOfLine(std::string_view bytes, std::size_t at) {
     return at == 0 || bytes[at - 1] == '\n' ? std::optional(at) : std::nullopt;
 }
 
-std::string_view WithoutQuotes(std::string_view value) {
+constexpr std::string_view WithoutQuotes(std::string_view value) {
     const bool quoted =
         value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+constexpr std::string_view ValueBehind(std::string_view line, std::size_t equals) {
+    return WithoutQuotes(Trimmed<IsWhite>(line.substr(equals + 1)));
+}
+
 } // namespace
 
 std::string_view CallName(std::string_view text) {
-    return Trimmed(text, [](char byte) { return byte == ' '; });
+    return Trimmed<IsBlank>(text);
 }
 
 std::size_t LineEnd(std::string_view bytes, std::size_t begin) {
@@ -64,7 +73,7 @@ std::optional<std::size_t> FindHeader(std::string_view bytes, std::string_view s
         const auto begin = StartOfLine(bytes, at);
         if (!begin)
             continue;
-        const auto line = Trimmed(WithoutBreak(bytes.substr(at, LineEnd(bytes, at) - at)), IsWhite);
+        const auto line = Trimmed<IsWhite>(WithoutBreak(bytes.substr(at, LineEnd(bytes, at) - at)));
         if (services::EqualBytesNoCase(HeaderName(line), section))
             return begin;
     }
@@ -95,8 +104,14 @@ std::optional<Entry> SectionLines::AsEntry() const {
     const auto equals = line.find('=');
     if (equals == npos)
         return std::nullopt;
-    return Entry{Trimmed(line.substr(0, equals), IsWhite),
-                 WithoutQuotes(Trimmed(line.substr(equals + 1), IsWhite))};
+    return Entry{Trimmed<IsWhite>(line.substr(0, equals)), ValueBehind(line, equals)};
+}
+
+std::optional<std::string_view> SectionLines::ValueOf(std::string_view key) const {
+    const std::string_view line = bytes_.substr(first_, end_ - first_);
+    if (line.size() <= key.size() || line[key.size()] != '=' || !line.starts_with(key))
+        return std::nullopt;
+    return ValueBehind(WithoutBreak(line), key.size());
 }
 
 std::optional<Entry> FindEntry(SectionLines& lines, std::string_view key) {

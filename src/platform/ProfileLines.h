@@ -36,6 +36,9 @@ public:
     [[nodiscard]] bool MayHold(std::string_view key) const;
     // Comments, blank lines and lines without "=" are no entries.
     [[nodiscard]] std::optional<Entry> AsEntry() const;
+    // The entry's value if the line begins with just this key and its "="; nothing does not mean that the
+    // line holds another key. The key must be one that a line may bear.
+    [[nodiscard]] std::optional<std::string_view> ValueOf(std::string_view key) const;
 
 private:
     std::string_view bytes_;

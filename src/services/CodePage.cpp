@@ -53,9 +53,17 @@ bool IsPlain(std::string_view text) {
 }
 
 std::string FromCodePage(std::string_view bytes) {
-    if (IsPlain(bytes))
-        return std::string(bytes);
     std::string utf8;
+    AssignFromCodePage(utf8, bytes);
+    return utf8;
+}
+
+void AssignFromCodePage(std::string& utf8, std::string_view bytes) {
+    if (IsPlain(bytes)) {
+        utf8.assign(bytes);
+        return;
+    }
+    utf8.clear();
     utf8.reserve(bytes.size());
     for (const char byte : bytes) {
         if (IsPlainByte(byte))
@@ -63,7 +71,6 @@ std::string FromCodePage(std::string_view bytes) {
         else
             AppendUtf8(utf8, CharacterOf(static_cast<unsigned char>(byte)));
     }
-    return utf8;
 }
 
 std::optional<std::string> ToCodePage(std::string_view utf8) {

@@ -16,6 +16,9 @@ namespace gfc::services {
 // Never fails: each byte becomes one character.
 [[nodiscard]] std::string FromCodePage(std::string_view bytes);
 
+// The same into a text that is there, whose memory serves on.
+void AssignFromCodePage(std::string& utf8, std::string_view bytes);
+
 // Nothing if the text holds a character that the page lacks, or is no valid UTF-8.
 [[nodiscard]] std::optional<std::string> ToCodePage(std::string_view utf8);
 

@@ -1,5 +1,6 @@
 #include "SampleStation.h"
 #include "config/ConfigReader.h"
+#include "config/RunLayout.h"
 #include "support/MemoryFiles.h"
 
 #include <gmock/gmock.h>
@@ -265,6 +266,39 @@ TEST_F(ConfigReader, reads_the_mechanical_data_alone) {
     EXPECT_EQ(mechanical.AtmPress, "1.01325");
     EXPECT_EQ(mechanical.ExtMechParam, "");
     EXPECT_EQ(LoadRunMechanical(Ini, File, 1), RunMechanical{});
+}
+
+// Each key of a run has a line, in another order than the table's and in another case.
+std::string FileOfAllKeys() {
+    std::string bytes;
+    int number = 0;
+    for (const RunRow& row : RunRows())
+        ForEachPart(row, [&](BindingPart part) {
+            std::string key = KeyOf(row, part, KeyUse::Update);
+            key[0] = static_cast<char>(key[0] | 0x20);
+            bytes.insert(0, key + "=" + std::to_string(++number) + "\r\n");
+        });
+    return "[Run1]\r\n" + bytes;
+}
+
+TEST_F(ConfigReader, reads_each_key_of_a_run_as_if_it_were_read_alone) {
+    Bytes = FileOfAllKeys();
+    for (const char* source : {"AGA8", "SGERG88"}) {
+        Station.GasDensitySource = source;
+        LoadRun(Ini, Station, File, 1);
+        const RunTarget run{Station.Runs.IO[0], Station.Runs.Gas[0], Station.Runs.Mechanical[0],
+                            Station.GasComposition};
+        const std::string_view others = source == std::string_view("AGA8") ? "AQS" : "ART";
+        for (const RunRow& row : RunRows()) {
+            if (others.find(row.Group) != std::string_view::npos)
+                continue;
+            ForEachPart(row, [&](BindingPart part) {
+                const std::string key = KeyOf(row, part, KeyUse::Read);
+                EXPECT_EQ(*PlaceOf(row, part, run), Ini.ReadKey("Run1", key, File)) << key;
+                EXPECT_NE(*PlaceOf(row, part, run), "") << key;
+            });
+        }
+    }
 }
 
 TEST_F(ConfigReader, reads_a_file_once_for_each_load) {

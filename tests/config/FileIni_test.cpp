@@ -1,5 +1,6 @@
 #include "SampleStation.h"
 #include "config/FileIni.h"
+#include "platform/ProfileKeys.h"
 #include "support/MemoryFiles.h"
 #include "support/TempFolder.h"
 
@@ -205,6 +206,46 @@ TEST_F(FileIniTest, deletes_a_file_that_is_there) {
     EXPECT_TRUE(Ini.DeleteConfigFile(File));
     EXPECT_FALSE(Ini.DeleteConfigFile(File));
     EXPECT_FALSE(Ini.FileExists(File));
+}
+
+struct ReadKeys : FileIniTest {
+    platform::ProfileKeys Keys{{"K", "L", "M"}};
+    std::string K = "old", L = "old";
+
+    void Read(const std::string& file) {
+        const std::array<std::string*, 3> places = {&K, &L, nullptr};
+        Ini.ReadKeys("A", Keys, file, places);
+    }
+};
+
+TEST_F(ReadKeys, puts_each_text_in_its_place) {
+    Bytes = "[A]\r\nl=\xE9\r\nK=1\r\nM=2\r\n";
+    Read(File);
+    EXPECT_EQ(K, "1");
+    EXPECT_EQ(L, "é");
+    EXPECT_EQ(Files.Reads, 1);
+}
+
+TEST_F(ReadKeys, empties_the_place_of_what_is_missing) {
+    Bytes = Lines({"[A]", "K=1"});
+    for (const std::string& file : {File, std::string("/jobs/none.ini"), std::string()}) {
+        K = L = "old";
+        Read(file);
+        EXPECT_EQ(K, file == File ? "1" : "") << file;
+        EXPECT_EQ(L, "") << file;
+    }
+    Files.Unreadable.insert(File);
+    Read(File);
+    EXPECT_EQ(K, "");
+}
+
+TEST_F(ReadKeys, sees_what_its_batch_has_written) {
+    Bytes = Lines({"[A]", "K=1"});
+    const FileBatch batch(Ini, File);
+    Ini.WriteKey("A", "K", "2", File);
+    Read(File);
+    EXPECT_EQ(K, "2");
+    EXPECT_EQ(Files.Reads, 1);
 }
 
 struct FileBatchTest : FileIniTest {};

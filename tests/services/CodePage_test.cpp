@@ -20,6 +20,16 @@ TEST(CodePage, brings_every_byte_back) {
     EXPECT_EQ(*bytes, AllBytes());
 }
 
+TEST(CodePage, is_assigned_over_what_was_there) {
+    std::string text = "what was there";
+    AssignFromCodePage(text, "plain");
+    EXPECT_EQ(text, "plain");
+    AssignFromCodePage(text, "N\xF6rd");
+    EXPECT_EQ(text, "Nörd");
+    AssignFromCodePage(text, "");
+    EXPECT_EQ(text, "");
+}
+
 TEST(CodePage, gives_the_characters_of_the_upper_controls) {
     EXPECT_EQ(FromCodePage("\x80"), "€");
     EXPECT_EQ(FromCodePage("\x8A\x8C\x8E\x9A\x9C\x9E\x9F"), "ŠŒŽšœžŸ");

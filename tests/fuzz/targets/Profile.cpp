@@ -3,6 +3,9 @@
 #include "fuzz/Input.h"
 #include "fuzz/PlainProfile.h"
 #include "fuzz/Target.h"
+#include "platform/ProfileKeys.h"
+
+#include <algorithm>
 
 // The profile engine against its plain account: any accesses, with any texts, to any bytes.
 namespace gfc::fuzz {
@@ -11,12 +14,30 @@ namespace {
 
 constexpr std::size_t LongestText = 24;
 
+// The part of the text that may be a key of a line.
+std::string KeyIn(std::string_view text) {
+    constexpr std::string_view white = " \t\v";
+    text = text.substr(0, text.find('='));
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\v;"), text.size()));
+    return std::string(text.substr(0, text.find_last_not_of(white) + 1));
+}
+
+// What is read at once must be what is read alone.
+void ReadTogether(std::string_view bytes, const PlainProfile& plain, std::string_view section,
+                  std::string_view text) {
+    const std::vector<std::string> names = {KeyIn(text), "longer than any text of a case"};
+    const auto values = platform::ProfileKeys(names).Read(bytes, section);
+    for (std::size_t key = 0; key < names.size(); ++key)
+        Require(values.at(key) == plain.Read(section, names[key]), "both read the same at once");
+}
+
 void RunAccess(Input& input, platform::Profile& profile, PlainProfile& plain) {
     const std::size_t kind = input.Below(4);
     const std::string_view section = input.Text(LongestText);
     const std::string_view text = input.Text(LongestText);
     if (kind == 0) {
         Require(profile.Read(section, text) == plain.Read(section, text), "both read the same");
+        ReadTogether(profile.Bytes(), plain, section, text);
     } else if (kind == 1) {
         profile.Write(section, text, std::nullopt);
         plain.Write(section, text, std::nullopt);
