@@ -9,6 +9,8 @@
 #include <array>
 #include <csignal>
 #include <fcntl.h>
+#include <fstream>
+#include <iterator>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -43,6 +45,17 @@ protected:
     TempFolder Folder;
     std::unique_ptr<Files> Real = MakeFiles();
 };
+
+// The system says of such a file that it has no bytes.
+TEST_F(PosixFilesTest, reads_more_than_the_system_says_that_there_is) {
+    const std::string path = "/proc/version";
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        GTEST_SKIP() << "this machine has no such file";
+    const std::string bytes(std::istreambuf_iterator<char>(file), {});
+    EXPECT_GT(bytes.size(), 16U);
+    EXPECT_EQ(Real->Read(path), bytes);
+}
 
 TEST_F(PosixFilesTest, replace_keeps_the_mode_of_an_existing_file) {
     for (const unsigned mode : {0600u, 0640u, 0664u, 0755u}) {

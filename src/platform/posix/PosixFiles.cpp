@@ -48,19 +48,19 @@ std::optional<std::string> RealTarget(std::string path) {
 }
 
 std::optional<std::string> ReadAll(int fd, std::size_t expected) {
-    std::string bytes;
+    // One byte more shows whether there is more than was expected; where there is not, that was the end.
+    std::string bytes(expected + 1, '\0');
     std::size_t used = 0;
-    for (;;) {
-        // One byte more than expected shows the end without growing again.
-        bytes.resize(used == bytes.size() ? std::max(expected + 1, used * 2) : bytes.size());
+    for (bool end = false; !end;) {
+        if (used == bytes.size())
+            bytes.resize(used * 2);
         const ssize_t got = ::read(fd, bytes.data() + used, bytes.size() - used);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
             return std::nullopt;
-        if (got == 0)
-            break;
         used += static_cast<std::size_t>(got);
+        end = got == 0 || used == expected;
     }
     bytes.resize(used);
     return bytes;
