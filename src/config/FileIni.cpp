@@ -89,8 +89,9 @@ std::string ConfigFilePath(const ProjectPaths& paths, std::string_view project, 
     const std::string name = services::TrimFixedString(station);
     if (paths.ConfigFilePrefix.empty() || !FileNameBears(project) || !FileNameBears(name))
         return {};
-    std::string path = paths.ConfigFilePrefix;
-    path.append(project);
+    std::string path;
+    path.reserve(paths.ConfigFilePrefix.size() + project.size() + 1 + name.size() + FileEnding.size());
+    path.append(paths.ConfigFilePrefix).append(project);
     if (!name.empty())
         path.append("_").append(name);
     return path.append(FileEnding);
@@ -216,6 +217,12 @@ FileBatch::~FileBatch() {
         return;
     Save();
     std::erase(ini_.batches_, this);
+}
+
+bool FileBatch::FileIsThere() const {
+    if (!outermost_)
+        return ini_.OpenBatch(file_)->FileIsThere();
+    return profile_ ? profile_->IsThere() : !file_.empty();
 }
 
 // A batch that only read does not touch the file.

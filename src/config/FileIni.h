@@ -102,6 +102,10 @@ public:
     FileBatch(const FileBatch&) = delete;
     FileBatch& operator=(const FileBatch&) = delete;
 
+    // What FileIni::FileExists would have said when the file was read; a file that has been saved since is
+    // there.
+    [[nodiscard]] bool FileIsThere() const;
+
 private:
     friend class FileIni;
 

@@ -3,15 +3,19 @@
 namespace gfc::ui {
 
 int Tree::Add(int parent, std::string key, std::string text, std::string image, std::string selectedImage) {
-    Node node;
+    Node& node = nodes_.emplace_back();
     node.Key = std::move(key);
     node.Text = std::move(text);
     node.Image = std::move(image);
     node.SelectedImage = std::move(selectedImage);
     node.Parent = parent;
-    nodes_.push_back(std::move(node));
-    if (parent > 0)
-        Mutable(parent).Children.push_back(Count());
+    if (parent > 0) {
+        auto& children = Mutable(parent).Children;
+        // A plant has thousands of branches, nearly all of them small: one piece of memory does for each.
+        if (children.empty())
+            children.reserve(8);
+        children.push_back(Count());
+    }
     if (observer_ != nullptr)
         observer_->NodeAdded(Count());
     return Count();

@@ -250,6 +250,22 @@ TEST_F(ReadKeys, sees_what_its_batch_has_written) {
 
 struct FileBatchTest : FileIniTest {};
 
+TEST_F(FileBatchTest, says_whether_its_file_is_there) {
+    EXPECT_TRUE(FileBatch(Ini, File).FileIsThere());
+    EXPECT_FALSE(FileBatch(Ini, "").FileIsThere());
+    Files.Unreadable.insert(File);
+    EXPECT_TRUE(FileBatch(Ini, File).FileIsThere()) << "what cannot be read is not taken for missing";
+
+    const std::string none = "/jobs/none.ini";
+    const FileBatch outer(Ini, none);
+    const FileBatch inner(Ini, none);
+    EXPECT_FALSE(inner.FileIsThere());
+    Ini.WriteKey("A", "K", "1", none);
+    EXPECT_FALSE(inner.FileIsThere()) << "not yet";
+    EXPECT_TRUE(Ini.FileExists(none));
+    EXPECT_TRUE(inner.FileIsThere());
+}
+
 TEST_F(FileBatchTest, reads_once_and_replaces_once) {
     Bytes = Lines({"[A]", "K=1", "L=2"});
     {

@@ -108,10 +108,10 @@ private:
 
     void FillStationTable();
     void AddStation(int root, const project::Station& station, std::size_t index);
-    void AddStationChildren(int stationNode, const std::string& station, std::size_t index);
-    void AddRunNodes(int parent, const std::string& station);
+    void AddStationChildren(int stationNode, const std::string& station, std::size_t index,
+                            const std::string& file);
+    void AddRunNodes(int parent, const std::string& station, const std::string& file);
     void AddRunNode(int parent, const std::string& station, int run, bool enabled);
-    [[nodiscard]] bool IsConfigured(const std::string& station) const;
     void HidePanes();
     void ShowStations(const std::string& statusText);
     void PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden);

@@ -1,6 +1,10 @@
 #include "config/ConfigReader.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
+#include "platform/ProfileKeys.h"
+
+#include <algorithm>
+#include <array>
 
 namespace gfc::forms {
 
@@ -8,6 +12,12 @@ namespace {
 
 std::string YesOrNo(bool yes) {
     return yes ? "Yes" : "No";
+}
+
+// They say which runs are on.
+const platform::ProfileKeys& FlagKeys() {
+    static const platform::ProfileKeys keys({"Run1", "Run2", "Run3", "Run4", "Run5"});
+    return keys;
 }
 
 } // namespace
@@ -74,38 +84,37 @@ void GFCPrincipal::BuildTree() {
 }
 
 void GFCPrincipal::AddStation(int root, const project::Station& station, std::size_t index) {
-    const bool configured = IsConfigured(station.Name);
+    const std::string file = session_.Project.ConfigFileOf(station.Name);
+    // One reading says whether the station is configured and which of its runs are on.
+    const config::FileBatch batch(program_.Ini, file);
+    const bool configured = batch.FileIsThere();
     const int added =
         TreeGFC.Add(root, station.Name, station.Name, configured ? "StationConfig" : "StationNoConfig");
     TreeGFC.SetColour(added, configured ? ui::Colour::Blue : ui::Colour::Red);
     if (configured)
-        AddStationChildren(added, station.Name, index);
+        AddStationChildren(added, station.Name, index, file);
 }
 
-void GFCPrincipal::AddStationChildren(int stationNode, const std::string& station, std::size_t index) {
+void GFCPrincipal::AddStationChildren(int stationNode, const std::string& station, std::size_t index,
+                                      const std::string& file) {
     const std::string number = std::to_string(index);
     TreeGFC.Add(stationNode, "Comunes" + number, std::string(node::CommonParameters), "Carpeta", "Carpeta");
     const int individual = TreeGFC.Add(stationNode, "Individuales" + number,
                                        std::string(node::IndividualParameters), "Carpeta", "CarpetaOpen");
-    AddRunNodes(individual, station);
+    AddRunNodes(individual, station, file);
 }
 
-void GFCPrincipal::AddRunNodes(int parent, const std::string& station) {
-    const std::string file = session_.Project.ConfigFileOf(station);
-    const config::FileBatch batch(program_.Ini, file);
-    for (int run = 1; run <= config::MaxRuns; ++run) {
-        const std::string key = "Run" + std::to_string(run);
-        AddRunNode(parent, station, run, program_.Ini.ReadKey("FlowRuns", key, file) == "Yes");
-    }
+void GFCPrincipal::AddRunNodes(int parent, const std::string& station, const std::string& file) {
+    std::array<std::string, config::MaxRuns> flags;
+    std::array<std::string*, config::MaxRuns> places{};
+    std::ranges::transform(flags, places.begin(), [](std::string& flag) { return &flag; });
+    program_.Ini.ReadKeys("FlowRuns", FlagKeys(), file, places);
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        AddRunNode(parent, station, run, flags[static_cast<std::size_t>(run - 1)] == "Yes");
 }
 
 void GFCPrincipal::AddRunNode(int parent, const std::string& station, int run, bool enabled) {
     TreeGFC.Add(parent, station + std::to_string(run), node::RunText(run), enabled ? "Run" : "NoRun");
-}
-
-bool GFCPrincipal::IsConfigured(const std::string& station) const {
-    return config::ConfigFileExists(program_.Ini, session_.Project.Paths, session_.Project.ProjectName,
-                                    station);
 }
 
 // One row per station, in step with the tree's nodes.
@@ -117,11 +126,18 @@ void GFCPrincipal::FillStationTable() {
     const auto& nodes = TreeGFC.At(1).Children;
     const auto& stations = session_.Project.Stations;
     std::vector<ui::ListView::Row> rows;
+    rows.reserve(stations.size());
     for (std::size_t i = 0; i < stations.size(); ++i) {
         const auto& station = stations[i];
         const bool configured = TreeGFC.At(nodes.at(i)).Image == "StationConfig";
-        rows.push_back({std::to_string(i + 1), YesOrNo(configured), station.Name, station.Type,
-                        station.Address, std::to_string(station.SerialNumber)});
+        auto& row = rows.emplace_back();
+        row.reserve(ListView1.Columns().size());
+        row.push_back(std::to_string(i + 1));
+        row.push_back(YesOrNo(configured));
+        row.push_back(station.Name);
+        row.push_back(station.Type);
+        row.push_back(station.Address);
+        row.push_back(std::to_string(station.SerialNumber));
     }
     ListView1.AddRows(std::move(rows));
     listShowsStations_ = true;

@@ -20,12 +20,11 @@ constexpr std::string_view IndividualParameters = "Individual Parameters";
 // 1 to 5 for "Run 1" to "Run 5", 0 for any other text.
 [[nodiscard]] inline int RunOf(std::string_view nodeText) {
     // Asked of each node of a plant.
-    if (!nodeText.starts_with("Run "))
+    constexpr std::string_view lead = "Run ";
+    if (nodeText.size() != lead.size() + 1 || !nodeText.starts_with(lead))
         return 0;
-    for (int run = 1; run <= config::MaxRuns; ++run)
-        if (nodeText == RunText(run))
-            return run;
-    return 0;
+    const int run = nodeText.back() - '0';
+    return run >= 1 && run <= config::MaxRuns ? run : 0;
 }
 
 [[nodiscard]] inline std::string StationPath(std::string_view station) {

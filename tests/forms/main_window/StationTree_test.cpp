@@ -95,6 +95,16 @@ TEST_F(StationTree, reads_a_station_file_once_for_its_five_runs) {
     EXPECT_EQ(Files.Replaces, 0);
 }
 
+TEST_F(StationTree, takes_a_file_that_cannot_be_read_for_a_configured_station_with_its_runs_off) {
+    AddStation("North", {});
+    Configure("North", "[FlowRuns]\r\nRun1=Yes\r\n");
+    Files.Unreadable.insert("/jobs/KDOrmAGA_plant_North.ini");
+    Play();
+    EXPECT_EQ(At("All Stations\\North").Image, "StationConfig");
+    EXPECT_EQ(At("All Stations\\North\\Individual Parameters\\Run 1").Image, "NoRun");
+    EXPECT_EQ(Window().ListView1.Cell(1, 1), "Yes");
+}
+
 TEST_F(StationTree, table_lists_the_stations_in_the_order_of_the_project) {
     Library.Stations = {{"North", "Orm 5", "10.0.0.1", 12345}, {"South", "", "", -7}};
     Configure("South", {});
