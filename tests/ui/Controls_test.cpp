@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 using namespace gfc;
 
 namespace {
@@ -125,6 +127,85 @@ TEST_F(Controls, control_in_a_hidden_or_disabled_frame_cannot_be_used) {
     EXPECT_FALSE(panel_->First.PersonClicks());
 }
 
+TEST_F(Controls, a_person_does_nothing_with_what_cannot_be_used) {
+    int events = 0;
+    const auto count = [&events] { ++events; };
+    panel_->Box.OnClick = panel_->First.OnClick = panel_->First.OnMouseDown = panel_->Go.OnClick = count;
+    panel_->Pages.OnClick = panel_->Entry.OnClick = count;
+    panel_->Field.OnKeyPress = [&events](char32_t) { return ++events > 0; };
+    panel_->List.AddRow({"a"});
+    panel_->List.OnRowClick = [&events](int) { ++events; };
+    panel_->Branches.Add(0, "r", "Root");
+    panel_->Branches.OnNodeClick = [&events](int) { ++events; };
+    panel_->Branches.OnMouseDown = [&events](ui::MouseButton) { ++events; };
+    const auto act = [this] {
+        return std::vector<bool>{
+            panel_->Box.PersonClicks(),        panel_->First.PersonPresses(),
+            panel_->First.PersonClicks(),      panel_->Go.PersonClicks(),
+            panel_->Pages.PersonSelects(1),    panel_->Entry.PersonClicks(),
+            panel_->Field.PersonPresses(U'1'), panel_->List.PersonClicksRow(1),
+            panel_->Branches.PersonClicks(1),  panel_->Branches.PersonPresses(ui::MouseButton::Right)};
+    };
+    panel_->SetEnabled(false);
+    EXPECT_EQ(act(), std::vector<bool>(10, false));
+    EXPECT_EQ(events, 0);
+    EXPECT_EQ(panel_->Pages.Tab(), 0);
+    EXPECT_EQ(panel_->List.SelectedRow(), 0);
+    EXPECT_EQ(panel_->FocusedControl(), nullptr);
+    panel_->SetEnabled(true);
+    EXPECT_EQ(act(), std::vector<bool>(10, true));
+    EXPECT_EQ(events, 10);
+}
+
+TEST_F(Controls, a_person_cannot_choose_what_is_not_there) {
+    panel_->List.AddRow({"a"});
+    panel_->Branches.Add(0, "r", "Root");
+    for (const int none : {-1, 0, 2}) {
+        EXPECT_FALSE(panel_->List.PersonClicksRow(none));
+        EXPECT_FALSE(panel_->Branches.PersonClicks(none));
+    }
+    for (const int none : {-1, 2}) {
+        EXPECT_FALSE(panel_->Pages.PersonSelects(none));
+        panel_->Pages.SetTab(none);
+        EXPECT_EQ(panel_->Pages.Tab(), 0);
+    }
+    panel_->Units.AddEntry("US");
+    panel_->Units.SetListIndex(0);
+    EXPECT_FALSE(panel_->Units.PersonSelects(-1));
+    panel_->Units.SetListIndex(-7);
+    EXPECT_EQ(panel_->Units.ListIndex(), ui::DropDownList::None);
+    EXPECT_EQ(panel_->Branches.FindKey("none"), 0);
+    ui::MenuEntry line(panel_->Menu, "Line", "-");
+    EXPECT_FALSE(line.PersonClicks());
+}
+
+TEST_F(Controls, rows_and_nodes_are_selected_where_nobody_asks_to_be_told) {
+    panel_->List.AddRow({"a"});
+    panel_->Branches.Add(0, "r", "Root");
+    EXPECT_TRUE(panel_->List.PersonClicksRow(1));
+    EXPECT_TRUE(panel_->Branches.PersonClicks(1));
+    EXPECT_EQ(panel_->List.SelectedRow(), 1);
+    EXPECT_EQ(panel_->Branches.SelectedNode(), 1);
+}
+
+TEST_F(Controls, drop_down_list_runs_no_click_for_the_text_that_it_shows) {
+    int clicks = 0;
+    panel_->Units.AddEntry("3");
+    panel_->Units.OnClick = [&clicks] { ++clicks; };
+    for (const auto* const text : {"7", "7", "8", "3", "3", "8"})
+        panel_->Units.SetText(text);
+    EXPECT_EQ(clicks, 4);
+    EXPECT_EQ(panel_->Units.Text(), "8");
+}
+
+TEST_F(Controls, hidden_control_does_not_show_wherever_it_stands) {
+    panel_->Pages.SetTab(1);
+    EXPECT_TRUE(panel_->OnTwo.Shown());
+    panel_->OnTwo.SetVisible(false);
+    EXPECT_FALSE(panel_->OnTwo.Shown());
+    EXPECT_FALSE(panel_->OnTwo.Usable());
+}
+
 TEST_F(Controls, control_on_a_page_shows_with_its_page) {
     EXPECT_FALSE(panel_->OnTwo.Shown());
     panel_->Pages.SetTab(1);
@@ -154,6 +235,16 @@ TEST_F(Controls, field_that_is_left_may_take_the_focus_back) {
     bad = false;
     EXPECT_TRUE(panel_->Go.PersonClicks());
     EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Controls, click_is_dropped_where_the_field_that_is_left_ends_the_form) {
+    int clicks = 0;
+    panel_->Go.OnClick = [&clicks] { ++clicks; };
+    panel_->Field.OnLostFocus = [this] { panel_->Unload(); };
+    EXPECT_TRUE(panel_->Field.PersonEnters());
+    EXPECT_FALSE(panel_->Go.PersonClicks());
+    EXPECT_EQ(clicks, 0);
+    EXPECT_TRUE(panel_->IsUnloaded());
 }
 
 TEST_F(Controls, field_asks_for_each_key_and_never_takes_enter) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 using namespace gfc;
 
 namespace {
@@ -14,6 +16,8 @@ public:
 
     ui::CommandButton Close{*this, "Close"};
     int Loads = 0;
+    int Activations = 0;
+    std::vector<ui::Key> Keys;
     int Unloads = 0;
     bool LeavesAtLoad = false;
 
@@ -24,6 +28,11 @@ protected:
             Unload();
     }
     void Unloading() override { ++Unloads; }
+    void Activate() override { ++Activations; }
+    bool KeyDown(ui::Key key) override {
+        Keys.push_back(key);
+        return true;
+    }
 };
 
 class Forms : public ::testing::Test {
@@ -122,4 +131,58 @@ TEST_F(Forms, abandoned_form_loses_its_window_without_an_event) {
     form_->Unload();
     EXPECT_EQ(form_->Unloads, 0);
     EXPECT_EQ(screen_.FormNamed("Counting"), nullptr);
+}
+
+TEST_F(Forms, form_that_has_gone_does_not_come_back) {
+    form_->Show();
+    form_->Unload();
+    form_->Activations = 0;
+    form_->Abandon();
+    form_->EnsureLoaded();
+    form_->Show();
+    form_->ShowModal();
+    form_->Activated();
+    EXPECT_EQ(form_->Loads, 1);
+    EXPECT_EQ(form_->Unloads, 1);
+    EXPECT_EQ(form_->Activations, 0);
+    EXPECT_FALSE(form_->IsShown());
+}
+
+TEST_F(Forms, form_that_went_before_its_load_is_never_loaded) {
+    form_->Unload();
+    form_->EnsureLoaded();
+    form_->Show();
+    EXPECT_EQ(form_->Loads, 0);
+    EXPECT_TRUE(screen_.FormsShown.empty());
+}
+
+TEST_F(Forms, form_is_activated_only_while_it_is_loaded) {
+    form_->Activated();
+    EXPECT_EQ(form_->Activations, 0);
+    form_->Show();
+    EXPECT_EQ(form_->Activations, 1) << "by its screen";
+    form_->Activated();
+    EXPECT_EQ(form_->Activations, 2);
+}
+
+TEST_F(Forms, disabled_form_takes_no_key_and_is_not_closed) {
+    form_->Show();
+    form_->SetEnabled(false);
+    EXPECT_FALSE(form_->PersonPresses(ui::Key::F1));
+    EXPECT_FALSE(form_->PersonCloses());
+    EXPECT_TRUE(form_->Keys.empty());
+    form_->SetEnabled(true);
+    EXPECT_TRUE(form_->PersonPresses(ui::Key::F1));
+    EXPECT_EQ(form_->Keys, std::vector<ui::Key>{ui::Key::F1});
+    EXPECT_TRUE(form_->PersonCloses());
+}
+
+TEST_F(Forms, form_whose_window_is_shown_again_keeps_its_focus) {
+    ui::CommandButton other(*form_, "Other");
+    form_->Show();
+    EXPECT_EQ(form_->FocusedControl(), &form_->Close);
+    other.SetFocus();
+    form_->Hide();
+    form_->Show();
+    EXPECT_EQ(form_->FocusedControl(), &other);
 }
