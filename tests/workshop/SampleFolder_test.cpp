@@ -27,6 +27,10 @@ TEST_F(SampleFolder, never_takes_the_place_of_another_file) {
     EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "own", Existing::ReplaceSample); }),
                 HasSubstr("is not the sample"));
     EXPECT_EQ(ReadBytes(Folder / "own/plant.KPJ"), before);
+    WriteBytes(Folder / "own/plant.KPJ", "no project at all");
+    EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "own", Existing::ReplaceSample); }),
+                HasSubstr("is not the sample"));
+    EXPECT_EQ(ReadBytes(Folder / "own/plant.KPJ"), "no project at all");
     std::filesystem::create_directory(Folder / "ini");
     WriteBytes(SampleFilesIn(Folder / "ini").Configuration, "mine");
     EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "ini", Existing::ReplaceSample); }),

@@ -59,8 +59,4 @@ ui::TextBox& CompositionFields::operator[](int number) {
     return entries_.at(IndexOf(number))->Text;
 }
 
-const ui::TextBox& CompositionFields::operator[](int number) const {
-    return entries_.at(IndexOf(number))->Text;
-}
-
 } // namespace gfc::forms

@@ -37,7 +37,6 @@ public:
 
     // By the field's number.
     [[nodiscard]] ui::TextBox& operator[](int number);
-    [[nodiscard]] const ui::TextBox& operator[](int number) const;
 
 private:
     struct Entry {

@@ -97,6 +97,9 @@ TEST(ConfiguradorPressure, follows_its_options) {
     world.TheStory.Click(Configurator, "OptGagePress");
     world.SeeAll({"txtAtmPress"}, false); // still from outside
     world.SeeAll({"btExtAtmChange"}, true);
+    world.TheStory.Click(Configurator, "OptAtmPressFixed");
+    world.SeeAll({"LbAtmPress", "txtAtmPress", "unitAtmPress"}, true);
+    world.SeeAll({"FrameExtAtmPress", "btExtAtmChange", "AtmExtName", "AtmExtType", "AtmExtAddr"}, false);
     world.PlayAndCancel();
 }
 
