@@ -70,6 +70,16 @@ std::string ReadFrom(Source& source, std::string_view section, std::string_view 
     return services::FromCodePage(source.Read(NameBytes(section), NameBytes(key)));
 }
 
+bool IsMissing(std::string_view value) {
+    return value.data() == nullptr;
+}
+
+void PutInPlaces(std::span<const std::string_view> values, std::span<std::string* const> places) {
+    for (std::size_t key = 0; key < values.size(); ++key)
+        if (places[key] != nullptr)
+            services::AssignFromCodePage(*places[key], values[key]);
+}
+
 } // namespace
 
 std::string ConfigFilePrefixOf(std::string_view projectFolder) {
@@ -118,9 +128,26 @@ void FileIni::ReadKeys(std::string_view section, const platform::ProfileKeys& ke
     const auto& profile = batch ? batch->profile_ : single;
     const auto values = keys.Read(profile ? std::string_view(profile->Profile().Bytes()) : std::string_view(),
                                   NameBytes(section));
-    for (std::size_t key = 0; key < values.size(); ++key)
-        if (places[key] != nullptr)
-            services::AssignFromCodePage(*places[key], values[key]);
+    PutInPlaces(values, places);
+}
+
+bool FileIni::ReadFirstKeys(std::string_view section, const platform::ProfileKeys& keys,
+                            const std::string& file, std::span<std::string* const> places) const {
+    constexpr std::size_t enough = 4096; // ten times what stands before the end of a file's first sections
+    if (!file.empty() && OpenBatch(file) == nullptr) {
+        const auto start = files_.ReadStart(file, enough);
+        const bool whole = !start || start->size() < enough;
+        // The last line of a part may be cut.
+        const std::string_view bytes = start ? std::string_view(*start) : std::string_view();
+        const auto values =
+            keys.Read(whole ? bytes : bytes.substr(0, bytes.rfind('\n') + 1), NameBytes(section));
+        if (whole || std::ranges::none_of(values, IsMissing)) {
+            PutInPlaces(values, places);
+            return start || files_.Exists(file);
+        }
+    }
+    ReadKeys(section, keys, file, places);
+    return FileExists(file);
 }
 
 bool FileIni::WriteKey(std::string_view section, std::string_view key,
@@ -217,12 +244,6 @@ FileBatch::~FileBatch() {
         return;
     Save();
     std::erase(ini_.batches_, this);
-}
-
-bool FileBatch::FileIsThere() const {
-    if (!outermost_)
-        return ini_.OpenBatch(file_)->FileIsThere();
-    return profile_ ? profile_->IsThere() : !file_.empty();
 }
 
 // A batch that only read does not touch the file.

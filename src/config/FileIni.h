@@ -63,6 +63,10 @@ public:
     // that is not wanted. There must be a place for each key.
     void ReadKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
                   std::span<std::string* const> places) const;
+    // ReadKeys for keys that stand near the file's beginning: of a long file no more is read than its first
+    // lines, if all keys are found there. The result is that of FileExists.
+    bool ReadFirstKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
+                       std::span<std::string* const> places) const;
     // An absent value deletes the key. False if the file could not be written; no caller acts on it. A value
     // ends at its first NUL or line break, since it would otherwise break the lines of the file; a character
     // that the code page lacks is written as "?".
@@ -101,10 +105,6 @@ public:
     ~FileBatch();
     FileBatch(const FileBatch&) = delete;
     FileBatch& operator=(const FileBatch&) = delete;
-
-    // What FileIni::FileExists would have said when the file was read; a file that has been saved since is
-    // there.
-    [[nodiscard]] bool FileIsThere() const;
 
 private:
     friend class FileIni;

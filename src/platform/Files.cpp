@@ -29,4 +29,8 @@ std::string WithOwnSeparators(std::string_view path) {
     return own;
 }
 
+std::optional<std::string> Files::ReadStart(const std::string& path, std::size_t) {
+    return Read(path);
+}
+
 } // namespace gfc::platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,6 +29,9 @@ public:
 
     // The whole file; nothing if it is missing, no plain file, or cannot be read.
     [[nodiscard]] virtual std::optional<std::string> Read(const std::string& path) = 0;
+
+    // The same for who needs the file's first bytes alone: at least so many of them, or all that there are.
+    [[nodiscard]] virtual std::optional<std::string> ReadStart(const std::string& path, std::size_t enough);
 
     // Puts these bytes in the place of the file, which need not exist. Whatever goes wrong, and whenever the
     // process dies, the file is the old one or the new one. Keeps the mode of an existing file and replaces

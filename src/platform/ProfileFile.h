@@ -15,9 +15,6 @@ public:
     // empty one would end in its loss.
     [[nodiscard]] static std::optional<ProfileFile> Open(Files& files, std::string path);
 
-    // True if the file was read, or has been saved.
-    [[nodiscard]] bool IsThere() const { return there_; }
-
     [[nodiscard]] platform::Profile& Edit();
     [[nodiscard]] const platform::Profile& Profile() const { return profile_; }
 

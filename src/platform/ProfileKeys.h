@@ -23,7 +23,7 @@ public:
     [[nodiscard]] std::size_t Count() const { return names_.size(); }
 
     // The value of each key in a profile of these bytes as Profile::Read gives it, empty where the key is
-    // missing. The values are parts of the bytes.
+    // missing. The values are parts of the bytes; that of a missing key is none, its data is null.
     [[nodiscard]] std::vector<std::string_view> Read(std::string_view bytes, std::string_view section) const;
 
 private:

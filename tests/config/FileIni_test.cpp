@@ -248,23 +248,48 @@ TEST_F(ReadKeys, sees_what_its_batch_has_written) {
     EXPECT_EQ(Files.Reads, 1);
 }
 
-struct FileBatchTest : FileIniTest {};
+struct ReadFirstKeys : ReadKeys {
+    bool ReadFirst(const std::string& file) {
+        const std::array<std::string*, 3> places = {&K, &L, nullptr};
+        return Ini.ReadFirstKeys("A", Keys, file, places);
+    }
+};
 
-TEST_F(FileBatchTest, says_whether_its_file_is_there) {
-    EXPECT_TRUE(FileBatch(Ini, File).FileIsThere());
-    EXPECT_FALSE(FileBatch(Ini, "").FileIsThere());
-    Files.Unreadable.insert(File);
-    EXPECT_TRUE(FileBatch(Ini, File).FileIsThere()) << "what cannot be read is not taken for missing";
-
-    const std::string none = "/jobs/none.ini";
-    const FileBatch outer(Ini, none);
-    const FileBatch inner(Ini, none);
-    EXPECT_FALSE(inner.FileIsThere());
-    Ini.WriteKey("A", "K", "1", none);
-    EXPECT_FALSE(inner.FileIsThere()) << "not yet";
-    EXPECT_TRUE(Ini.FileExists(none));
-    EXPECT_TRUE(inner.FileIsThere());
+// The keys stand in one half or the other of what is read first, across its end, or behind it.
+TEST_F(ReadFirstKeys, gives_what_a_reading_of_the_whole_file_gives) {
+    for (std::size_t before = 0; before < 9000; before += before < 4050 || before > 4110 ? 50 : 1) {
+        Bytes = "[B]\r\nK=0\r\n;" + std::string(before, 'x') + "\r\n[A]\r\nK=12\r\nL=345\r\nM=6\r\n[C]\r\n" +
+                std::string(20000, 'y');
+        K = L = "old";
+        EXPECT_TRUE(ReadFirst(File));
+        EXPECT_EQ(K, "12") << before;
+        EXPECT_EQ(L, "345") << before;
+    }
 }
+
+TEST_F(ReadFirstKeys, says_whether_the_file_is_there) {
+    Bytes = Lines({"[A]", "K=1"});
+    EXPECT_TRUE(ReadFirst(File));
+    EXPECT_EQ(K, "1");
+    EXPECT_EQ(L, "");
+    EXPECT_EQ(Files.Reads, 1);
+    EXPECT_FALSE(ReadFirst("/jobs/none.ini"));
+    EXPECT_EQ(K, "");
+    EXPECT_FALSE(ReadFirst(""));
+    Files.Unreadable.insert(File);
+    K = "old";
+    EXPECT_TRUE(ReadFirst(File)) << "what cannot be read is not taken for missing";
+    EXPECT_EQ(K, "");
+}
+
+TEST_F(ReadFirstKeys, sees_what_its_batch_has_written) {
+    const FileBatch batch(Ini, File);
+    Ini.WriteKey("A", "K", "2", File);
+    EXPECT_TRUE(ReadFirst(File));
+    EXPECT_EQ(K, "2");
+}
+
+struct FileBatchTest : FileIniTest {};
 
 TEST_F(FileBatchTest, reads_once_and_replaces_once) {
     Bytes = Lines({"[A]", "K=1", "L=2"});

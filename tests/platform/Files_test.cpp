@@ -22,6 +22,19 @@ TEST_F(FilesTest, reads_all_bytes_of_a_file) {
     EXPECT_EQ(Real->Read(Folder.Put("empty", "")), "");
 }
 
+TEST_F(FilesTest, reads_the_start_of_a_file) {
+    const std::string path = Folder.Put("f", std::string(5000, 'a') + std::string(5000, 'b'));
+    for (const std::size_t enough : {1, 4999, 5001, 9999, 10000, 10001, 20000}) {
+        const auto start = Real->ReadStart(path, enough);
+        ASSERT_TRUE(start);
+        EXPECT_GE(start->size(), std::min<std::size_t>(enough, 10000));
+        EXPECT_TRUE(Folder.Get("f").starts_with(*start)) << enough;
+    }
+    EXPECT_EQ(Real->ReadStart(Folder.Put("empty", ""), 10), "");
+    EXPECT_EQ(Real->ReadStart(Folder.Path("missing"), 10), std::nullopt);
+    EXPECT_EQ(Real->ReadStart(Folder.Path(), 10), std::nullopt);
+}
+
 TEST_F(FilesTest, reads_nothing_where_no_file_is) {
     EXPECT_EQ(Real->Read(Folder.Path("missing")), std::nullopt);
     EXPECT_EQ(Real->Read(Folder.Path()), std::nullopt);

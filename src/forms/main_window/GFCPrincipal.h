@@ -11,6 +11,8 @@
 #include "ui/TabbedPane.h"
 #include "ui/Tree.h"
 
+#include <array>
+
 namespace gfc::forms {
 
 // The main window: the stations of the project as a tree, what is configured at the selected node, and the
@@ -106,11 +108,12 @@ private:
     void SelectRememberedNode();
     [[nodiscard]] const std::string& StationOf(int treeNode) const;
 
+    using RunFlags = std::array<std::string, config::MaxRuns>; // what the file says of each
+
     void FillStationTable();
     void AddStation(int root, const project::Station& station, std::size_t index);
     void AddStationChildren(int stationNode, const std::string& station, std::size_t index,
-                            const std::string& file);
-    void AddRunNodes(int parent, const std::string& station, const std::string& file);
+                            const RunFlags& flags);
     void AddRunNode(int parent, const std::string& station, int run, bool enabled);
     void HidePanes();
     void ShowStations(const std::string& statusText);

@@ -14,10 +14,13 @@ std::string YesOrNo(bool yes) {
     return yes ? "Yes" : "No";
 }
 
-// They say which runs are on.
-const platform::ProfileKeys& FlagKeys() {
+// The texts of the keys that say which runs are on. False if there is no file.
+bool ReadRunFlags(const config::FileIni& ini, const std::string& file,
+                  std::array<std::string, config::MaxRuns>& flags) {
     static const platform::ProfileKeys keys({"Run1", "Run2", "Run3", "Run4", "Run5"});
-    return keys;
+    std::array<std::string*, config::MaxRuns> places{};
+    std::ranges::transform(flags, places.begin(), [](std::string& flag) { return &flag; });
+    return ini.ReadFirstKeys("FlowRuns", keys, file, places);
 }
 
 } // namespace
@@ -84,33 +87,24 @@ void GFCPrincipal::BuildTree() {
 }
 
 void GFCPrincipal::AddStation(int root, const project::Station& station, std::size_t index) {
-    const std::string file = session_.Project.ConfigFileOf(station.Name);
     // One reading says whether the station is configured and which of its runs are on.
-    const config::FileBatch batch(program_.Ini, file);
-    const bool configured = batch.FileIsThere();
+    RunFlags flags;
+    const bool configured = ReadRunFlags(program_.Ini, session_.Project.ConfigFileOf(station.Name), flags);
     const int added =
         TreeGFC.Add(root, station.Name, station.Name, configured ? "StationConfig" : "StationNoConfig");
     TreeGFC.SetColour(added, configured ? ui::Colour::Blue : ui::Colour::Red);
     if (configured)
-        AddStationChildren(added, station.Name, index, file);
+        AddStationChildren(added, station.Name, index, flags);
 }
 
 void GFCPrincipal::AddStationChildren(int stationNode, const std::string& station, std::size_t index,
-                                      const std::string& file) {
+                                      const RunFlags& flags) {
     const std::string number = std::to_string(index);
     TreeGFC.Add(stationNode, "Comunes" + number, std::string(node::CommonParameters), "Carpeta", "Carpeta");
     const int individual = TreeGFC.Add(stationNode, "Individuales" + number,
                                        std::string(node::IndividualParameters), "Carpeta", "CarpetaOpen");
-    AddRunNodes(individual, station, file);
-}
-
-void GFCPrincipal::AddRunNodes(int parent, const std::string& station, const std::string& file) {
-    std::array<std::string, config::MaxRuns> flags;
-    std::array<std::string*, config::MaxRuns> places{};
-    std::ranges::transform(flags, places.begin(), [](std::string& flag) { return &flag; });
-    program_.Ini.ReadKeys("FlowRuns", FlagKeys(), file, places);
     for (int run = 1; run <= config::MaxRuns; ++run)
-        AddRunNode(parent, station, run, flags[static_cast<std::size_t>(run - 1)] == "Yes");
+        AddRunNode(individual, station, run, flags[static_cast<std::size_t>(run - 1)] == "Yes");
 }
 
 void GFCPrincipal::AddRunNode(int parent, const std::string& station, int run, bool enabled) {

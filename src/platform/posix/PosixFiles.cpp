@@ -47,20 +47,22 @@ std::optional<std::string> RealTarget(std::string path) {
     return std::nullopt;
 }
 
-std::optional<std::string> ReadAll(int fd, std::size_t expected) {
+constexpr std::size_t Everything = std::string::npos;
+
+std::optional<std::string> ReadAll(int fd, std::size_t expected, std::size_t enough) {
     // One byte more shows whether there is more than was expected; where there is not, that was the end.
-    std::string bytes(expected + 1, '\0');
+    std::string bytes(std::min(expected + 1, enough), '\0');
     std::size_t used = 0;
     for (bool end = false; !end;) {
         if (used == bytes.size())
-            bytes.resize(used * 2);
+            bytes.resize(std::min(used * 2, enough));
         const ssize_t got = ::read(fd, bytes.data() + used, bytes.size() - used);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
             return std::nullopt;
         used += static_cast<std::size_t>(got);
-        end = got == 0 || used == expected;
+        end = got == 0 || used == expected || used == enough;
     }
     bytes.resize(used);
     return bytes;
@@ -71,13 +73,13 @@ struct Source {
     struct stat State {};
 };
 
-std::optional<Source> ReadPlainFile(const std::string& path) {
+std::optional<Source> ReadPlainFile(const std::string& path, std::size_t enough = Everything) {
     Source source;
     // Without waiting: a pipe of that name must not hold the program.
     const Descriptor file = posix::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
     if (!file || ::fstat(file.Get(), &source.State) != 0 || !S_ISREG(source.State.st_mode))
         return std::nullopt;
-    auto bytes = ReadAll(file.Get(), static_cast<std::size_t>(source.State.st_size));
+    auto bytes = ReadAll(file.Get(), static_cast<std::size_t>(source.State.st_size), enough);
     if (!bytes)
         return std::nullopt;
     source.Bytes = std::move(*bytes);
@@ -102,8 +104,10 @@ bool MayReplace(const std::string& target, const struct stat& old) {
 
 class PosixFiles : public Files {
 public:
-    std::optional<std::string> Read(const std::string& path) override {
-        auto source = ReadPlainFile(path);
+    std::optional<std::string> Read(const std::string& path) override { return ReadStart(path, Everything); }
+
+    std::optional<std::string> ReadStart(const std::string& path, std::size_t enough) override {
+        auto source = ReadPlainFile(path, enough);
         return source ? std::optional(std::move(source->Bytes)) : std::nullopt;
     }
 
