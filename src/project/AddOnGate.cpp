@@ -48,10 +48,14 @@ Functions FindFunctions(const platform::DynamicLibrary& library) {
     return functions;
 }
 
-// A field's text up to its first NUL, or the whole field.
-std::string TextOf(const char* field, std::size_t width) {
+// A field up to its first NUL, or the whole field.
+std::string_view BytesOf(const char* field, std::size_t width) {
     const auto* end = static_cast<const char*>(std::memchr(field, '\0', width));
-    return services::FromCodePage({field, end == nullptr ? width : static_cast<std::size_t>(end - field)});
+    return {field, end == nullptr ? width : static_cast<std::size_t>(end - field)};
+}
+
+std::string TextOf(const char* field, std::size_t width) {
+    return services::FromCodePage(BytesOf(field, width));
 }
 
 template <std::size_t Width>
@@ -88,12 +92,16 @@ private:
     bool holds_ = false;
 };
 
+template <class Record>
+std::size_t OffsetOf(std::int32_t index) {
+    return static_cast<std::size_t>(index) * sizeof(Record);
+}
+
 // Record number index of the library's array, which may start at any address.
 template <class Record>
 Record RecordAt(const void* array, std::int32_t index) {
     Record record;
-    const auto offset = static_cast<std::size_t>(index) * sizeof(Record);
-    std::memcpy(&record, static_cast<const char*>(array) + offset, sizeof(Record));
+    std::memcpy(&record, static_cast<const char*>(array) + OffsetOf<Record>(index), sizeof(Record));
     return record;
 }
 
@@ -110,10 +118,41 @@ Station StationOf(const StationRecord& record) {
     return {TextOf(record.Name), TextOf(record.Type), TextOf(record.Address), record.SerialNumber};
 }
 
-Tag TagOf(const TagRecord& record) {
-    return {TextOf(record.TagName), record.RegAddr, TextOf(record.RegType), TextOf(record.ModuleName),
-            TextOf(record.ModuleType)};
-}
+// Makes tags of the records of one station, which stay where they are meanwhile: a hundred thousand take as
+// long to be copied as to be read. Neighbours mostly stand in one module, and share its texts.
+class TagMaker {
+public:
+    [[nodiscard]] Tag Make(const char* record) {
+        if (before_ == nullptr || !SameModule(record)) {
+            regType_ = Keep(record + offsetof(TagRecord, RegType), sizeof(TagRecord::RegType));
+            moduleName_ = Keep(record + offsetof(TagRecord, ModuleName), sizeof(TagRecord::ModuleName));
+            moduleType_ = Keep(record + offsetof(TagRecord, ModuleType), sizeof(TagRecord::ModuleType));
+        }
+        before_ = record;
+        std::int32_t regAddr = 0; // may stand at any address
+        std::memcpy(&regAddr, record + offsetof(TagRecord, RegAddr), sizeof regAddr);
+        return {Keep(record + offsetof(TagRecord, TagName), sizeof(TagRecord::TagName)), regAddr, regType_,
+                moduleName_, moduleType_};
+    }
+
+private:
+    [[nodiscard]] bool SameModule(const char* record) const {
+        constexpr std::size_t type = offsetof(TagRecord, RegType);
+        constexpr std::size_t module = offsetof(TagRecord, ModuleName);
+        constexpr std::size_t moduleEnd = offsetof(TagRecord, ModuleType) + sizeof(TagRecord::ModuleType);
+        return std::memcmp(record + type, before_ + type, sizeof(TagRecord::RegType)) == 0 &&
+               std::memcmp(record + module, before_ + module, moduleEnd - module) == 0;
+    }
+    TagText Keep(const char* field, std::size_t width) {
+        const std::string_view bytes = BytesOf(field, width);
+        return texts_.Keep(services::IsPlain(bytes) ? bytes
+                                                    : std::string_view(services::FromCodePage(bytes)));
+    }
+
+    TagTexts texts_;
+    const char* before_ = nullptr;
+    TagText regType_, moduleName_, moduleType_;
+};
 
 class AddOnGate : public AddOnLibrary {
 public:
@@ -129,7 +168,7 @@ public:
 
     std::optional<std::vector<Station>> GetStations() override;
     TagList ReadTags(const std::string& station, const std::string& projectFile,
-                     const std::function<void(const std::string&)>& onTag) override;
+                     const std::function<void(std::string_view)>& onTag) override;
     void AddFileToLoad(const std::string& station, const std::string& local,
                        const std::string& target) override;
     int RemoveFileToLoad(const std::string& station, const std::string& local,
@@ -157,7 +196,7 @@ std::optional<std::vector<Station>> AddOnGate::GetStations() {
 }
 
 TagList AddOnGate::ReadTags(const std::string& station, const std::string& projectFile,
-                            const std::function<void(const std::string&)>& onTag) {
+                            const std::function<void(std::string_view)>& onTag) {
     // Blank before each call, since the library writes into it.
     TagRequest request{};
     if (!PutText(station, request.Station) || !PutText(projectFile, request.ProjectFile))
@@ -170,8 +209,9 @@ TagList AddOnGate::ReadTags(const std::string& station, const std::string& proje
     TagList tags;
     const std::int32_t held = HoldsRecords<TagRecord>(array, count) ? count : 0;
     tags.reserve(static_cast<std::size_t>(held));
+    TagMaker maker;
     for (std::int32_t i = 0; i < held; ++i) {
-        tags.push_back(TagOf(RecordAt<TagRecord>(array, i)));
+        tags.push_back(maker.Make(static_cast<const char*>(array) + OffsetOf<TagRecord>(i)));
         if (onTag)
             onTag(tags.back().TagName);
     }

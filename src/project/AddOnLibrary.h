@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace gfc::project {
@@ -28,7 +29,7 @@ public:
     [[nodiscard]] virtual std::optional<std::vector<Station>> GetStations() = 0;
     // onTag is called with each tag's name as it is copied. Zero or less than zero tags give an empty list.
     [[nodiscard]] virtual TagList ReadTags(const std::string& station, const std::string& projectFile,
-                                           const std::function<void(const std::string&)>& onTag) = 0;
+                                           const std::function<void(std::string_view)>& onTag) = 0;
     virtual void AddFileToLoad(const std::string& station, const std::string& local,
                                const std::string& target) = 0;
     virtual int RemoveFileToLoad(const std::string& station, const std::string& local,

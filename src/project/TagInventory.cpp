@@ -34,6 +34,15 @@ void Append(TagList& target, const TagList& more) {
     target.insert(target.end(), more.begin(), more.end());
 }
 
+// Null for an unknown class.
+TagList* ListOf(const Tag& tag, TagInventory& inventory) {
+    const auto registerClass = RegisterClassOf(tag.RegType);
+    if (!registerClass)
+        return nullptr;
+    const ClassRow& row = Classes[static_cast<std::size_t>(*registerClass)];
+    return &(inventory.*(IsVirtual(tag) ? row.Virtual : row.Physical));
+}
+
 } // namespace
 
 std::optional<RegisterClass> RegisterClassOf(std::string_view regType) {
@@ -48,17 +57,19 @@ bool IsVirtual(const Tag& tag) {
     return services::FirstWord(tag.ModuleType) == "Virtual";
 }
 
-void BuildInventory(const TagList& tags, TagInventory& inventory) {
+void BuildInventory(TagList tags, TagInventory& inventory) {
     for (const ClassRow& row : Classes) {
         (inventory.*row.Physical).clear();
         (inventory.*row.Virtual).clear();
     }
-    for (const Tag& tag : tags) {
-        const auto registerClass = RegisterClassOf(tag.RegType);
-        if (!registerClass)
-            continue; // a tag of an unknown class stands in no list
-        const ClassRow& row = Classes[static_cast<std::size_t>(*registerClass)];
-        (inventory.*(IsVirtual(tag) ? row.Virtual : row.Physical)).push_back(tag);
+    // The tags of one class and kind mostly stand together, and are moved together.
+    for (auto first = tags.begin(); first != tags.end();) {
+        const auto end = std::find_if(first, tags.end(), [&](const Tag& tag) {
+            return tag.RegType != first->RegType || tag.ModuleType != first->ModuleType;
+        });
+        if (TagList* list = ListOf(*first, inventory))
+            list->insert(list->end(), std::move_iterator(first), std::move_iterator(end));
+        first = end;
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/TagText.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -12,11 +14,11 @@ namespace gfc::project {
 
 // A tag as the add-on library delivered it, texts cut at their first NUL.
 struct Tag {
-    std::string TagName;
+    TagText TagName;
     std::int32_t RegAddr = 0;
-    std::string RegType; // "X", "Y", "AX", "AY", "FX", "FY", "LX" or "LY", in any case
-    std::string ModuleName;
-    std::string ModuleType; // first word "Virtual" for a virtual module
+    TagText RegType; // "X", "Y", "AX", "AY", "FX", "FY", "LX" or "LY", in any case
+    TagText ModuleName;
+    TagText ModuleType; // first word "Virtual" for a virtual module
 };
 
 using TagList = std::vector<Tag>;
@@ -38,7 +40,7 @@ struct TagInventory {
 };
 
 // A tag of an unknown class stands in no list. The derived lists stay as they were.
-void BuildInventory(const TagList& tags, TagInventory& inventory);
+void BuildInventory(TagList tags, TagInventory& inventory);
 
 // The names of the working modules that are kept out of the derived lists.
 struct WorkingModuleNames {

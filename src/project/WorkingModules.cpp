@@ -41,7 +41,7 @@ class ModuleSizes {
 public:
     explicit ModuleSizes(const TagList& list) {
         // The tags of a module mostly stand together, so that its name is looked up once for all of them.
-        const std::string* module = nullptr;
+        const TagText* module = nullptr;
         int* size = nullptr;
         for (const Tag& tag : list) {
             if (module == nullptr || *module != tag.ModuleName) {

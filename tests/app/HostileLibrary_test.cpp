@@ -74,7 +74,7 @@ TEST_P(HostileLibrary, gives_what_can_be_read_and_no_more) {
     ASSERT_TRUE(stations.has_value());
     EXPECT_EQ(stations->size(), Row().Stations);
     std::size_t told = 0;
-    const auto tags = library->ReadTags("North", "/jobs/plant.KPJ", [&told](const std::string&) { ++told; });
+    const auto tags = library->ReadTags("North", "/jobs/plant.KPJ", [&told](std::string_view) { ++told; });
     EXPECT_EQ(tags.size(), Row().Tags);
     EXPECT_EQ(told, Row().Tags);
     for (const auto& tag : tags)

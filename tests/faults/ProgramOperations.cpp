@@ -215,7 +215,7 @@ void LoseATag(Plant& plant) {
     const std::string file = plant.Fake.ConfigFile("North");
     const std::string lost = plant.Fake.Program.Ini.ReadKey("Run1", "GasTempKDIOTag", file);
     auto& tags = plant.Fake.Library.TagsOf.at("North");
-    std::ranges::find(tags, lost, &project::Tag::TagName)->TagName = "TT-101";
+    std::ranges::find_if(tags, [&](const auto& tag) { return tag.TagName == lost; })->TagName = "TT-101";
 }
 
 bool IsWholeLog(const std::string& bytes) {

@@ -323,8 +323,8 @@ TEST_F(AddOnGate, copies_the_tags_in_order_telling_each_name) {
     GiveTag(full);
 
     std::vector<std::string> told;
-    const auto tags =
-        Library->ReadTags("North", "/jobs/plant.KPJ", [&](const std::string& name) { told.push_back(name); });
+    const auto tags = Library->ReadTags("North", "/jobs/plant.KPJ",
+                                        [&](std::string_view name) { told.emplace_back(name); });
     ASSERT_EQ(tags.size(), 2U);
     EXPECT_EQ(tags[0].TagName, "Caudal_\xC3\x91");
     EXPECT_EQ(tags[0].RegAddr, 1001);
@@ -337,6 +337,27 @@ TEST_F(AddOnGate, copies_the_tags_in_order_telling_each_name) {
     EXPECT_EQ(tags[1].ModuleType, std::string(80, 't'));
     EXPECT_EQ(told, (std::vector<std::string>{"Caudal_\xC3\x91", std::string(40, 't')}));
     EXPECT_EQ(Given.Calls, (std::vector<std::string>{"ReadTagList", "FreeTagList"}));
+}
+
+TEST_F(AddOnGate, tells_neighbours_of_different_modules_apart) {
+    const auto tag = [](const char* type, const char* module, const char* moduleType) {
+        TagRecord record{};
+        Put("T", record.TagName);
+        Put(type, record.RegType);
+        Put(module, record.ModuleName);
+        Put(moduleType, record.ModuleType);
+        return record;
+    };
+    // Each differs from the one before in one text, the second not at all.
+    for (const auto& record : {tag("FX", "M\xD1", "Virtual"), tag("FX", "M\xD1", "Virtual"),
+                               tag("FY", "M\xD1", "Virtual"), tag("FY", "N", "Virtual"), tag("FY", "N", "")})
+        GiveTag(record);
+    std::vector<std::string> texts;
+    for (const Tag& each : Library->ReadTags("North", "/jobs/plant.KPJ", {}))
+        texts.push_back(std::string(each.RegType) + "|" + std::string(each.ModuleName) + "|" +
+                        std::string(each.ModuleType));
+    EXPECT_EQ(texts, (std::vector<std::string>{"FX|M\xC3\x91|Virtual", "FX|M\xC3\x91|Virtual",
+                                               "FY|M\xC3\x91|Virtual", "FY|N|Virtual", "FY|N|"}));
 }
 
 TEST_F(AddOnGate, blanks_the_request_before_each_call) {

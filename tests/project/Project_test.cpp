@@ -33,7 +33,7 @@ struct Tool : AddOnLibrary {
         return Answer;
     }
     TagList ReadTags(const std::string&, const std::string&,
-                     const std::function<void(const std::string&)>&) override {
+                     const std::function<void(std::string_view)>&) override {
         return {};
     }
     void AddFileToLoad(const std::string& station, const std::string& local,

@@ -51,7 +51,7 @@ void Outside::Put(const std::string& section, const std::string& key, const std:
 
 void Outside::RenameTag(const std::string& name, const std::string& newName) const {
     auto& tags = Program->Library.TagsOf.at("North");
-    const auto tag = std::ranges::find(tags, name, &project::Tag::TagName);
+    const auto tag = std::ranges::find_if(tags, [&](const auto& each) { return each.TagName == name; });
     ASSERT_NE(tag, tags.end()) << name;
     tag->TagName = newName;
 }

@@ -45,7 +45,7 @@ public:
     std::string GetProjectFile() override;
     std::optional<std::vector<project::Station>> GetStations() override;
     project::TagList ReadTags(const std::string& station, const std::string& projectFile,
-                              const std::function<void(const std::string&)>& onTag) override;
+                              const std::function<void(std::string_view)>& onTag) override;
     void AddFileToLoad(const std::string& station, const std::string& local,
                        const std::string& target) override;
     int RemoveFileToLoad(const std::string& station, const std::string& local,

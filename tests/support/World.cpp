@@ -27,8 +27,7 @@ void FakeProgram::OpenProject() {
 
 void FakeProgram::OpenStation(const std::string& name) {
     Station.CurrentStation = name;
-    Session.Tags = Library.ReadTags(name, Station.ProjectFile, {});
-    project::BuildInventory(Session.Tags, Session.Inventory);
+    project::BuildInventory(Library.ReadTags(name, Station.ProjectFile, {}), Session.Inventory);
     Session.Modules.ClearCounts();
     if (!project::ChooseWorkingModules(Session.Inventory, Session.Modules))
         return;

@@ -44,12 +44,12 @@ void FillTagList(ui::ListView& list, const project::TagList& tags, int rowOffset
 project::TagList TagsInList(const ui::ListView& list) {
     project::TagList tags;
     tags.reserve(static_cast<std::size_t>(list.Count()));
+    project::TagTexts texts;
     for (int row = 1; row <= list.Count(); ++row) {
-        auto shown = BindingInRow(list, row);
         project::Tag tag;
-        tag.TagName = std::move(shown.Tag);
-        tag.RegAddr = RegisterOf(shown.RegAddr);
-        tag.RegType = std::move(shown.Type);
+        tag.TagName = texts.Keep(list.Cell(row, tag_column::Name));
+        tag.RegAddr = RegisterOf(list.Cell(row, tag_column::Register));
+        tag.RegType = texts.Keep(list.Cell(row, tag_column::Type));
         tags.push_back(std::move(tag));
     }
     return tags;

@@ -18,7 +18,7 @@ std::optional<std::vector<project::Station>> PatientLibrary::GetStations() {
 }
 
 project::TagList PatientLibrary::ReadTags(const std::string& station, const std::string& projectFile,
-                                          const std::function<void(const std::string&)>& onTag) {
+                                          const std::function<void(std::string_view)>& onTag) {
     return Waiting([&] { return library_.ReadTags(station, projectFile, onTag); });
 }
 

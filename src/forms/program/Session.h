@@ -22,8 +22,7 @@ enum class TagsChangedChoice { None = 0, Ignore = 1, BackToConfigure = 2, Discar
 struct Session {
     config::StationConfig Station;
     project::Project Project;
-    project::TagList Tags; // of the station opened last
-    project::TagInventory Inventory;
+    project::TagInventory Inventory; // of the station opened last
     project::WorkingModuleCandidates Modules;
 
     bool UserIdCancelled = false;

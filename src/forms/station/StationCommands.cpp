@@ -13,24 +13,24 @@ namespace {
 // A repaint for each of a hundred thousand tags would take longer than reading them.
 constexpr int tagsPerRepaint = 512;
 
-void LoadStationTags(Program& program) {
-    auto& session = program.Session;
+project::TagList LoadStationTags(Program& program) {
+    const auto& session = program.Session;
     auto& bar = program.Forms.Get<GFCPrincipal>().StatusBar1;
     program.Screen.DoEvents();
     int copied = 0;
-    const auto show = [&](const std::string& tagName) {
+    const auto show = [&](std::string_view tagName) {
         bar.SetVisible(true);
-        bar.SetPanelText(1, "Loading Tags:" + tagName);
+        bar.SetPanelText(1, "Loading Tags:" + std::string(tagName));
         if (++copied % tagsPerRepaint == 0)
             program.Screen.DoEvents();
     };
-    session.Tags =
-        program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, show);
+    auto tags = program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, show);
     program.Screen.DoEvents();
-    if (session.Tags.empty())
+    if (tags.empty())
         program.Screen.Ask({.Title = "Flow Gas Computer",
                             .Text = "Error: There are not Tags in Station",
                             .TheIcon = ui::Icon::Critical});
+    return tags;
 }
 
 // Entries of the wizard's list of standards.
@@ -113,9 +113,7 @@ bool HasPlaceForItsFile(Program& program) {
 }
 
 void ReadStationTags(Program& program) {
-    auto& session = program.Session;
-    LoadStationTags(program);
-    project::BuildInventory(session.Tags, session.Inventory);
+    project::BuildInventory(LoadStationTags(program), program.Session.Inventory);
 }
 
 bool OpenStation(Program& program) {

@@ -20,7 +20,7 @@ public:
         return Seen("GetStations"), FakeLibrary::GetStations();
     }
     project::TagList ReadTags(const std::string& station, const std::string& projectFile,
-                              const std::function<void(const std::string&)>& onTag) override {
+                              const std::function<void(std::string_view)>& onTag) override {
         return Seen("ReadTags"), FakeLibrary::ReadTags(station, projectFile, onTag);
     }
     void AddFileToLoad(const std::string& station, const std::string& local,
@@ -58,7 +58,8 @@ TEST(PatientLibrary, shows_that_it_waits_for_each_call_and_hands_its_answer_on) 
     ASSERT_TRUE(stations.has_value());
     EXPECT_EQ(stations->size(), 1U);
     EXPECT_EQ(
-        library.ReadTags("North", "/jobs/plant.KPJ", [&](const auto& tag) { told.push_back(tag); }).size(),
+        library.ReadTags("North", "/jobs/plant.KPJ", [&](std::string_view tag) { told.emplace_back(tag); })
+            .size(),
         2U);
     EXPECT_EQ(told, (std::vector<std::string>{"PT-1", "PT-2"}));
     library.AddFileToLoad("North", "/jobs/a.ini", "/etc/a.ini");

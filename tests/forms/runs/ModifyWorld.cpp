@@ -107,7 +107,7 @@ std::string ModifyWorld::Key(const std::string& section, const std::string& key)
 
 void ModifyWorld::RenameTag(const std::string& name, const std::string& newName) {
     auto& tags = Library.TagsOf.at("North");
-    std::ranges::find(tags, name, &project::Tag::TagName)->TagName = newName;
+    std::ranges::find_if(tags, [&](const auto& tag) { return tag.TagName == name; })->TagName = newName;
     OpenStation("North");
 }
 
