@@ -17,14 +17,22 @@ project::TagList LoadStationTags(Program& program) {
     const auto& session = program.Session;
     auto& bar = program.Forms.Get<GFCPrincipal>().StatusBar1;
     program.Screen.DoEvents();
-    int copied = 0;
-    const auto show = [&](std::string_view tagName) {
+    std::string copied; // the tag that was copied last
+    int count = 0;
+    const auto show = [&] {
         bar.SetVisible(true);
-        bar.SetPanelText(1, "Loading Tags:" + std::string(tagName));
-        if (++copied % tagsPerRepaint == 0)
-            program.Screen.DoEvents();
+        bar.SetPanelText(1, "Loading Tags:" + copied);
     };
-    auto tags = program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, show);
+    const auto onTag = [&](std::string_view tagName) {
+        copied = tagName;
+        if (++count % tagsPerRepaint != 0)
+            return;
+        show();
+        program.Screen.DoEvents();
+    };
+    auto tags = program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, onTag);
+    if (count > 0)
+        show();
     program.Screen.DoEvents();
     if (tags.empty())
         program.Screen.Ask({.Title = "Flow Gas Computer",
