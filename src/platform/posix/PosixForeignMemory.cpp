@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/uio.h>
 #ifdef __linux__
 #include <sys/syscall.h>
@@ -65,6 +66,17 @@ private:
     std::size_t count_ = 0;
 };
 
+// Asked of the system in one call where it has that. False also where it has not, or does not know.
+bool IsKnownReadable(std::uintptr_t first, std::uintptr_t last, std::uintptr_t page) {
+#ifdef MADV_POPULATE_READ
+    const std::uintptr_t start = first / page * page;
+    return ::madvise(reinterpret_cast<void*>(start), last - start + 1, MADV_POPULATE_READ) == 0;
+#else
+    (void)first, (void)last, (void)page;
+    return false;
+#endif
+}
+
 } // namespace
 
 bool IsReadable(const void* from, std::size_t size) {
@@ -73,11 +85,13 @@ bool IsReadable(const void* from, std::size_t size) {
         return true;
     if (size - 1 > UINTPTR_MAX - first)
         return false;
+    const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    const std::uintptr_t last = first + (size - 1);
+    if (IsKnownReadable(first, last, page))
+        return true;
     Probe probe;
     if (!probe)
         return true;
-    const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
-    const std::uintptr_t last = first + (size - 1);
     // The first byte, and then the first one of each further page.
     for (std::uintptr_t at = first; at <= last; at = (at / page + 1) * page) {
         probe.Add(at);
