@@ -7,9 +7,12 @@
 #include "qt/QtScreen.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 // The windows themselves, in memory: every figure ends when nothing is left to be painted.
 namespace gfc::bench {
@@ -18,6 +21,7 @@ namespace {
 
 constexpr std::size_t FreeTags = 50'000;
 constexpr int Stations = 1000;
+constexpr int DragFrames = 60;
 
 // Boxes are answered before they are shown.
 class AnsweringScreen : public qt::QtScreen {
@@ -139,6 +143,47 @@ void AutoAssign(benchmark::State& state, int scale) {
         state.SkipWithError("the tags were not assigned");
 }
 
+// Of the list of free tags.
+QScrollBar* ScrollBar() {
+    for (const QWidget* window : QApplication::topLevelWidgets())
+        if (const auto* list = window->findChild<QTableView*>(QStringLiteral("ListViewRuns")))
+            return list->verticalScrollBar();
+    return nullptr;
+}
+
+void ScrollPage(benchmark::State& state, int scale) {
+    TagWindow window(binding::BindingStage::RunInputs, scale);
+    window.Open();
+    Settle();
+    QScrollBar* const bar = ScrollBar();
+    for (auto _ : state)
+        TakeSeconds(state,
+                    SecondsUntilPainted([&] { bar->triggerAction(QAbstractSlider::SliderPageStepAdd); }));
+    if (bar->value() != bar->pageStep())
+        state.SkipWithError("the list was not scrolled");
+}
+
+// The handle is pulled down in equal steps, each of which is painted.
+void ScrollDrag(benchmark::State& state, int scale) {
+    TagWindow window(binding::BindingStage::RunInputs, scale);
+    window.Open();
+    Settle();
+    QScrollBar* const bar = ScrollBar();
+    double slowest = 0;
+    for (auto _ : state) {
+        bar->setSliderDown(true);
+        for (int frame = 1; frame <= DragFrames; ++frame)
+            slowest = std::max(slowest, SecondsUntilPainted([&] {
+                                   bar->setSliderPosition(static_cast<int>(
+                                       static_cast<long long>(bar->maximum()) * frame / DragFrames));
+                               }));
+        bar->setSliderDown(false);
+        TakeSeconds(state, slowest);
+    }
+    if (bar->maximum() == 0 || bar->value() != bar->maximum())
+        state.SkipWithError("the list was not scrolled");
+}
+
 void RebuildTree(benchmark::State& state, int scale) {
     AnsweringScreen screen;
     Plant plant(screen, Stations * scale);
@@ -160,6 +205,8 @@ void ContestWindows() {
     Contest("assign", Ours, Assign, Pace::Once);
     Contest("undo", Ours, Undo, Pace::Once);
     Contest("auto_assign", Ours, AutoAssign, Pace::Once);
+    Contest("scroll_page", Ours, ScrollPage, Pace::Once);
+    Contest("scroll_drag", Ours, ScrollDrag, Pace::Once);
     Contest("tree_window", Ours, RebuildTree, Pace::Once);
 }
 
