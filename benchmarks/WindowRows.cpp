@@ -143,10 +143,11 @@ void AutoAssign(benchmark::State& state, int scale) {
         state.SkipWithError("the tags were not assigned");
 }
 
-// Of the list of free tags.
+// Of the list of free tags in the window that is shown: those of earlier rounds go when the loop ends.
 QScrollBar* ScrollBar() {
     for (const QWidget* window : QApplication::topLevelWidgets())
-        if (const auto* list = window->findChild<QTableView*>(QStringLiteral("ListViewRuns")))
+        if (const auto* list = window->findChild<QTableView*>(QStringLiteral("ListViewRuns"));
+            list != nullptr && window->isVisible())
             return list->verticalScrollBar();
     return nullptr;
 }
