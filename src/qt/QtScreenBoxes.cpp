@@ -28,10 +28,11 @@ constexpr std::array<QMessageBox::Icon, 5> icons{QMessageBox::NoIcon, QMessageBo
                                                  QMessageBox::Question, QMessageBox::Warning,
                                                  QMessageBox::Critical};
 
-// The help button opens the help and leaves the box as it is.
+// The help button opens the help and leaves the box as it is. Only its click is taken from the box: screen
+// readers forget a button by its other signals, and would ask it after its end.
 void AddHelp(QMessageBox& message, const std::function<void()>& openHelp) {
     QAbstractButton* help = message.addButton(QMessageBox::Help);
-    help->disconnect();
+    QObject::disconnect(help, &QAbstractButton::clicked, nullptr, nullptr);
     QObject::connect(help, &QAbstractButton::clicked, &message, openHelp);
     auto* key = new QShortcut(QKeySequence(Qt::Key_F1), &message);
     QObject::connect(key, &QShortcut::activated, &message, openHelp);

@@ -1,5 +1,6 @@
 #include "qt/HelpFixture.h"
 
+#include <QAccessible>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -90,6 +91,20 @@ TEST_F(HelpWindows, open_from_the_help_button_of_a_box_and_leave_it_open) {
     });
     (void)Screen.Ask({.Title = "Title", .Text = "Text", .HelpContext = 7300, .HelpFile = "AGA.chm"});
     EXPECT_TRUE(stayed);
+}
+
+// A screen reader that still knew the button would ask what has gone.
+TEST_F(HelpWindows, are_forgotten_by_screen_readers_with_their_box) {
+    QAccessible::Id known = 0;
+    InModal([&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        known = QAccessible::uniqueId(QAccessible::queryAccessibleInterface(box->button(QMessageBox::Help)));
+        EXPECT_NE(QAccessible::accessibleInterface(known), nullptr);
+        ClickOn(box->button(QMessageBox::Ok));
+    });
+    (void)Screen.Ask({.Title = "Title", .Text = "Text", .HelpContext = 7300, .HelpFile = "AGA.chm"});
+    EXPECT_EQ(QAccessible::accessibleInterface(known), nullptr);
 }
 
 TEST_F(HelpWindows, go_with_the_screen) {

@@ -79,7 +79,7 @@ bool LineEditKeys::Compose(QInputMethodEvent& event) {
 bool LineEditKeys::ShowMenu(const QContextMenuEvent& event) {
     const std::unique_ptr<QMenu> menu(line_.createStandardContextMenu());
     if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste")); paste != nullptr) {
-        paste->disconnect();
+        QObject::disconnect(paste, &QAction::triggered, nullptr, nullptr);
         QObject::connect(paste, &QAction::triggered, this,
                          [this] { Paste(QGuiApplication::clipboard()->text()); });
     }
