@@ -189,7 +189,10 @@ Lines Unnamed(const QWidget& window) {
         auto* pane = qobject_cast<QTabWidget*>(widget);
         QAccessibleInterface* read =
             QAccessible::queryAccessibleInterface(pane == nullptr ? widget : pane->tabBar());
-        if (read == nullptr || read->role() == QAccessible::NoRole || read->role() == QAccessible::Client)
+        if (read != nullptr && !read->isValid())
+            lines.push_back(NameOf(*widget) + " is taken for one that has gone");
+        else if (read == nullptr || read->role() == QAccessible::NoRole ||
+                 read->role() == QAccessible::Client)
             lines.push_back(NameOf(*widget) + " has no role");
         else if (read->text(QAccessible::Name).isEmpty())
             lines.push_back(NameOf(*widget) + " has no name");
