@@ -23,6 +23,8 @@ const FaultRow Faults[] = {
     {"EROFS",                   {Effect::Fails,      EROFS,  0, 1}},
     {"EDQUOT",                  {Effect::Fails,      EDQUOT, 0, 1}},
     {"EINTR",                   {Effect::Fails,      EINTR,  0, 1}},
+    {"EPERM",                   {Effect::Fails,      EPERM,  0, 1}},
+    {"ENOTSUP",                 {Effect::Fails,      ENOTSUP, 0, 1}}, // of a file system without links
     {"half done",               {Effect::Half,       0,      0, 1}},
     {"done, but EIO",           {Effect::FailsAfter, EIO,    0, 1}},
     {"EIO three times",         {Effect::Fails,      EIO,    0, 3}},

@@ -51,6 +51,17 @@ TEST_F(ProjectFile, that_is_only_read_cannot_be_changed) {
     EXPECT_NE(FailureOf([&] { AddStation(project, {0, "East", "", "", 0}); }), "");
 }
 
+TEST_F(ProjectFile, that_another_program_writes_to_is_told_after_a_wait) {
+    auto other = Project::Create(Folder / "busy.KPJ");
+    auto mine = Project::Open(Folder / "busy.KPJ", Access::Write);
+    {
+        const Transaction writing(other.Data());
+        const std::string failure = FailureOf([&] { const Transaction meanwhile(mine.Data()); });
+        EXPECT_EQ(failure, In("busy.KPJ") + ": another program is writing to it; try again.");
+    }
+    EXPECT_EQ(FailureOf([&] { const Transaction then(mine.Data()); }), "");
+}
+
 TEST_F(ProjectFile, path_must_fit_what_the_library_hands_out) {
     EXPECT_EQ(FailureOf([] { CheckProjectPath("/jobs/Añelo/plant.KPJ"); }), "");
     EXPECT_EQ(FailureOf([] { CheckProjectPath("/jobs/plant.kpj"); }), "");

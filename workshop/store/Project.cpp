@@ -97,10 +97,10 @@ void Project::MakeTables() {
 }
 
 void Project::CheckIdentity() {
-    if (Pragma("application_id") != ApplicationId || Pragma("user_version") < 1) {
+    const std::int64_t version = Pragma("user_version");
+    if (Pragma("application_id") != ApplicationId || version < 1) {
         throw Failure(PathText(file_) + ": it is not a project of this workshop.");
     }
-    const std::int64_t version = Pragma("user_version");
     if (version > SchemaVersion) {
         throw Failure(PathText(file_) + ": the project is of version " + std::to_string(version) +
                       ", this workshop reads up to " + std::to_string(SchemaVersion) +
