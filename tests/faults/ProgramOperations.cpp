@@ -110,7 +110,7 @@ void LayBystanders(const fs::path& folder) {
     Put(folder / "plant.KPJ", "the tool's own");
     Put(folder / "notes.txt", "by hand");
     Put(folder / "KDOrmAGA_plant_North.ini.bak", "kept by a person");
-    Put(folder / ".gfc-save-KDOrmAGA_plant_North.ini", "bears no number of a process");
+    Put(folder / ".gfc-save-KDOrmAGA_plant_North.ini", "bears no number");
 }
 
 // A configuration of runs 1 and 3 as the wizard writes it; made once.

@@ -168,31 +168,69 @@ TEST_F(PosixFilesTest, nothing_waits_at_a_pipe) {
     EXPECT_EQ(Folder.Count(), 1u);
 }
 
-TEST_F(PosixFilesTest, replace_removes_what_a_dead_writer_left) {
+// Makes that many temporary files at once, writes into them and dies.
+int DieWriting(const std::string& target, int files) {
+    return InChild([&] {
+        std::vector<TemporaryFile> begun;
+        for (int i = 0; i < files; ++i)
+            if (auto file = TemporaryFile::Beside(target, 0600); file && posix::WriteAll(file->Get(), "half"))
+                begun.push_back(std::move(*file));
+        ::_exit(static_cast<int>(begun.size()));
+        return -1;
+    });
+}
+
+TEST_F(PosixFilesTest, replace_removes_what_dead_writers_left) {
     const std::string target = Folder.Put("plant.ini", "old");
-    EXPECT_EQ(InChild([&] {
-                  const auto file = TemporaryFile::Beside(target, 0600);
-                  (void)posix::WriteAll(file->Get(), "half");
-                  ::_exit(file ? 0 : 1);
-                  return 1;
-              }),
-              0);
-    ASSERT_EQ(Folder.Count(), 2u);
+    for (const int left : {1, 3}) {
+        ASSERT_EQ(DieWriting(target, left), left);
+        ASSERT_EQ(Folder.Count(), 1u + static_cast<std::size_t>(left));
+        EXPECT_TRUE(Real->Replace(target, "new"));
+        EXPECT_EQ(Folder.Get("plant.ini"), "new");
+        EXPECT_EQ(Folder.Count(), 1u);
+    }
+}
+
+TEST_F(PosixFilesTest, copy_removes_what_dead_writers_left) {
+    Folder.Put("plant.ini", "bytes");
+    ASSERT_EQ(DieWriting(Folder.Path("copy.ini"), 2), 2);
+    EXPECT_TRUE(Real->CopyNew(Folder.Path("plant.ini"), Folder.Path("copy.ini")));
+    EXPECT_EQ(Folder.Get("copy.ini"), "bytes");
+    EXPECT_EQ(Folder.Count(), 2u);
+}
+
+TEST_F(PosixFilesTest, replace_removes_what_stands_behind_a_living_writers_file) {
+    const std::string target = Folder.Put("plant.ini", "old");
+    auto living = TemporaryFile::Beside(target, 0600);
+    ASSERT_TRUE(living);
+    ASSERT_EQ(DieWriting(target, 2), 2);
     EXPECT_TRUE(Real->Replace(target, "new"));
-    EXPECT_EQ(Folder.Get("plant.ini"), "new");
-    EXPECT_EQ(Folder.Count(), 1u);
+    EXPECT_EQ(Folder.Count(), 2u) << "the file and that of the living";
+    EXPECT_TRUE(living->MoveOver(target));
 }
 
 TEST_F(PosixFilesTest, replace_leaves_a_living_writers_file_and_those_of_others) {
     const std::string target = Folder.Put("plant.ini", "old");
-    Folder.Put(".gfc-save-plant.ini.bak-0000000000", "another file's");
-    Folder.Put(".gfc-save-plant.ini-short", "no leftover");
+    Folder.Put(".gfc-save-plant.ini.bak-00", "another file's");
+    Folder.Put(".gfc-save-plant.ini", "no leftover");
     auto living = TemporaryFile::Beside(target, 0600);
     ASSERT_TRUE(living);
     EXPECT_TRUE(Real->Replace(target, "new"));
     EXPECT_EQ(Folder.Count(), 4u);
     EXPECT_TRUE(living->MoveOver(target)) << "the other writer is not disturbed";
     EXPECT_EQ(Folder.Count(), 3u);
+}
+
+// A link of that name must not lead the bytes elsewhere.
+TEST_F(PosixFilesTest, replace_steps_over_names_that_are_no_files) {
+    const std::string target = Folder.Put("plant.ini", "old");
+    Folder.Put("elsewhere", "kept");
+    fs::create_symlink("elsewhere", Folder.Path(".gfc-save-plant.ini-00"));
+    fs::create_directory(Folder.Path(".gfc-save-plant.ini-01"));
+    EXPECT_TRUE(Real->Replace(target, "new"));
+    EXPECT_EQ(Folder.Get("plant.ini"), "new");
+    EXPECT_EQ(Folder.Get("elsewhere"), "kept");
+    EXPECT_EQ(Folder.Count(), 4u);
 }
 
 // A limit on file size makes the disk seem full after some bytes.
@@ -343,7 +381,8 @@ TEST_F(PosixFilesTest, leftovers_of_the_living_stay_although_they_are_many) {
     auto first = TemporaryFile::Beside(target, 0600);
     auto second = TemporaryFile::Beside(target, 0600);
     ASSERT_TRUE(first && second);
-    TemporaryFile::RemoveLeftovers(target);
+    EXPECT_TRUE(Real->Replace(target, "new"));
+    EXPECT_EQ(Folder.Count(), 3u);
     EXPECT_TRUE(first->MoveOver(target));
     EXPECT_TRUE(second->MoveOver(target));
     EXPECT_EQ(Folder.Count(), 1u);

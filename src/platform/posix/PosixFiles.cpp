@@ -119,7 +119,6 @@ public:
         const bool existed = ::stat(target->c_str(), &old) == 0;
         if (existed ? !MayReplace(*target, old) : errno != ENOENT)
             return false;
-        TemporaryFile::RemoveLeftovers(*target);
         auto file = TemporaryFile::Beside(*target, existed ? PrivateMode : NewFileMode);
         return file && posix::WriteAll(file->Get(), bytes) && (!existed || TakeOver(file->Get(), old)) &&
                posix::Flush(file->Get()) && file->MoveOver(*target);
@@ -140,7 +139,6 @@ public:
         const auto source = ReadPlainFile(from);
         if (!source)
             return false;
-        TemporaryFile::RemoveLeftovers(to);
         auto file = TemporaryFile::Beside(to, source->State.st_mode & CopyMode);
         return file && posix::WriteAll(file->Get(), source->Bytes) && posix::Flush(file->Get()) &&
                file->MoveToNew(to);

@@ -3,9 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <dirent.h>
 #include <fcntl.h>
-#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -14,28 +12,27 @@
 namespace gfc::platform::posix {
 namespace {
 
-// ".gfc-save-<name>-<process><attempt>": hidden, and of one length for each name, so that it is taken for no
-// other's.
+// ".gfc-save-<name>-<number>": hidden, and with two digits for each name, so that it is taken for no other's.
+// Each writer takes the lowest number that it gets, and so comes past what a dead one left without a look
+// through the folder, which holds a file for each station.
 constexpr std::string_view Mark = ".gfc-save-";
-constexpr std::size_t SuffixLength = 10;
-constexpr std::size_t LongestName = 200; // leaves room for mark and suffix within a name's 255 bytes
-constexpr unsigned Attempts = 256;
+constexpr std::size_t LongestName = 200; // leaves room for mark and number within a name's 255 bytes
+constexpr unsigned Numbers = 256;
 
-struct Split {
-    std::string Folder; // ends with the separator; empty for the working folder
-    std::string Prefix;
-};
-
-Split SplitTarget(const std::string& target) {
-    const auto separator = target.rfind('/');
-    const auto nameAt = separator == std::string::npos ? 0 : separator + 1;
-    return {target.substr(0, nameAt), std::string(Mark) + target.substr(nameAt, LongestName) + "-"};
+// Of a path; ends with the separator, and is empty for the working folder.
+std::string FolderOf(const std::string& path) {
+    return path.substr(0, path.rfind('/') + 1); // npos + 1 is 0
 }
 
-std::string Suffix(unsigned attempt) {
-    std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), "%08x%02x", static_cast<unsigned>(::getpid()), attempt & 0xFFu);
-    return text.data();
+std::string StemFor(const std::string& target) {
+    const std::string folder = FolderOf(target);
+    return folder + std::string(Mark) + target.substr(folder.size(), LongestName) + "-";
+}
+
+std::string Numbered(const std::string& stem, unsigned number) {
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "%02x", number & 0xFFu);
+    return stem + text.data();
 }
 
 bool TryLock(int fd) {
@@ -43,9 +40,9 @@ bool TryLock(int fd) {
 }
 
 // Between its making and its locking another process may have taken the file for a leftover.
-bool StillThere(int fd) {
+bool WasRemoved(int fd) {
     struct stat state {};
-    return ::fstat(fd, &state) == 0 && state.st_nlink > 0;
+    return ::fstat(fd, &state) == 0 && state.st_nlink == 0;
 }
 
 bool FlushFolder(const std::string& folder) {
@@ -66,41 +63,55 @@ bool IsFree(const std::string& path) {
     return ::lstat(path.c_str(), &state) != 0 && errno == ENOENT;
 }
 
-// Before it was locked its writer may have put it in its place and begun another one under the same name.
-void RemoveIfDead(const std::string& path) {
+// False if there is none. Before it was locked its writer may have put it in its place and begun another one
+// under the same name.
+bool RemoveIfDead(const std::string& path) {
     const Descriptor file = Open(path.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK);
-    if (file && TryLock(file.Get()) && Names(path, file.Get()))
+    if (!file)
+        return errno != ENOENT;
+    if (TryLock(file.Get()) && Names(path, file.Get()))
         ::unlink(path.c_str());
+    return true;
+}
+
+// Up to the first number that is free.
+void RemoveDeadBehind(const std::string& stem, unsigned number) {
+    do
+        ++number;
+    while (number < Numbers && RemoveIfDead(Numbered(stem, number)));
+}
+
+Descriptor MakeNew(const std::string& path, unsigned mode) {
+    return Open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+}
+
+Descriptor MakeNewOrOverDead(const std::string& path, unsigned mode) {
+    Descriptor file = MakeNew(path, mode);
+    if (!file && errno == EEXIST) {
+        RemoveIfDead(path);
+        file = MakeNew(path, mode);
+    }
+    return file;
 }
 
 } // namespace
 
 std::optional<TemporaryFile> TemporaryFile::Beside(const std::string& target, unsigned mode) {
-    const Split split = SplitTarget(target);
-    for (unsigned attempt = 0; attempt < Attempts; ++attempt) {
-        std::string path = split.Folder + split.Prefix + Suffix(attempt);
-        Descriptor file = Open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+    const std::string stem = StemFor(target);
+    for (unsigned number = 0; number < Numbers; ++number) {
+        std::string path = Numbered(stem, number);
+        Descriptor file = MakeNewOrOverDead(path, mode);
         if (!file && errno != EEXIST)
             return std::nullopt;
-        if (!file)
-            continue;
-        TemporaryFile made(std::move(path), std::move(file));
         // A file system without locks gives no lock; the file serves all the same.
-        if ((TryLock(made.Get()) || errno != EWOULDBLOCK) && StillThere(made.Get()))
-            return made;
+        const bool own = file && (TryLock(file.Get()) || errno != EWOULDBLOCK) && !WasRemoved(file.Get());
+        // One that somebody has locked first is taken away by him, and its name may be another's by now.
+        if (!own)
+            continue;
+        RemoveDeadBehind(stem, number);
+        return TemporaryFile(std::move(path), std::move(file));
     }
     return std::nullopt;
-}
-
-void TemporaryFile::RemoveLeftovers(const std::string& target) {
-    const Split split = SplitTarget(target);
-    const std::unique_ptr<DIR, int (*)(DIR*)> folder(
-        ::opendir(split.Folder.empty() ? "." : split.Folder.c_str()), ::closedir);
-    while (const dirent* entry = folder ? ::readdir(folder.get()) : nullptr) {
-        const std::string_view name = entry->d_name;
-        if (name.size() == split.Prefix.size() + SuffixLength && name.starts_with(split.Prefix))
-            RemoveIfDead(split.Folder + entry->d_name);
-    }
 }
 
 TemporaryFile::TemporaryFile(TemporaryFile&& other) noexcept
@@ -112,13 +123,13 @@ TemporaryFile::~TemporaryFile() {
 }
 
 bool TemporaryFile::MoveOver(const std::string& target) {
-    return Rename(target) && file_.Close() && FlushFolder(SplitTarget(target).Folder);
+    return Rename(target) && file_.Close() && FlushFolder(FolderOf(target));
 }
 
 bool TemporaryFile::MoveToNew(const std::string& target) {
     if (!TakeFreeName(target))
         return false;
-    if (file_.Close() && FlushFolder(SplitTarget(target).Folder))
+    if (file_.Close() && FlushFolder(FolderOf(target)))
         return true;
     // Who is told of a failure must not find the file there.
     ::unlink(target.c_str());

@@ -12,10 +12,8 @@ namespace gfc::platform::posix {
 // It removes itself unless it was put in its place.
 class TemporaryFile {
 public:
-    // Nothing if the target's folder takes no file.
+    // Nothing if the target's folder takes no file. What dead writers left beside the target is removed.
     [[nodiscard]] static std::optional<TemporaryFile> Beside(const std::string& target, unsigned mode);
-    // Removes what dead writers left behind beside the target.
-    static void RemoveLeftovers(const std::string& target);
 
     TemporaryFile(TemporaryFile&& other) noexcept;
     TemporaryFile& operator=(TemporaryFile&&) = delete;
