@@ -4,11 +4,14 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace gfc::test {
@@ -27,6 +30,26 @@ TEST_F(Fields, ask_about_each_character_that_is_pasted) {
     EXPECT_EQ(Form->number.Text(), "123");
     EXPECT_EQ(field.text(), "123");
     EXPECT_THAT(Form->Log, ElementsAre("key 49", "key 97", "key 50", "key 98", "key 51"));
+}
+
+TEST_F(Fields, ask_about_each_character_that_their_menu_pastes) {
+    QApplication::clipboard()->setText("1a2");
+    auto& field = Widget<QLineEdit>("number");
+    field.setFocus();
+    QTimer::singleShot(0, [] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* action : menu->actions())
+            if (action->text().contains("Paste"))
+                return QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+        ADD_FAILURE() << "no paste in the menu";
+        menu->close();
+    });
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QCoreApplication::sendEvent(&field, &asked);
+    EXPECT_EQ(Form->number.Text(), "12") << "pasted once, and not past the form";
+    EXPECT_EQ(field.text(), "12");
+    EXPECT_THAT(Form->Log, ElementsAre("key 49", "key 97", "key 50"));
 }
 
 TEST_F(Fields, ask_about_what_an_input_method_composes) {

@@ -94,7 +94,7 @@ TEST_F(HelpWindows, open_from_the_help_button_of_a_box_and_leave_it_open) {
 }
 
 // A screen reader that still knew the button would ask what has gone.
-TEST_F(HelpWindows, are_forgotten_by_screen_readers_with_their_box) {
+TEST_F(HelpWindows, leave_screen_readers_no_button_of_a_box_that_has_gone) {
     QAccessible::Id known = 0;
     InModal([&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

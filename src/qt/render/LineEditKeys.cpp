@@ -78,9 +78,12 @@ bool LineEditKeys::Compose(QInputMethodEvent& event) {
 
 bool LineEditKeys::ShowMenu(const QContextMenuEvent& event) {
     const std::unique_ptr<QMenu> menu(line_.createStandardContextMenu());
-    if (auto* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste")); paste != nullptr) {
-        QObject::disconnect(paste, &QAction::triggered, nullptr, nullptr);
-        QObject::connect(paste, &QAction::triggered, this,
+    // The toolkit gives the action no name; its text it has everywhere.
+    for (QAction* action : menu->actions()) {
+        if (!action->text().startsWith(QLineEdit::tr("&Paste")))
+            continue;
+        QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+        QObject::connect(action, &QAction::triggered, this,
                          [this] { Paste(QGuiApplication::clipboard()->text()); });
     }
     menu->exec(event.globalPos());
