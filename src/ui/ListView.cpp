@@ -5,8 +5,9 @@
 
 namespace gfc::ui {
 
-void ListView::AddColumn(std::string heading, int width) {
-    columns_.push_back({std::move(heading), width});
+void ListView::AddColumns(std::vector<Column> columns) {
+    columns_.insert(columns_.end(), std::make_move_iterator(columns.begin()),
+                    std::make_move_iterator(columns.end()));
     Changed();
     if (observer_ != nullptr)
         observer_->RowsReset();

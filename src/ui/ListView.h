@@ -29,7 +29,8 @@ public:
     ListView(Place place, std::string name) : Control(place, Kind::ListView, std::move(name)) {}
 
     [[nodiscard]] const std::vector<Column>& Columns() const { return columns_; }
-    void AddColumn(std::string heading, int width = 0);
+    // All at once: a window lays its table out anew for each call.
+    void AddColumns(std::vector<Column> columns);
     void ClearColumns();
 
     [[nodiscard]] int Count() const { return static_cast<int>(rows_.size()); }

@@ -45,7 +45,7 @@ TEST_F(Lists, keep_the_rules_of_a_model_while_they_grow) {
     Form->rows.SetCell(1, 1, "other");
     Form->rows.ClearRows();
     Form->rows.ClearColumns();
-    Form->rows.AddColumn("Only");
+    Form->rows.AddColumns({{"Only"}});
     Form->rows.AddRow({"1"});
     Form->tree.Add(1, "late", "Late");
     Form->tree.SetText(2, "Renamed");

@@ -32,8 +32,7 @@ void ProbeForm::Fill() {
     const int root = tree.Add(0, "root", "Root", "Carpeta", "CarpetaOpen");
     const int branch = tree.Add(root, "branch", "Branch", "StationConfig");
     tree.Add(branch, "leaf", "Leaf", "Run");
-    rows.AddColumn("Number", 4);
-    rows.AddColumn("Name");
+    rows.AddColumns({{"Number", 4}, {"Name"}});
     rows.AddRows({{"1", "first"}, {"2", "second"}, {"3", "third"}});
     fixedPane.SetHeadersNavigate(false);
 }

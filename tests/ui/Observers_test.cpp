@@ -67,7 +67,7 @@ protected:
 TEST_F(Observers, of_a_list_are_told_of_its_rows_one_by_one) {
     ui::ListView& list = panel_->List;
     list.SetRowsObserver(&window_);
-    list.AddColumn("Tag");
+    list.AddColumns({{"Tag"}, {"Type", 9}});
     EXPECT_EQ(window_.Taken(), Told{"reset"});
     list.AddRow({"a"});
     list.AddRows({{"b"}, {"c"}, {"d"}});

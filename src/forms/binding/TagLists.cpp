@@ -27,10 +27,7 @@ ui::ListView::Row RowOf(const project::Tag& tag, int number) {
 void HeadTagList(ui::ListView& list, std::string_view heading) {
     list.ClearRows();
     list.ClearColumns();
-    list.AddColumn(std::string(heading), 12);
-    list.AddColumn("Tag Name");
-    list.AddColumn("Tag Type", 9);
-    list.AddColumn("Register Num.", 14);
+    list.AddColumns({{std::string(heading), 12}, {"Tag Name"}, {"Tag Type", 9}, {"Register Num.", 14}});
 }
 
 void FillTagList(ui::ListView& list, const project::TagList& tags, int rowOffset) {

@@ -113,10 +113,12 @@ void GFCPrincipal::AddRunNode(int parent, const std::string& station, int run, b
 
 // One row per station, in step with the tree's nodes.
 void GFCPrincipal::FillStationTable() {
-    ListView1.AddColumn("N\xC2\xB0", 4);
-    for (const char* heading :
-         {"Configured as FC", "Station Name", "Station Type", "IP Address", "Serial Number"})
-        ListView1.AddColumn(heading);
+    ListView1.AddColumns({{"N\xC2\xB0", 4},
+                          {"Configured as FC"},
+                          {"Station Name"},
+                          {"Station Type"},
+                          {"IP Address"},
+                          {"Serial Number"}});
     const auto& nodes = TreeGFC.At(1).Children;
     const auto& stations = session_.Project.Stations;
     std::vector<ui::ListView::Row> rows;

@@ -77,8 +77,10 @@ void SummaryTabs::Show(SummaryPage page) {
     ui::ListView* const list = lists[static_cast<std::size_t>(page.List)];
     if (list == nullptr)
         return;
-    for (std::size_t i = 0; i < page.Columns.size(); ++i)
-        list->AddColumn(page.Columns[i], i == 0 ? numberColumnWidth : 0);
+    std::vector<ui::ListView::Column> columns;
+    for (const std::string& heading : page.Columns)
+        columns.push_back({heading, columns.empty() ? numberColumnWidth : 0});
+    list->AddColumns(std::move(columns));
     list->AddRows(std::move(page.Rows));
     list->SetVisible(true);
 }
