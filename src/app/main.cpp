@@ -1,4 +1,5 @@
 #include "app/Application.h"
+#include "forms/program/StartUp.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
 
@@ -30,5 +31,9 @@ int main(int argc, char* argv[]) {
         return seams.Launcher.OpenTextFile(path);
     });
     gfc::app::Application program(seams, screen);
-    return program.Start(gfc::platform::LoadLibraryAt) ? screen.Run() : EXIT_FAILURE;
+    if (!program.Start(gfc::platform::LoadLibraryAt))
+        return EXIT_FAILURE;
+    // The loading window stands for two seconds, in which there is nothing else to do.
+    screen.MakeReady(gfc::forms::FormsToCome(*program.Program()));
+    return screen.Run();
 }

@@ -28,6 +28,7 @@ const Design* DesignOf(const std::string& form) {
 
 FormWindow::FormWindow(ui::Form& form, const Design* design)
     : form_(&form), held_(form.KeepAlive()), gate_(std::make_unique<FocusGate>(*this, form)) {
+    BindTimers();
     SetUpContent(design == nullptr ? DesignOf(form.Name()) : design);
     Bind();
     NameForReaders();
@@ -59,17 +60,26 @@ void FormWindow::SetUpContent(const Design* design) {
     setWindowIcon(IconNamed("App"));
 }
 
+// The time of a timer that the form has started runs while the window is being made.
+void FormWindow::BindTimers() {
+    for (ui::Control* control : form_->Controls())
+        if (control->TheKind() == ui::Kind::Timer)
+            BindControl(*control, nullptr);
+    RefreshAll();
+}
+
 void FormWindow::Bind() {
     for (ui::Control* control : form_->Controls())
-        BindControl(*control);
+        if (control->TheKind() != ui::Kind::Timer)
+            BindControl(*control, WidgetNamed(control->Name()));
     RefreshAll();
     form_->SetObserver(this);
     FormChanged();
     content_->installEventFilter(this);
 }
 
-void FormWindow::BindControl(ui::Control& control) {
-    auto renderer = MakeRenderer(*this, control, WidgetNamed(control.Name()));
+void FormWindow::BindControl(ui::Control& control, QWidget* widget) {
+    auto renderer = MakeRenderer(*this, control, widget);
     if (renderer == nullptr) {
         qWarning("%s has no fitting widget for %s", form_->Name().c_str(), control.Name().c_str());
         return;

@@ -88,8 +88,10 @@ private:
     void FocusMoved(ui::Control& control) override;
 
     void SetUpContent(const Design* design);
+    void BindTimers();
     void Bind();
-    void BindControl(ui::Control& control);
+    // The widget that shows it; null for what has none.
+    void BindControl(ui::Control& control, QWidget* widget);
     void NameForReaders();
     void SetUpKeys();
     void SetUpFinding();

@@ -8,6 +8,9 @@
 #include <QDeadlineTimer>
 #include <QDialog>
 #include <QEventLoop>
+#include <QFont>
+#include <QPainter>
+#include <QPixmap>
 #include <QTimer>
 
 #include <algorithm>
@@ -15,7 +18,29 @@
 
 namespace gfc::qt {
 
-QtScreen::QtScreen(Viewer viewer) : viewer_(std::move(viewer)) {}
+namespace {
+
+// The toolkit reads a font and draws its letters when they are first asked for. The headings of tables are
+// measured in bold, whether they are shown so or not.
+void LoadLetters() {
+    QString letters;
+    for (char16_t letter = u' '; letter <= u'~'; ++letter)
+        letters += QChar(letter);
+    QPixmap unseen(1, 1);
+    QPainter painter(&unseen);
+    QFont font = QApplication::font();
+    for (const bool bold : {false, true}) {
+        font.setBold(bold);
+        painter.setFont(font);
+        painter.drawText(0, 0, letters);
+    }
+}
+
+} // namespace
+
+QtScreen::QtScreen(Viewer viewer) : viewer_(std::move(viewer)) {
+    idle_.callOnTimeout([this] { MakeNextReady(); });
+}
 
 QtScreen::~QtScreen() {
     for (const auto& [form, window] : windows_)
@@ -46,6 +71,22 @@ FormWindow& QtScreen::WindowFor(ui::Form& form) {
                                     [&form](const Design& design) { return design.Form == form.Name(); });
     window = new FormWindow(form, given == designs_.end() ? nullptr : &*given);
     return *window;
+}
+
+void QtScreen::MakeReady(const std::vector<ui::Form*>& forms) {
+    for (ui::Form* form : forms)
+        toCome_.push_back(form->KeepAlive());
+    QTimer::singleShot(0, &idle_, LoadLetters);
+    idle_.start(0);
+}
+
+void QtScreen::MakeNextReady() {
+    if (toCome_.empty() || ended_)
+        return idle_.stop();
+    const auto form = toCome_.front().lock();
+    toCome_.pop_front();
+    if (form != nullptr && WindowOf(*form) == nullptr)
+        (void)WindowFor(*form).grab();
 }
 
 void QtScreen::ShowWindow(ui::Form& form, bool modal) {

@@ -3,6 +3,7 @@
 // leaves a picture of every window.
 
 #include "app/Application.h"
+#include "forms/program/StartUp.h"
 #include "platform/DynamicLibrary.h"
 #include "qt/support/Offscreen.h"
 #include "scenarios/Moves.h"
@@ -139,6 +140,7 @@ int Play(const QDir& folder) {
     Tell(screen.TheStory, folder);
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;
+    screen.MakeReady(forms::FormsToCome(*program.Program()));
     screen.RunToEnd();
     const bool whole = screen.TheStory.Done() && !::testing::Test::HasFailure();
     Print(QStringLiteral("%1 pictures in %2").arg(screen.Pictures()).arg(folder.absolutePath()));

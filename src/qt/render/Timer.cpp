@@ -13,6 +13,7 @@ class TimerRenderer final : public Renderer {
 public:
     TimerRenderer(FormWindow& window, ui::Timer& control)
         : Renderer(window), control_(control), timer_(*new QTimer(&window)) {
+        timer_.setTimerType(Qt::PreciseTimer);
         timer_.setObjectName(ToQt(control.Name()));
         QObject::connect(&timer_, &QTimer::timeout, this,
                          [this] { window_.Act(*this, [this] { control_.Tick(); }); });

@@ -4,6 +4,7 @@
 #include "forms/program/formInicio.h"
 #include "support/World.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -48,6 +49,18 @@ TEST_F(StartUp, shows_splash_identity_and_main_window_in_that_order) {
     EXPECT_EQ(Screen.FormNamed("formInicio"), nullptr);
     EXPECT_EQ(Screen.FormNamed("UserIDForm"), nullptr);
     EXPECT_FALSE(Screen.Ended());
+}
+
+TEST_F(StartUp, knows_the_forms_to_come_without_loading_them) {
+    forms::StartProgram(Program);
+    Names names;
+    for (const ui::Form* form : forms::FormsToCome(Program)) {
+        names.push_back(form->Name());
+        EXPECT_FALSE(form->IsLoaded());
+    }
+    EXPECT_EQ(names, (Names{"UserIDForm", "GFCPrincipal"}));
+    EXPECT_EQ(Screen.FormsShown, Names{"formInicio"});
+    EXPECT_THAT(Library.Calls, testing::IsEmpty());
 }
 
 TEST_F(StartUp, splash_waits_two_seconds_and_says_that_it_loads) {
