@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 #include <functional>
 #include <string>
+#include <vector>
 
 // The benchmarks are contests: in each row of the table the program and those it is measured against do the
 // same work, at one, ten and a hundred times the row's size.
@@ -21,8 +22,15 @@ enum class Pace {
     Once,  // long ones, and those that time themselves: one iteration for each figure
 };
 
-// Its figures go by the name "row/contender/scale". The rows stand in Rows.cpp.
+// Its figures go by the name "row/contender/scale". The rows of the tables stand in Table.cpp.
 void Contest(const std::string& row, const std::string& contender, Work work, Pace pace = Pace::Often);
+
+struct Entry {
+    std::string Row;
+    std::string Contender;
+};
+// All contests, in the order in which they were made.
+[[nodiscard]] const std::vector<Entry>& Entries();
 
 // The figure of this iteration in place of the clock's, in seconds; for works of Pace::Once alone.
 void TakeSeconds(benchmark::State& state, double seconds);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <sstream>
+#include <utility>
 
 namespace gfc::bench {
 
@@ -18,12 +19,12 @@ double MedianOf(std::vector<double> figures) {
 
 } // namespace
 
+void Figures::Enter(const std::string& row, const std::string& contender) {
+    rows_[row].push_back({contender, {}});
+}
+
 void Figures::Add(const std::string& row, const std::string& contender, int scale, double figure) {
-    auto& contenders = rows_[row];
-    auto found = std::ranges::find(contenders, contender, &Contender::Name);
-    if (found == contenders.end())
-        found = contenders.insert(contenders.end(), {contender, {}});
-    found->AtScale[scale].push_back(figure);
+    std::ranges::find(rows_.at(row), contender, &Contender::Name)->AtScale[scale].push_back(figure);
 }
 
 std::optional<double> Figures::Median(const std::string& row, const std::string& contender, int scale) const {
@@ -54,6 +55,10 @@ std::vector<std::string> Figures::Contenders(const std::string& row) const {
         for (const Contender& contender : found->second)
             names.push_back(contender.Name);
     return names;
+}
+
+bool Collector::ReportContext(const Context& context) {
+    return std::exchange(told_, true) || ConsoleReporter::ReportContext(context);
 }
 
 void Collector::ReportRuns(const std::vector<Run>& runs) {

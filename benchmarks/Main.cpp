@@ -3,9 +3,12 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -14,6 +17,7 @@ using namespace gfc::bench;
 struct Options {
     std::string Document; // gets the tables; none if empty
     BuildTimes Times;
+    std::vector<std::string> Rows; // all if empty
 };
 
 // Takes its own arguments out of the list; the rest is the library's.
@@ -29,6 +33,8 @@ Options TakeOptions(int& argc, char** argv) {
             options.Times.CleanBuild = std::atof(value.c_str());
         else if (argument.starts_with("--suite="))
             options.Times.Suite = std::atof(value.c_str());
+        else if (!argument.starts_with('-'))
+            options.Rows.emplace_back(argument);
         else
             argv[kept++] = argv[i];
     }
@@ -36,20 +42,67 @@ Options TakeOptions(int& argc, char** argv) {
     return options;
 }
 
+// The contenders of a row take turns, one figure each in an order drawn by lot, so that a machine that is
+// slow for a moment is slow for all of them. The rows follow each other: large ones leave a process that
+// others would feel.
+void Run(const std::string& row, Collector& collector) {
+    for (const int scale : Scales)
+        benchmark::RunSpecifiedBenchmarks(&collector, "^" + row + "/[^/]*/" + std::to_string(scale) + "/");
+}
+
+// False, once it has said so, for options that the library does not know.
+bool Initialize(int argc, char** argv) {
+    std::vector<char*> arguments(argv, argv + argc);
+    std::string turns = "--benchmark_enable_random_interleaving=true";
+    arguments.insert(arguments.begin() + 1, turns.data());
+    int count = argc + 1;
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    return !benchmark::ReportUnrecognizedArguments(count, arguments.data());
+}
+
+// In the order in which their contests were made.
+std::vector<std::string> AllRows() {
+    std::vector<std::string> rows;
+    for (const Entry& entry : Entries())
+        if (rows.empty() || rows.back() != entry.Row)
+            rows.push_back(entry.Row);
+    return rows;
+}
+
+// Those that are asked for; none, once it has said so, if one of them is not there.
+std::vector<std::string> ChooseRows(const std::vector<std::string>& wanted) {
+    const std::vector<std::string> all = AllRows();
+    for (const std::string& row : wanted) {
+        if (std::ranges::find(all, row) != all.end())
+            continue;
+        std::cerr << "There is no row \"" << row << "\". The rows are:\n";
+        for (const std::string& there : all)
+            std::cerr << "  " << there << "\n";
+        return {};
+    }
+    return wanted.empty() ? all : wanted;
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
     const Options options = TakeOptions(argc, argv);
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+    if (!Initialize(argc, argv))
         return EXIT_FAILURE;
     for (auto* contest :
          {ContestKeys, ContestStations, ContestTree, ContestTags, ContestWindows, ContestProcesses})
         contest();
+    const std::vector<std::string> rows = ChooseRows(options.Rows);
+    if (rows.empty())
+        return EXIT_FAILURE;
     Figures figures;
+    for (const Entry& entry : Entries())
+        figures.Enter(entry.Row, entry.Contender);
     Collector collector(figures);
-    benchmark::RunSpecifiedBenchmarks(&collector);
+    for (const std::string& row : rows)
+        Run(row, collector);
     const std::string tables = TablesOf(figures, options.Times);
     std::cout << "\n" << tables;
     if (options.Document.empty() || PutBetweenMarks(options.Document, tables))

@@ -3,6 +3,7 @@
 #include "Shown.h"
 #include "app/Application.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/StartUp.h"
 #include "forms/program/UserIDForm.h"
 #include "forms/program/formInicio.h"
 #include "qt/Icons.h"
@@ -10,20 +11,26 @@
 
 #include <QApplication>
 #include <QStyleFactory>
+#include <QTimer>
+
+#include <chrono>
 
 namespace {
 
 using namespace gfc;
 
-// Does at once what is waited for.
+// Cuts the splash's wait short once there is nothing else to do in it, and leaves the wait out.
 class HastyScreen : public qt::QtScreen {
 public:
     void Appear(ui::Form& form) override {
+        // Its timer starts as its window begins to be made.
+        if (auto* splash = dynamic_cast<forms::formInicio*>(&form); splash != nullptr) {
+            splash_ = splash;
+            begin_ = std::chrono::steady_clock::now();
+        }
         QtScreen::Appear(form);
-        if (auto* splash = dynamic_cast<forms::formInicio*>(&form))
-            QTimer::singleShot(0, [splash] { splash->timerInicio.Tick(); });
-        else if (dynamic_cast<forms::GFCPrincipal*>(&form) != nullptr)
-            bench::EndOnceShown();
+        if (dynamic_cast<forms::GFCPrincipal*>(&form) != nullptr)
+            bench::EndOnceShown(waited_);
     }
     void RunModal(ui::Form& form) override {
         if (auto* user = dynamic_cast<forms::UserIDForm*>(&form))
@@ -33,6 +40,24 @@ public:
             });
         QtScreen::RunModal(form);
     }
+
+    // To be called once all is known that is to be made ready.
+    void CutTheWaitShort() {
+        ready_.callOnTimeout([this] {
+            if (!AllReady())
+                return;
+            ready_.stop();
+            waited_ = std::chrono::steady_clock::now() - begin_;
+            splash_->timerInicio.Tick();
+        });
+        ready_.start(0);
+    }
+
+private:
+    forms::formInicio* splash_ = nullptr;
+    std::chrono::steady_clock::time_point begin_;
+    QTimer ready_;
+    std::chrono::duration<double> waited_ = {};
 };
 
 } // namespace
@@ -45,5 +70,9 @@ int main(int argc, char* argv[]) {
     platform::RealMachine machine;
     HastyScreen screen;
     app::Application program(machine.Seams(), screen);
-    return program.Start(platform::LoadLibraryAt) ? screen.Run() : EXIT_FAILURE;
+    if (!program.Start(platform::LoadLibraryAt))
+        return EXIT_FAILURE;
+    screen.MakeReady(forms::FormsToCome(*program.Program()));
+    screen.CutTheWaitShort();
+    return screen.Run();
 }
