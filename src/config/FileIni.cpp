@@ -74,10 +74,20 @@ bool IsMissing(std::string_view value) {
     return value.data() == nullptr;
 }
 
-void PutInPlaces(std::span<const std::string_view> values, std::span<std::string* const> places) {
-    for (std::size_t key = 0; key < values.size(); ++key)
-        if (places[key] != nullptr)
-            services::AssignFromCodePage(*places[key], values[key]);
+// All lines are looked through for letters that need a conversion at once, and not each value for itself.
+// Texts go into the memory that is there.
+void PutInPlaces(const platform::ProfileKeys::Reading& reading, std::span<std::string* const> places) {
+    const bool plain = services::IsPlain(reading.Lines);
+    for (std::size_t key = 0; key < reading.Values.size(); ++key) {
+        if (places[key] == nullptr)
+            continue;
+        if (plain) {
+            places[key]->clear();
+            places[key]->append(reading.Values[key]);
+        } else {
+            services::AssignFromCodePage(*places[key], reading.Values[key]);
+        }
+    }
 }
 
 } // namespace
@@ -126,9 +136,9 @@ void FileIni::ReadKeys(std::string_view section, const platform::ProfileKeys& ke
     const FileBatch* batch = OpenBatch(file);
     const auto single = batch || file.empty() ? std::nullopt : platform::ProfileFile::Open(files_, file);
     const auto& profile = batch ? batch->profile_ : single;
-    const auto values = keys.Read(profile ? std::string_view(profile->Profile().Bytes()) : std::string_view(),
-                                  NameBytes(section));
-    PutInPlaces(values, places);
+    const std::string_view bytes =
+        profile ? std::string_view(profile->Profile().Bytes()) : std::string_view();
+    PutInPlaces(keys.Read(bytes, NameBytes(section)), places);
 }
 
 bool FileIni::ReadFirstKeys(std::string_view section, const platform::ProfileKeys& keys,
@@ -139,10 +149,10 @@ bool FileIni::ReadFirstKeys(std::string_view section, const platform::ProfileKey
         const bool whole = !start || start->size() < enough;
         // The last line of a part may be cut.
         const std::string_view bytes = start ? std::string_view(*start) : std::string_view();
-        const auto values =
+        const auto reading =
             keys.Read(whole ? bytes : bytes.substr(0, bytes.rfind('\n') + 1), NameBytes(section));
-        if (whole || std::ranges::none_of(values, IsMissing)) {
-            PutInPlaces(values, places);
+        if (whole || std::ranges::none_of(reading.Values, IsMissing)) {
+            PutInPlaces(reading, places);
             return start || files_.Exists(file);
         }
     }

@@ -13,9 +13,12 @@ void RunArrays::PrepareWholeStation(int activeRuns) {
 }
 
 void RunArrays::PrepareSingleRun() {
-    IO.assign(1, {});
-    Gas.assign(1, {});
-    Mechanical.assign(1, {});
+    static const RunIO io;
+    static const RunGas gas;
+    static const RunMechanical mechanical;
+    IO.assign(1, io);
+    Gas.assign(1, gas);
+    Mechanical.assign(1, mechanical);
 }
 
 void ResetStationConfig(StationConfig& station) {

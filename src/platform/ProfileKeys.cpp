@@ -15,15 +15,20 @@ public:
 
     [[nodiscard]] bool Complete() const { return found_ == values_.size(); }
 
-    // A file that was written from a table bears the keys in the table's order, so that the one behind the
-    // last is tried before the name is looked for.
-    void Take(const profile::SectionLines& line) {
+    // Takes the next line; false where none is left. A file that was written from a table bears the keys in
+    // the table's order, so that the one behind the last is tried before the name is looked for.
+    bool Take(profile::SectionLines& lines) {
         if (next_ < values_.size() && values_[next_].data() == nullptr)
-            if (const auto value = line.ValueOf(names_[next_]))
-                return Put(next_, *value);
-        if (const auto entry = line.AsEntry())
+            if (const auto value = lines.NextValueOf(names_[next_])) {
+                Put(next_, *value);
+                return true;
+            }
+        if (!lines.Next())
+            return false;
+        if (const auto entry = lines.AsEntry())
             if (const auto key = names_.Find(entry->Key))
                 Put(*key, entry->Value);
+        return true;
     }
 
     [[nodiscard]] std::vector<std::string_view> Release() { return std::move(values_); }
@@ -49,12 +54,15 @@ private:
 ProfileKeys::ProfileKeys(std::vector<std::string> names)
     : names_(std::move(names)), table_({names_.begin(), names_.end()}) {}
 
-std::vector<std::string_view> ProfileKeys::Read(std::string_view bytes, std::string_view section) const {
+ProfileKeys::Reading ProfileKeys::Read(std::string_view bytes, std::string_view section) const {
     Values values(table_);
-    if (const auto header = profile::FindHeader(bytes, profile::CallName(section)))
-        for (profile::SectionLines lines(bytes, *header); !values.Complete() && lines.Next();)
-            values.Take(lines);
-    return values.Release();
+    const auto header = profile::FindHeader(bytes, profile::CallName(section));
+    if (!header)
+        return {values.Release(), {}};
+    profile::SectionLines lines(bytes, *header);
+    while (!values.Complete() && values.Take(lines)) {
+    }
+    return {values.Release(), bytes.substr(*header, lines.End() - *header)};
 }
 
 } // namespace gfc::platform

@@ -22,9 +22,14 @@ public:
 
     [[nodiscard]] std::size_t Count() const { return names_.size(); }
 
-    // The value of each key in a profile of these bytes as Profile::Read gives it, empty where the key is
-    // missing. The values are parts of the bytes; that of a missing key is none, its data is null.
-    [[nodiscard]] std::vector<std::string_view> Read(std::string_view bytes, std::string_view section) const;
+    struct Reading {
+        // Of each key as Profile::Read gives it, empty where the key is missing; the data of that one is
+        // null.
+        std::vector<std::string_view> Values;
+        std::string_view Lines; // those that were gone through: the values are parts of them
+    };
+    // From a profile of these bytes, which must be there as long as the reading.
+    [[nodiscard]] Reading Read(std::string_view bytes, std::string_view section) const;
 
 private:
     std::vector<std::string> names_;

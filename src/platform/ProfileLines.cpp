@@ -9,27 +9,8 @@ namespace {
 
 constexpr auto npos = std::string_view::npos;
 
-constexpr bool IsWhite(char byte) {
-    return byte == ' ' || byte == '\t' || byte == '\v';
-}
-
 constexpr bool IsBlank(char byte) {
     return byte == ' ';
-}
-
-template <bool IsDropped(char)>
-constexpr std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && IsDropped(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && IsDropped(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
-constexpr std::string_view WithoutBreak(std::string_view line) {
-    while (line.ends_with('\n') || line.ends_with('\r'))
-        line.remove_suffix(1);
-    return line;
 }
 
 // A name ends at the first closing bracket; one that is never closed takes the whole line.
@@ -45,25 +26,10 @@ std::optional<std::size_t> StartOfLine(std::string_view bytes, std::size_t at) {
     return at == 0 || bytes[at - 1] == '\n' ? std::optional(at) : std::nullopt;
 }
 
-constexpr std::string_view WithoutQuotes(std::string_view value) {
-    const bool quoted =
-        value.size() >= 2 && value.front() == value.back() && (value.front() == '"' || value.front() == '\'');
-    return quoted ? value.substr(1, value.size() - 2) : value;
-}
-
-constexpr std::string_view ValueBehind(std::string_view line, std::size_t equals) {
-    return WithoutQuotes(Trimmed<IsWhite>(line.substr(equals + 1)));
-}
-
 } // namespace
 
 std::string_view CallName(std::string_view text) {
     return Trimmed<IsBlank>(text);
-}
-
-std::size_t LineEnd(std::string_view bytes, std::size_t begin) {
-    const auto found = bytes.find('\n', begin);
-    return found == npos ? bytes.size() : found + 1;
 }
 
 // From bracket to bracket, and not from line to line: there are few of them, and a file is read for each
@@ -80,19 +46,6 @@ std::optional<std::size_t> FindHeader(std::string_view bytes, std::string_view s
     return std::nullopt;
 }
 
-bool SectionLines::Next() {
-    begin_ = end_;
-    if (begin_ >= bytes_.size())
-        return false;
-    first_ = begin_;
-    while (first_ < bytes_.size() && IsWhite(bytes_[first_]))
-        ++first_;
-    if (first_ < bytes_.size() && bytes_[first_] == '[')
-        return false;
-    end_ = LineEnd(bytes_, begin_);
-    return true;
-}
-
 bool SectionLines::MayHold(std::string_view key) const {
     return key.empty() || (first_ < end_ && services::FoldByte(bytes_[first_]) == services::FoldByte(key[0]));
 }
@@ -104,14 +57,7 @@ std::optional<Entry> SectionLines::AsEntry() const {
     const auto equals = line.find('=');
     if (equals == npos)
         return std::nullopt;
-    return Entry{Trimmed<IsWhite>(line.substr(0, equals)), ValueBehind(line, equals)};
-}
-
-std::optional<std::string_view> SectionLines::ValueOf(std::string_view key) const {
-    const std::string_view line = bytes_.substr(first_, end_ - first_);
-    if (line.size() <= key.size() || line[key.size()] != '=' || !line.starts_with(key))
-        return std::nullopt;
-    return ValueBehind(WithoutBreak(line), key.size());
+    return Entry{Trimmed<IsWhite>(line.substr(0, equals)), CleanValue(line.substr(equals + 1))};
 }
 
 std::optional<Entry> FindEntry(SectionLines& lines, std::string_view key) {

@@ -10,7 +10,7 @@ using Names = std::vector<std::string>;
 
 // What a reading of all keys at once gives, which must be what one gives that asks for each by itself.
 Names ReadAll(const std::string& bytes, std::string_view section, const Names& names) {
-    const auto values = ProfileKeys(names).Read(bytes, section);
+    const auto values = ProfileKeys(names).Read(bytes, section).Values;
     Names texts(values.begin(), values.end());
     const Profile profile(bytes);
     for (std::size_t key = 0; key < names.size(); ++key)

@@ -26,7 +26,7 @@ std::string KeyIn(std::string_view text) {
 void ReadTogether(std::string_view bytes, const PlainProfile& plain, std::string_view section,
                   std::string_view text) {
     const std::vector<std::string> names = {KeyIn(text), "longer than any text of a case"};
-    const auto values = platform::ProfileKeys(names).Read(bytes, section);
+    const auto values = platform::ProfileKeys(names).Read(bytes, section).Values;
     for (std::size_t key = 0; key < names.size(); ++key)
         Require(values.at(key) == plain.Read(section, names[key]), "both read the same at once");
 }
