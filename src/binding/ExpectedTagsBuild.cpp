@@ -1,5 +1,6 @@
 #include "binding/Catalogue.h"
 #include "binding/ExpectedTags.h"
+#include "binding/RunTexts.h"
 #include "binding/TagsInUse.h"
 #include "config/Vocabulary.h"
 #include "services/Text.h"
@@ -27,11 +28,22 @@ public:
     [[nodiscard]] bool SaysYesInAnyCase(std::string_view section, std::string_view key) const {
         return services::EqualNoCase(Read(section, key), config::Yes);
     }
+    [[nodiscard]] config::TagBinding BindingOf(const VariableRow& row, std::string_view section) const {
+        return {.Tag = Read(section, row.TagKey()),
+                .Type = Read(section, CheckedTypeKey(row)),
+                .RegAddr = Read(section, row.AddressKey())};
+    }
+    // Until another run is read.
+    [[nodiscard]] const RunTexts& ReadRun(const std::string& section) {
+        run_.Read(ini_, section, file_);
+        return run_;
+    }
 
 private:
     const config::FileIni& ini_;
     const std::string& file_;
     config::FileBatch batch_; // all of it out of one reading of the file
+    RunTexts run_;
 };
 
 std::vector<ExpectedTag>& ListOf(TagClass tagClass, ExpectedTags& expected) {
@@ -48,18 +60,12 @@ std::vector<ExpectedTag>& ListOf(TagClass tagClass, ExpectedTags& expected) {
     return expected.ExpectedDigital;
 }
 
-// Deliberate: the type of the calorific value is taken from the relative density's key, and its own key is
-// not read.
-std::string CheckedTypeKey(const VariableRow& row) {
-    return row.Stem == "VolCalorificValueKDIO" ? "RelativeDensityKDIOType" : row.TypeKey();
-}
-
-void Add(const VariableRow& row, const std::string& section, const FileReader& reader,
+void Add(const VariableRow& row, const std::string& section, config::TagBinding binding,
          ExpectedTags& expected) {
     ExpectedTag entry;
-    entry.RegAddr = reader.Read(section, row.AddressKey());
-    entry.Tag = reader.Read(section, row.TagKey());
-    entry.Type = reader.Read(section, CheckedTypeKey(row));
+    entry.RegAddr = std::move(binding.RegAddr);
+    entry.Tag = std::move(binding.Tag);
+    entry.Type = std::move(binding.Type);
     entry.Group = row.CheckGroup();
     entry.Stem = row.ReportedStem();
     entry.Location = section;
@@ -87,14 +93,15 @@ Conditions CommonConditions(const config::StationConfig& station, const FileRead
     return conditions;
 }
 
-void AddRun(int run, Conditions conditions, const FileReader& reader, ExpectedTags& expected) {
+void AddRun(int run, Conditions conditions, FileReader& reader, ExpectedTags& expected) {
     const std::string section = "Run" + std::to_string(run);
     if (!reader.SaysYes(FlowRuns, section))
         return;
-    conditions.ExtMech = reader.SaysYes(section, "ExtMechParam");
-    conditions.ExtCorr = reader.SaysYes(section, "ExtCCorrFactors"); // in files edited by hand only
+    const RunTexts& texts = reader.ReadRun(section);
+    conditions.ExtMech = texts.ExtMechParam() == config::Yes;
+    conditions.ExtCorr = texts.ExtCCorrFactors() == config::Yes; // in files edited by hand only
     for (const VariableRow* row : CheckRows(conditions))
-        Add(*row, section, reader, expected);
+        Add(*row, section, texts.BindingOf(*row), expected);
 }
 
 bool IsConfigured(int run, const FileReader& reader) {
@@ -102,13 +109,14 @@ bool IsConfigured(int run, const FileReader& reader) {
     return reader.SaysYes(FlowRuns, flag) || reader.SaysYes(FlowRuns, flag + std::to_string(run));
 }
 
-void AddBound(int run, Conditions conditions, const FileReader& reader, ExpectedTags& bound) {
+void AddBound(int run, Conditions conditions, FileReader& reader, ExpectedTags& bound) {
     const std::string section = "Run" + std::to_string(run);
-    conditions.ExtMech = reader.SaysYesInAnyCase(section, "ExtMechParam");
+    const RunTexts& texts = reader.ReadRun(section);
+    conditions.ExtMech = services::EqualNoCase(texts.ExtMechParam(), config::Yes);
     for (const auto stage : {BindingStage::RunInputs, BindingStage::RunOutputs, BindingStage::GasInputs,
                              BindingStage::GasOutputs})
         for (const VariableRow* row : TreeRows(stage, conditions))
-            Add(*row, section, reader, bound);
+            Add(*row, section, texts.BindingOf(*row), bound);
 }
 
 ExpectedTag WorkingModule(const std::string& stem, const FileReader& reader) {
@@ -123,13 +131,13 @@ ExpectedTag WorkingModule(const std::string& stem, const FileReader& reader) {
 
 void BuildExpectedTags(const config::FileIni& ini, const std::string& file, config::StationConfig& station,
                        ExpectedTags& expected) {
-    const FileReader reader(ini, file);
+    FileReader reader(ini, file);
     expected = {};
     ReadChoices(reader, station);
     const Conditions common = CommonConditions(station, reader);
     const VariableRow& atmosphere = CommonPressureRow();
     if (atmosphere.Presence.InCheck(common))
-        Add(atmosphere, std::string(CommonSection), reader, expected);
+        Add(atmosphere, std::string(CommonSection), reader.BindingOf(atmosphere, CommonSection), expected);
     for (int run = 1; run <= config::MaxRuns; ++run)
         AddRun(run, common, reader, expected);
     expected.WorkingFloat = WorkingModule("WrkFloat", reader);
@@ -138,7 +146,7 @@ void BuildExpectedTags(const config::FileIni& ini, const std::string& file, conf
 }
 
 ExpectedTags TagsInUse(const config::FileIni& ini, const std::string& file) {
-    const FileReader reader(ini, file);
+    FileReader reader(ini, file);
     config::StationConfig station;
     ReadChoices(reader, station);
     const std::string own = station.FlowAlgorithm == config::algorithm::AGA7 ? "AGA7" : "AGA3";
@@ -146,7 +154,7 @@ ExpectedTags TagsInUse(const config::FileIni& ini, const std::string& file) {
     common.ExtAtmPress = reader.SaysYesInAnyCase(own, "ExtAtmPress");
     ExpectedTags bound;
     if (common.ExtAtmPress)
-        Add(CommonPressureRow(), own, reader, bound);
+        Add(CommonPressureRow(), own, reader.BindingOf(CommonPressureRow(), own), bound);
     for (int run = 1; run <= config::MaxRuns; ++run)
         if (IsConfigured(run, reader))
             AddBound(run, common, reader, bound);

@@ -132,6 +132,14 @@ TEST(ExpectedTags, of_a_key_that_is_missing_are_empty_texts) {
     EXPECT_EQ(entry.RegAddr + entry.Tag + entry.Type, "");
 }
 
+TEST(ExpectedTags, of_a_run_that_lacks_a_key_are_not_those_of_the_run_before) {
+    CheckedFile file(algorithm::AGA3, source::Measured);
+    file.Activate(1).Put("FlowRuns", "Run2", "Yes").Build();
+    for (const ExpectedTag& entry : file.Expected.ExpectedFloat)
+        EXPECT_EQ(entry.Tag.empty(), entry.Location == "Run2") << entry.Location << " " << entry.Caption;
+    EXPECT_THAT(file.Expected.ExpectedFloat, Contains(testing::Field(&ExpectedTag::Location, "Run2")));
+}
+
 TEST(ExpectedTags, of_AGA3_with_a_densimeter_stand_in_order) {
     CheckedFile file(algorithm::AGA3, source::Measured, "MEASURED");
     const auto& expected = file.UseAtmosphereTag().Activate(1).Build().Expected;
