@@ -81,12 +81,9 @@ void PutInPlaces(const platform::ProfileKeys::Reading& reading, std::span<std::s
     for (std::size_t key = 0; key < reading.Values.size(); ++key) {
         if (places[key] == nullptr)
             continue;
-        if (plain) {
-            places[key]->clear();
-            places[key]->append(reading.Values[key]);
-        } else {
-            services::AssignFromCodePage(*places[key], reading.Values[key]);
-        }
+        places[key]->clear();
+        if (const std::string_view value = reading.Values[key]; !value.empty())
+            plain ? void(places[key]->append(value)) : services::AssignFromCodePage(*places[key], value);
     }
 }
 

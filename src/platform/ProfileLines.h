@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -96,13 +97,14 @@ inline bool SectionLines::Next() {
 
 // The line is cut only once it is known to be the one.
 inline std::optional<std::string_view> SectionLines::NextValueOf(std::string_view key) {
-    const std::string_view rest = bytes_.substr(end_);
-    if (rest.size() <= key.size() || rest[key.size()] != '=' || !rest.starts_with(key))
+    const char* const line = bytes_.data() + end_;
+    if (bytes_.size() - end_ <= key.size() || line[key.size()] != '=' ||
+        std::memcmp(line, key.data(), key.size()) != 0)
         return std::nullopt;
     begin_ = first_ = end_;
     const std::size_t value = begin_ + key.size() + 1;
     end_ = LineEnd(bytes_, value);
-    return CleanValue(WithoutBreak(bytes_.substr(value, end_ - value)));
+    return CleanValue(WithoutBreak({bytes_.data() + value, end_ - value}));
 }
 
 // Goes on to the key's entry; nothing if the section has none. Of equal names the first one is found.
