@@ -42,7 +42,7 @@ void FormWindow::ShowAs(Qt::WindowModality modality, QWidget* owner) {
 void FormWindow::FitToScreen() {
     sized_ = true;
     const QSize room = screen()->availableGeometry().size() - QSize(20, 50);
-    const QSize bar = menuBar_ == nullptr ? QSize() : QSize(0, menuBar_->sizeHint().height());
+    const QSize bar = menuBar_ == nullptr ? QSize(0, 0) : QSize(0, menuBar_->sizeHint().height());
     // What is hidden already still counts in the hints of nested layouts.
     if (content_->layout() != nullptr)
         content_->layout()->activate();
@@ -56,7 +56,8 @@ void FormWindow::FitToScreen() {
 // What has come to view must not end in scroll bars while there is room on the screen.
 void FormWindow::GrowToContent() {
     const QSize room = screen()->availableGeometry().size() - QSize(20, 50);
-    const QSize seen = area_->viewport()->size();
+    // Without the scroll bars, which a first layout shows for a moment.
+    const QSize seen = area_->size();
     const int height = std::max(content_->minimumSizeHint().height(), content_->heightForWidth(seen.width()));
     const QSize lacking = QSize(content_->minimumSizeHint().width(), height) - seen;
     const QSize wanted = size() + lacking.expandedTo(QSize(0, 0));

@@ -17,6 +17,8 @@
 #include <QApplication>
 #include <QLayout>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
@@ -167,6 +169,19 @@ TEST_P(EveryForm, fits_on_a_small_screen) {
     window.ShowAs(Qt::NonModal, nullptr);
     EXPECT_LE(window.width(), 1366);
     EXPECT_LE(window.height(), 700);
+}
+
+TEST_P(EveryForm, opens_in_its_size_without_scroll_bars) {
+    qt::FormWindow window(*Form);
+    window.ShowAs(Qt::NonModal, nullptr);
+    const QSize opened = window.size();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.width(), opened.width());
+    EXPECT_EQ(window.height(), opened.height());
+    const auto* area = window.findChild<QScrollArea*>("layoutArea");
+    ASSERT_NE(area, nullptr);
+    EXPECT_FALSE(area->horizontalScrollBar()->isVisible());
+    EXPECT_FALSE(area->verticalScrollBar()->isVisible());
 }
 
 TEST_P(EveryForm, cuts_no_text_however_large_the_letters_are) {

@@ -5,12 +5,16 @@
 #include "scenarios/Moves.h"
 #include "support/World.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QShortcut>
 #include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
+#include <string>
 
 // Windows that are made before they are shown.
 namespace gfc::test {
@@ -37,18 +41,37 @@ protected:
     std::shared_ptr<ProbeForm> Second = std::make_shared<ProbeForm>(Screen, "Second");
 };
 
-// The main window as it stands when a person first sees it.
-QImage FirstSightOfMainWindow(bool madeReady) {
+// A window as it stands when a person first sees it.
+struct Sight {
+    QImage Picture;
+    QStringList Words; // the names for readers, tool tips and shortcuts of all that is in it
+};
+
+Sight SightOf(QWidget& window) {
+    QApplication::setActiveWindow(&window); // the focus is seen, however far the activation has come
+    Sight sight{window.grab().toImage(), {}};
+    for (const QWidget* widget : window.findChildren<QWidget*>())
+        sight.Words << widget->objectName() + ": " + widget->accessibleName() + ", " + widget->toolTip();
+    for (const QAction* action : window.findChildren<QAction*>())
+        sight.Words << action->objectName() + ": " + action->text() + ", " + action->shortcut().toString();
+    for (const QShortcut* shortcut : window.findChildren<QShortcut*>())
+        sight.Words << shortcut->key().toString();
+    sight.Words.sort(); // the order of the widgets says nothing
+    return sight;
+}
+
+std::map<std::string, Sight> FirstSights(bool madeReady) {
     StoryScreen screen;
     FakeProgram program(screen);
     moves::ThreeStations(program);
     moves::StartUp(screen.TheStory);
     moves::Exit(screen.TheStory);
-    QImage seen;
+    std::map<std::string, Sight> seen;
     screen.BeforeStep = [&seen] {
-        if (QWidget* window = FindWindow("GFCPrincipal");
-            seen.isNull() && window != nullptr && window->isVisible())
-            seen = window->grab().toImage();
+        for (const char* form : {"UserIDForm", "GFCPrincipal"})
+            if (QWidget* window = FindWindow(form);
+                !seen.contains(form) && window != nullptr && window->isVisible())
+                seen[form] = SightOf(*window);
     };
     forms::StartProgram(program.Program);
     if (madeReady)
@@ -120,10 +143,15 @@ TEST_F(ReadyWindows, are_not_made_once_the_program_is_over) {
     EXPECT_EQ(Screen.WindowOf(*Form), nullptr);
 }
 
-TEST(ReadyMainWindow, looks_as_if_it_were_made_when_it_is_shown) {
-    const QImage made = FirstSightOfMainWindow(true);
-    ASSERT_FALSE(made.isNull());
-    EXPECT_EQ(made, FirstSightOfMainWindow(false));
+TEST(ReadyWindowsOfTheStart, look_and_read_as_if_they_were_made_when_they_are_shown) {
+    const auto ready = FirstSights(true);
+    auto usual = FirstSights(false);
+    ASSERT_EQ(ready.size(), 2U);
+    for (const auto& [form, sight] : ready) {
+        EXPECT_EQ(sight.Picture, usual[form].Picture) << form;
+        EXPECT_EQ(sight.Words.join("\n").toStdString(), usual[form].Words.join("\n").toStdString()) << form;
+        EXPECT_GT(sight.Words.size(), 5) << form;
+    }
 }
 
 namespace {

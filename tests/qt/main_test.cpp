@@ -11,5 +11,6 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setCursorFlashTime(0); // pictures are held against each other
     return RUN_ALL_TESTS();
 }
