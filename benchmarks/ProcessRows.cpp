@@ -5,9 +5,11 @@
 
 #include <QByteArray>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <thread>
 
 // Whole processes: how long one takes to start, and how much memory one takes.
 namespace gfc::bench {
@@ -61,11 +63,13 @@ double SecondsToWindow(benchmark::State& state, const std::string& command) {
     return taken - waited;
 }
 
-Work Starting(const std::string& program) {
-    return [program](benchmark::State& state, int scale) {
+Work Starting(const std::string& program, std::chrono::seconds rest = {}) {
+    return [program, rest](benchmark::State& state, int scale) {
         const OpenProject project(scale);
-        for (auto _ : state)
+        for (auto _ : state) {
+            std::this_thread::sleep_for(rest);
             TakeSeconds(state, SecondsToWindow(state, "exec " + Beside(program)));
+        }
     };
 }
 
@@ -91,6 +95,11 @@ void ContestProcesses() {
     Contest("start", Floor, Starting("bench-empty-window"), Pace::Once);
     // The first text makes the toolkit look for its fonts.
     Contest("start", "one word", Starting("bench-empty-window word"), Pace::Once);
+    // A processor that has had nothing to do for two seconds has forgotten what it knew, and is slower for a
+    // while.
+    constexpr std::chrono::seconds rest(2);
+    Contest("rested_start", Ours, Starting("bench-program-start whole"), Pace::Once);
+    Contest("rested_start", Floor, Starting("bench-empty-window", rest), Pace::Once);
     Contest("memory", Ours, Peak, Pace::Once);
     Contest("memory", Floor, RecordsAlone, Pace::Once);
 }

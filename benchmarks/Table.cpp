@@ -22,7 +22,7 @@ struct Row {
 };
 
 // clang-format off
-constexpr std::array<Row, 11> Rows = {{
+constexpr std::array<Row, 12> Rows = {{
     {"read_key",  "one `ReadKey`, complete access, 32 KB file",
                   "open, read, scan, close of the same bytes", 1.2},
     {"write_key", "one `WriteKey`, complete, atomic, flushed",
@@ -41,6 +41,7 @@ constexpr std::array<Row, 11> Rows = {{
                   "a bare table view over Qt's own model of the same rows", 1.5},
     {"start",     "process start to main window, less the splash's wait", "start of an empty Qt window", 1.5},
     {"start",     "the same", "start of a Qt window with one word in it", 0, "one word"},
+    {"rested_start", "the same, the splash waited for", "start of an empty Qt window after two seconds of rest", 1.5},
 }};
 
 constexpr Row Memory = {"memory", "peak memory at 100,000 tags", "the library's records alone", 3};

@@ -1,5 +1,6 @@
 // The program from its start to its main window, without the splash's two seconds and without a person's time
-// at the user id.
+// at the user id. The two seconds are cut short once nothing is left to do in them; with any argument they
+// are waited for.
 #include "Shown.h"
 #include "app/Application.h"
 #include "forms/main_window/GFCPrincipal.h"
@@ -19,7 +20,6 @@ namespace {
 
 using namespace gfc;
 
-// Cuts the splash's wait short once there is nothing else to do in it, and leaves the wait out.
 class HastyScreen : public qt::QtScreen {
 public:
     void Appear(ui::Form& form) override {
@@ -41,6 +41,7 @@ public:
         QtScreen::RunModal(form);
     }
 
+    void WaitForSplash() { waited_ = std::chrono::milliseconds(splash_->timerInicio.Interval()); }
     // To be called once all is known that is to be made ready.
     void CutTheWaitShort() {
         ready_.callOnTimeout([this] {
@@ -73,6 +74,6 @@ int main(int argc, char* argv[]) {
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;
     screen.MakeReady(forms::FormsToCome(*program.Program()));
-    screen.CutTheWaitShort();
+    argc > 1 ? screen.WaitForSplash() : screen.CutTheWaitShort();
     return screen.Run();
 }
