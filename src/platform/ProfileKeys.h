@@ -13,8 +13,9 @@ namespace gfc::platform {
 // section once, whatever the number of keys.
 class ProfileKeys {
 public:
-    // Bytes of the code page, each as a line may bear it: without "=", white space around it and ";" at its
-    // start. No two may be equal but for case; best they come in the order in which they stand in a file.
+    // Bytes of the code page, each as a line may bear it: without "=" and line breaks, without white space
+    // around it, and with neither ";" nor "[" at its start. No two may be equal but for case; best they come
+    // in the order in which they stand in a file.
     explicit ProfileKeys(std::vector<std::string> names);
     ProfileKeys(const ProfileKeys&) = delete;
     ProfileKeys& operator=(const ProfileKeys&) = delete;

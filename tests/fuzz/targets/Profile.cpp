@@ -17,8 +17,8 @@ constexpr std::size_t LongestText = 24;
 // The part of the text that may be a key of a line.
 std::string KeyIn(std::string_view text) {
     constexpr std::string_view white = " \t\v";
-    text = text.substr(0, text.find('='));
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\v;"), text.size()));
+    text = text.substr(0, text.find_first_of("=\r\n"));
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\v;["), text.size()));
     return std::string(text.substr(0, text.find_last_not_of(white) + 1));
 }
 
