@@ -1,8 +1,10 @@
 #include "qt/QtScreen.h"
 
 #include "qt/FormWindow.h"
+#include "qt/Icons.h"
 #include "qt/SideWindow.h"
 #include "qt/Waiting.h"
+#include "ui/Furniture.h"
 
 #include <QApplication>
 #include <QDeadlineTimer>
@@ -11,6 +13,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QPixmap>
+#include <QStyle>
 #include <QTimer>
 
 #include <algorithm>
@@ -34,6 +37,18 @@ void LoadLetters() {
         painter.setFont(font);
         painter.drawText(0, 0, letters);
     }
+}
+
+// The same goes for the pictures of its lists and trees.
+void LoadPicturesOf(const ui::Form& form) {
+    const int size = QApplication::style()->pixelMetric(QStyle::PM_SmallIconSize);
+    QPixmap unseen(size, size);
+    QPainter painter(&unseen);
+    for (const ui::Control* control : form.Controls())
+        if (const auto* images = dynamic_cast<const ui::ImageList*>(control))
+            for (const std::string& name : images->Images())
+                for (const auto mode : {QIcon::Normal, QIcon::Selected})
+                    IconNamed(name).paint(&painter, unseen.rect(), Qt::AlignCenter, mode);
 }
 
 } // namespace
@@ -85,8 +100,10 @@ void QtScreen::MakeNextReady() {
         return idle_.stop();
     const auto form = toCome_.front().lock();
     toCome_.pop_front();
-    if (form != nullptr && WindowOf(*form) == nullptr)
-        (void)WindowFor(*form).grab();
+    if (form == nullptr || WindowOf(*form) != nullptr)
+        return;
+    (void)WindowFor(*form).grab();
+    LoadPicturesOf(*form);
 }
 
 void QtScreen::ShowWindow(ui::Form& form, bool modal) {
