@@ -23,13 +23,22 @@ std::string ReasonBesides(const std::string& fullPath) {
     return reason.starts_with(start) ? reason.substr(start.size()) : reason;
 }
 
+// A closed library is to find its own functions and not a namesake among those of the program's fifty
+// libraries, each of which would be asked first for a thousand names. Where a sanitizer stands in for
+// functions of the system, it must be.
+#if defined(RTLD_DEEPBIND) && !defined(GFC_SANITIZED)
+constexpr int ownFirst = RTLD_DEEPBIND;
+#else
+constexpr int ownFirst = 0;
+#endif
+
 } // namespace
 
 LibraryLoad LoadLibraryAt(const std::string& fullPath) {
     // Without a folder the system would look in places of its own.
     if (!fullPath.starts_with('/'))
         return {nullptr, "\"" + fullPath + "\" is not a full path"};
-    void* handle = ::dlopen(fullPath.c_str(), RTLD_NOW | RTLD_LOCAL);
+    void* handle = ::dlopen(fullPath.c_str(), RTLD_NOW | RTLD_LOCAL | ownFirst);
     if (!handle)
         return {nullptr, "\"" + fullPath + "\" cannot be loaded: " + ReasonBesides(fullPath)};
     return {std::make_unique<PosixDynamicLibrary>(handle), {}};
