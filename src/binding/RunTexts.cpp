@@ -1,8 +1,8 @@
 #include "binding/RunTexts.h"
 
 #include "config/RunLayout.h"
-#include "platform/NameTable.h"
 #include "platform/ProfileKeys.h"
+#include "services/CodePage.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -34,11 +34,12 @@ std::vector<std::string> NamesInFile() {
 
 // The place of a name, which is added if it is not there; case does not count.
 std::size_t PlaceIn(std::vector<std::string>& names, std::string_view name) {
-    const platform::NameTable table({names.begin(), names.end()});
-    if (const auto place = table.Find(name))
-        return *place;
-    names.emplace_back(name);
-    return names.size() - 1;
+    const auto found = std::ranges::find_if(
+        names, [&](const std::string& there) { return services::EqualBytesNoCase(there, name); });
+    const auto place = static_cast<std::size_t>(found - names.begin());
+    if (found == names.end())
+        names.emplace_back(name);
+    return place;
 }
 
 Keys MakeKeys() {
