@@ -12,6 +12,7 @@ void RunArrays::PrepareWholeStation(int activeRuns) {
     Mechanical.assign(MaxRuns, {});
 }
 
+// Copied from empty ones that are kept: to make and drop two hundred texts for each load took as long again.
 void RunArrays::PrepareSingleRun() {
     static const RunIO io;
     static const RunGas gas;

@@ -24,8 +24,8 @@ std::string ReasonBesides(const std::string& fullPath) {
 }
 
 // A closed library is to find its own functions and not a namesake among those of the program's fifty
-// libraries, each of which would be asked first for a thousand names. Where a sanitizer stands in for
-// functions of the system, it must be.
+// libraries, each of which would be asked first for a thousand names. A sanitizer stands in for functions of
+// the system, and has to be asked first.
 #if defined(RTLD_DEEPBIND) && !defined(GFC_SANITIZED)
 constexpr int ownFirst = RTLD_DEEPBIND;
 #else
