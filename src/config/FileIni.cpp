@@ -7,6 +7,8 @@
 #include "services/Utilidades.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <utility>
 
 namespace gfc::config {
 namespace {
@@ -70,21 +72,30 @@ std::string ReadFrom(Source& source, std::string_view section, std::string_view 
     return services::FromCodePage(source.Read(NameBytes(section), NameBytes(key)));
 }
 
-bool IsMissing(std::string_view value) {
-    return value.data() == nullptr;
+// Each text that is found goes to its place, which is then taken off the list; those that stay there are the
+// missing keys'. All lines are looked through for letters that need a conversion at once, and not each value
+// for itself. Texts go into the memory that is there.
+void ReadInto(std::span<std::string*> places, const platform::ProfileKeys& keys, std::string_view bytes,
+              std::string_view section) {
+    std::ptrdiff_t left = 0;
+    for (std::string* place : places)
+        if (place != nullptr) {
+            place->clear();
+            ++left;
+        }
+    const std::string_view lines = platform::profile::LinesOf(bytes, platform::profile::CallName(section));
+    const bool plain = services::IsPlain(lines);
+    keys.Read(lines, [&, places](std::size_t key, std::string_view value) {
+        std::string* const place = std::exchange(places[key], nullptr);
+        if (place == nullptr)
+            return true;
+        plain ? void(place->append(value)) : services::AssignFromCodePage(*place, value);
+        return --left > 0;
+    });
 }
 
-// All lines are looked through for letters that need a conversion at once, and not each value for itself.
-// Texts go into the memory that is there.
-void PutInPlaces(const platform::ProfileKeys::Reading& reading, std::span<std::string* const> places) {
-    const bool plain = services::IsPlain(reading.Lines);
-    for (std::size_t key = 0; key < reading.Values.size(); ++key) {
-        if (places[key] == nullptr)
-            continue;
-        places[key]->clear();
-        if (const std::string_view value = reading.Values[key]; !value.empty())
-            plain ? void(places[key]->append(value)) : services::AssignFromCodePage(*places[key], value);
-    }
+bool IsComplete(std::span<std::string* const> places) {
+    return std::ranges::all_of(places, [](const std::string* place) { return place == nullptr; });
 }
 
 } // namespace
@@ -129,29 +140,27 @@ std::string FileIni::ReadKey(std::string_view section, std::string_view key, con
 }
 
 void FileIni::ReadKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
-                       std::span<std::string* const> places) const {
+                       std::span<std::string*> places) const {
     const FileBatch* batch = OpenBatch(file);
     const auto single = batch || file.empty() ? std::nullopt : platform::ProfileFile::Open(files_, file);
     const auto& profile = batch ? batch->profile_ : single;
     const std::string_view bytes =
         profile ? std::string_view(profile->Profile().Bytes()) : std::string_view();
-    PutInPlaces(keys.Read(bytes, NameBytes(section)), places);
+    ReadInto(places, keys, bytes, NameBytes(section));
 }
 
 bool FileIni::ReadFirstKeys(std::string_view section, const platform::ProfileKeys& keys,
-                            const std::string& file, std::span<std::string* const> places) const {
+                            const std::string& file, std::span<std::string*> places) const {
     constexpr std::size_t enough = 4096; // ten times what stands before the end of a file's first sections
     if (!file.empty() && OpenBatch(file) == nullptr) {
         const auto start = files_.ReadStart(file, enough);
         const bool whole = !start || start->size() < enough;
         // The last line of a part may be cut.
         const std::string_view bytes = start ? std::string_view(*start) : std::string_view();
-        const auto reading =
-            keys.Read(whole ? bytes : bytes.substr(0, bytes.rfind('\n') + 1), NameBytes(section));
-        if (whole || std::ranges::none_of(reading.Values, IsMissing)) {
-            PutInPlaces(reading, places);
+        std::vector<std::string*> missing(places.begin(), places.end());
+        ReadInto(missing, keys, whole ? bytes : bytes.substr(0, bytes.rfind('\n') + 1), NameBytes(section));
+        if (whole || IsComplete(missing))
             return start || files_.Exists(file);
-        }
     }
     ReadKeys(section, keys, file, places);
     return FileExists(file);
@@ -216,8 +225,8 @@ bool FileIni::CopyConfigFile(const std::string& from, const std::string& to) {
 }
 
 FileBatch* FileIni::OpenBatch(const std::string& file) const {
-    const auto found = std::ranges::find_if(
-        batches_, [&](const FileBatch* batch) { return batch->outermost_ && batch->file_ == file; });
+    const auto found =
+        std::ranges::find_if(batches_, [&](const FileBatch* batch) { return batch->file_ == file; });
     return found == batches_.end() ? nullptr : *found;
 }
 
@@ -238,10 +247,11 @@ bool FileIni::Change(const std::string& file, const Edit& edit) {
     return profile->Save();
 }
 
-FileBatch::FileBatch(const FileIni& ini, std::string file)
-    : ini_(ini), file_(std::move(file)), outermost_(ini.OpenBatch(file_) == nullptr) {
+FileBatch::FileBatch(const FileIni& ini, const std::string& file)
+    : ini_(ini), outermost_(ini.OpenBatch(file) == nullptr) {
     if (!outermost_)
         return;
+    file_ = file;
     Reload();
     ini_.batches_.push_back(this);
 }

@@ -60,13 +60,13 @@ public:
     [[nodiscard]] std::string ReadKey(std::string_view section, std::string_view key,
                                       const std::string& file) const;
     // The same for many keys of a section, in one access. The text of each goes to its place; null for one
-    // that is not wanted. There must be a place for each key.
+    // that is not wanted. There must be a place for each key; afterwards the list is used up.
     void ReadKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
-                  std::span<std::string* const> places) const;
+                  std::span<std::string*> places) const;
     // ReadKeys for keys that stand near the file's beginning: of a long file no more is read than its first
     // lines, if all keys are found there. The result is that of FileExists.
     bool ReadFirstKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
-                       std::span<std::string* const> places) const;
+                       std::span<std::string*> places) const;
     // An absent value deletes the key. False if the file could not be written; no caller acts on it. A value
     // ends at its first NUL or line break, since it would otherwise break the lines of the file; a character
     // that the code page lacks is written as "?".
@@ -101,7 +101,7 @@ private:
 // file's existence first put on disk what is pending.
 class FileBatch {
 public:
-    FileBatch(const FileIni& ini, std::string file);
+    FileBatch(const FileIni& ini, const std::string& file);
     ~FileBatch();
     FileBatch(const FileBatch&) = delete;
     FileBatch& operator=(const FileBatch&) = delete;
@@ -115,8 +115,8 @@ private:
     [[nodiscard]] platform::ProfileIndex& Index();
 
     const FileIni& ini_;
-    std::string file_;
     bool outermost_;
+    std::string file_; // of the outermost alone
     bool changed_ = false;
     std::optional<platform::ProfileFile> profile_;  // none where the file cannot be read
     std::unique_ptr<platform::ProfileIndex> index_; // of the profile as it stands, from a reading to a change

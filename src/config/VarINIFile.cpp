@@ -12,14 +12,16 @@ void RunArrays::PrepareWholeStation(int activeRuns) {
     Mechanical.assign(MaxRuns, {});
 }
 
-// Copied from empty ones that are kept: to make and drop two hundred texts for each load took as long again.
 void RunArrays::PrepareSingleRun() {
-    static const RunIO io;
-    static const RunGas gas;
-    static const RunMechanical mechanical;
-    IO.assign(1, io);
-    Gas.assign(1, gas);
-    Mechanical.assign(1, mechanical);
+    IO.assign(1, {});
+    Gas.assign(1, {});
+    Mechanical.assign(1, {});
+}
+
+void RunArrays::ArrangeSingleRun() {
+    IO.resize(1);
+    Gas.resize(1);
+    Mechanical.resize(1);
 }
 
 void ResetStationConfig(StationConfig& station) {

@@ -139,8 +139,11 @@ struct RunArrays {
     std::vector<RunGas> Gas;
     std::vector<RunMechanical> Mechanical;
 
+    // All records are empty then.
     void PrepareWholeStation(int activeRuns);
     void PrepareSingleRun();
+    // For who puts something into every text: they stay as they are.
+    void ArrangeSingleRun();
 };
 
 // The virtual modules that the package keeps for its own work.

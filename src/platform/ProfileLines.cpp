@@ -14,8 +14,9 @@ constexpr bool IsBlank(char byte) {
 }
 
 // A name ends at the first closing bracket; one that is never closed takes the whole line.
-std::string_view HeaderName(std::string_view line) {
-    line.remove_prefix(1);
+std::string_view HeaderName(std::string_view bytes, std::size_t bracket) {
+    const std::size_t begin = bracket + 1;
+    const std::string_view line = WithoutBreak(bytes.substr(begin, LineEnd(bytes, begin) - begin));
     return Trimmed<IsWhite>(line.substr(0, line.find(']')));
 }
 
@@ -24,6 +25,12 @@ std::optional<std::size_t> StartOfLine(std::string_view bytes, std::size_t at) {
     while (at > 0 && IsWhite(bytes[at - 1]))
         --at;
     return at == 0 || bytes[at - 1] == '\n' ? std::optional(at) : std::nullopt;
+}
+
+// False for nearly every name but the section's, without a look at more than its first character.
+bool MayBegin(std::string_view name, std::string_view section) {
+    return name.empty() || section.empty() || IsWhite(name[0]) ||
+           services::FoldByte(name[0]) == services::FoldByte(section[0]);
 }
 
 } // namespace
@@ -35,15 +42,23 @@ std::string_view CallName(std::string_view text) {
 // From bracket to bracket, and not from line to line: there are few of them, and a file is read for each
 // access.
 std::optional<std::size_t> FindHeader(std::string_view bytes, std::string_view section) {
-    for (auto at = bytes.find('['); at != npos; at = bytes.find('[', at + 1)) {
-        const auto begin = StartOfLine(bytes, at);
-        if (!begin)
-            continue;
-        const auto line = Trimmed<IsWhite>(WithoutBreak(bytes.substr(at, LineEnd(bytes, at) - at)));
-        if (services::EqualBytesNoCase(HeaderName(line), section))
-            return begin;
-    }
+    for (auto at = bytes.find('['); at != npos; at = bytes.find('[', at + 1))
+        if (MayBegin(bytes.substr(at + 1), section))
+            if (const auto begin = StartOfLine(bytes, at))
+                if (services::EqualBytesNoCase(HeaderName(bytes, at), section))
+                    return begin;
     return std::nullopt;
+}
+
+std::string_view LinesOf(std::string_view bytes, std::string_view section) {
+    const auto header = FindHeader(bytes, section);
+    if (!header)
+        return {};
+    const std::size_t begin = LineEnd(bytes, *header);
+    for (auto at = bytes.find('[', begin); at != npos; at = bytes.find('[', at + 1))
+        if (const auto end = StartOfLine(bytes, at))
+            return bytes.substr(begin, *end - begin);
+    return bytes.substr(begin);
 }
 
 bool SectionLines::MayHold(std::string_view key) const {

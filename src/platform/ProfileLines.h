@@ -1,5 +1,8 @@
 #pragma once
 
+#include "services/CodePage.h"
+
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <optional>
@@ -29,10 +32,11 @@ constexpr std::string_view WithoutBreak(std::string_view line) {
     return line;
 }
 
-// Without the white space around it and without one pair of quotes. Most values have neither.
+// Without the white space around it and without one pair of quotes. Most values have neither; whatever is
+// neither white nor a quote stands behind both of them in the code page, but for a few signs.
 constexpr std::string_view CleanValue(std::string_view value) {
-    constexpr auto isEdge = [](char byte) { return IsWhite(byte) || byte == '"' || byte == '\''; };
-    if (value.empty() || !(isEdge(value.front()) || isEdge(value.back())))
+    constexpr auto mayGo = [](char byte) { return static_cast<unsigned char>(byte) <= '\''; };
+    if (value.empty() || !(mayGo(value.front()) || mayGo(value.back())))
         return value;
     value = Trimmed<IsWhite>(value);
     const bool quoted =
@@ -52,15 +56,22 @@ constexpr std::string_view CleanValue(std::string_view value) {
 // Where the header line of the first section of that name starts. Case does not count.
 [[nodiscard]] std::optional<std::size_t> FindHeader(std::string_view bytes, std::string_view section);
 
+// The lines between the header of the first section of that name and the next header; none if there is no
+// such section.
+[[nodiscard]] std::string_view LinesOf(std::string_view bytes, std::string_view section);
+
 struct Entry {
     std::string_view Key;
     std::string_view Value; // clean
 };
 
-// The lines behind a header, one by one, up to the next one or to the end of the file.
+// The lines of a section, one by one.
 class SectionLines {
 public:
+    // Those behind a header, up to the next one or to the end of the file.
     SectionLines(std::string_view bytes, std::size_t header) : bytes_(bytes), end_(LineEnd(bytes, header)) {}
+    // All of these, as LinesOf gives them.
+    explicit SectionLines(std::string_view lines) : bytes_(lines), end_(0) {}
 
     // False where no line is left.
     bool Next();
@@ -71,9 +82,6 @@ public:
     [[nodiscard]] bool MayHold(std::string_view key) const;
     // Comments, blank lines and lines without "=" are no entries.
     [[nodiscard]] std::optional<Entry> AsEntry() const;
-    // Goes on to the next line, and gives its value, only if that line begins with just this key and its "=";
-    // nothing does not mean that it holds another key. The key must be one that a line may bear.
-    std::optional<std::string_view> NextValueOf(std::string_view key);
 
 private:
     std::string_view bytes_;
@@ -95,16 +103,24 @@ inline bool SectionLines::Next() {
     return true;
 }
 
-// The line is cut only once it is known to be the one.
-inline std::optional<std::string_view> SectionLines::NextValueOf(std::string_view key) {
-    const char* const line = bytes_.data() + end_;
-    if (bytes_.size() - end_ <= key.size() || line[key.size()] != '=' ||
-        std::memcmp(line, key.data(), key.size()) != 0)
-        return std::nullopt;
-    begin_ = first_ = end_;
-    const std::size_t value = begin_ + key.size() + 1;
-    end_ = LineEnd(bytes_, value);
-    return CleanValue(WithoutBreak({bytes_.data() + value, end_ - value}));
+// Whether the first of these lines begins with just this key and its "="; if it does not, it may hold the key
+// all the same. The key must be one that a line may bear.
+[[nodiscard]] inline bool BeginWithKey(std::string_view lines, std::string_view key) {
+    return lines.size() > key.size() && lines[key.size()] == '=' &&
+           services::EqualBytesNoCase({lines.data(), key.size()}, key);
+}
+
+// Takes the first line off, which begins with a key of that length and its "="; gives its value. The line is
+// cut only here, once it is known to be the wanted one.
+inline std::string_view TakeValue(std::string_view& lines, std::size_t keyLength) {
+    const char* const value = lines.data() + keyLength + 1;
+    const char* const end = lines.data() + lines.size();
+    const void* const found = std::memchr(value, '\n', static_cast<std::size_t>(end - value));
+    const char* last = found == nullptr ? end : static_cast<const char*>(found);
+    lines = {found == nullptr ? end : last + 1, end};
+    while (last != value && last[-1] == '\r')
+        --last;
+    return CleanValue({value, last});
 }
 
 // Goes on to the key's entry; nothing if the section has none. Of equal names the first one is found.

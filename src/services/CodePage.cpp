@@ -93,11 +93,9 @@ bool CodePageHolds(std::string_view utf8) {
     return ToCodePage(utf8).has_value();
 }
 
-bool EqualBytesNoCase(std::string_view left, std::string_view right) {
-    if (left == right)
-        return true;
+bool detail::EqualFolded(std::string_view left, std::string_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return FoldByte(a) == FoldByte(b); });
+                      [](char a, char b) { return a == b || FoldByte(a) == FoldByte(b); });
 }
 
 } // namespace gfc::services

@@ -51,7 +51,15 @@ inline constexpr std::array<unsigned char, 256> CodePageFold = MakeCodePageFold(
     return detail::CodePageFold[static_cast<unsigned char>(byte)];
 }
 
-// Compares two texts of code page bytes without regard to case.
-[[nodiscard]] bool EqualBytesNoCase(std::string_view left, std::string_view right);
+namespace detail {
+
+[[nodiscard]] bool EqualFolded(std::string_view left, std::string_view right);
+
+} // namespace detail
+
+// Compares two texts of code page bytes without regard to case. Most that are equal are so byte for byte.
+[[nodiscard]] inline bool EqualBytesNoCase(std::string_view left, std::string_view right) {
+    return left == right || detail::EqualFolded(left, right);
+}
 
 } // namespace gfc::services

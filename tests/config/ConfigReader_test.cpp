@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <set>
+
 namespace gfc::config {
 namespace {
 
@@ -299,6 +301,58 @@ TEST_F(ConfigReader, reads_each_key_of_a_run_as_if_it_were_read_alone) {
             });
         }
     }
+}
+
+// Those places among them that the record holds.
+template <class Record>
+std::size_t PlacesIn(const std::set<const std::string*>& places, const Record& record) {
+    const auto* const begin = reinterpret_cast<const std::string*>(&record);
+    return static_cast<std::size_t>(std::distance(
+        places.lower_bound(begin), places.lower_bound(begin + sizeof(Record) / sizeof(*begin))));
+}
+
+// A load goes by the rows alone: a text without one would keep what was read of another run.
+TEST(RunRows, reach_every_text_of_a_runs_records) {
+    RunIO io;
+    RunGas gas;
+    RunMechanical mechanical;
+    RunGas fixed;
+    std::set<const std::string*> places;
+    for (const RunRow& row : RunRows())
+        ForEachPart(row, [&](BindingPart part) {
+            places.insert(PlaceOf(row, part, {io, gas, mechanical, fixed}));
+        });
+    EXPECT_EQ(PlacesIn(places, io) * sizeof(std::string), sizeof io);
+    EXPECT_EQ(PlacesIn(places, mechanical) * sizeof(std::string), sizeof mechanical);
+    EXPECT_EQ(PlacesIn(places, gas) * sizeof(std::string), sizeof gas);
+}
+
+TEST_F(ConfigReader, leaves_nothing_of_the_run_before) {
+    for (const char* source : {"AGA8", "SGERG88", "MEASURED"}) {
+        Station.GasDensitySource = source;
+        Bytes = FileOfAllKeys();
+        LoadRun(Ini, Station, File, 1);
+        EXPECT_NE(Station.Runs.IO[0].StdVolFlow.Tag, "");
+        Bytes = "[Run2]\r\nPressureTap=Flange\r\n";
+        LoadRun(Ini, Station, File, 2);
+        EXPECT_EQ(Station.Runs.IO, std::vector<RunIO>(1)) << source;
+        EXPECT_EQ(Station.Runs.Gas, std::vector<RunGas>(1)) << source;
+        EXPECT_EQ(Station.Runs.Mechanical, std::vector<RunMechanical>(1, {.PressureTap = "Flange"}))
+            << source;
+    }
+}
+
+// Of the whole station as of another run, and whatever of it this source does not read.
+TEST_F(ConfigReader, leaves_nothing_of_the_whole_station) {
+    Station.Runs.PrepareWholeStation(3);
+    for (std::size_t slot = 0; slot < GasSlots; ++slot)
+        Station.Runs.Gas[0][static_cast<GasSlot>(slot)] = {"old", "FX", "1"};
+    Station.Runs.Mechanical[0].PipeMaterial = "old";
+    Bytes = "[Run1]\r\n";
+    LoadRun(Ini, Station, File, 1);
+    EXPECT_EQ(Station.Runs.IO, std::vector<RunIO>(1));
+    EXPECT_EQ(Station.Runs.Gas, std::vector<RunGas>(1));
+    EXPECT_EQ(Station.Runs.Mechanical, std::vector<RunMechanical>(1));
 }
 
 TEST_F(ConfigReader, reads_a_file_once_for_each_load) {

@@ -213,8 +213,8 @@ struct ReadKeys : FileIniTest {
     std::string K = "old", L = "old";
 
     void Read(const std::string& file) {
-        const std::array<std::string*, 3> places = {&K, &L, nullptr};
-        Ini.ReadKeys("A", Keys, file, places);
+        std::array<std::string*, 3> places = {&K, &L, nullptr};
+        Ini.ReadKeys(" A ", Keys, file, places);
     }
 };
 
@@ -224,6 +224,13 @@ TEST_F(ReadKeys, puts_each_text_in_its_place) {
     EXPECT_EQ(K, "1");
     EXPECT_EQ(L, "é");
     EXPECT_EQ(Files.Reads, 1);
+}
+
+TEST_F(ReadKeys, takes_what_stands_first) {
+    Bytes = "[A]\r\nM=0\r\nK=\r\nK=1\r\nL=2\r\nL=3\r\n[A]\r\nK=4\r\n";
+    Read(File);
+    EXPECT_EQ(K, "");
+    EXPECT_EQ(L, "2");
 }
 
 TEST_F(ReadKeys, empties_the_place_of_what_is_missing) {
@@ -250,7 +257,7 @@ TEST_F(ReadKeys, sees_what_its_batch_has_written) {
 
 struct ReadFirstKeys : ReadKeys {
     bool ReadFirst(const std::string& file) {
-        const std::array<std::string*, 3> places = {&K, &L, nullptr};
+        std::array<std::string*, 3> places = {&K, &L, nullptr};
         return Ini.ReadFirstKeys("A", Keys, file, places);
     }
 };

@@ -10,8 +10,15 @@ using Names = std::vector<std::string>;
 
 // What a reading of all keys at once gives, which must be what one gives that asks for each by itself.
 Names ReadAll(const std::string& bytes, std::string_view section, const Names& names) {
-    const auto values = ProfileKeys(names).Read(bytes, section).Values;
-    Names texts(values.begin(), values.end());
+    Names texts(names.size());
+    std::vector<bool> found(names.size());
+    ProfileKeys(names).Read(profile::LinesOf(bytes, profile::CallName(section)),
+                            [&](std::size_t key, std::string_view value) {
+                                if (!found.at(key))
+                                    texts.at(key) = value;
+                                found[key] = true;
+                                return true;
+                            });
     const Profile profile(bytes);
     for (std::size_t key = 0; key < names.size(); ++key)
         EXPECT_EQ(texts.at(key), profile.Read(section, names[key])) << section << " " << names[key];
@@ -60,6 +67,31 @@ TEST(ProfileKeys, are_all_empty_without_their_section) {
 TEST(ProfileKeys, stand_by_each_other_with_one_name_the_beginning_of_the_next) {
     const std::string bytes = "[A]\r\nRun=0\r\nRun1=1\r\nRun11=2\r\nRun1=3\r\n";
     EXPECT_EQ(ReadAll(bytes, "A", {"Run1", "Run11", "Run"}), (Names{"1", "2", "0"}));
+}
+
+TEST(ProfileKeys, come_in_the_order_of_the_lines_until_the_caller_has_enough) {
+    const std::string lines = "b=1\r\nx=2\r\na=3\r\nB=4\r\nc=5\r\n";
+    std::string calls;
+    const auto take = [&calls](std::size_t key, std::string_view value) {
+        calls += std::to_string(key) + "=" + std::string(value) + " ";
+        return value != "4";
+    };
+    ProfileKeys({"a", "b", "c"}).Read(lines, take);
+    EXPECT_EQ(calls, "1=1 0=3 1=4 ");
+}
+
+// A file that leaves out more than the next few keys, or less, gives the same.
+TEST(ProfileKeys, may_be_left_out) {
+    Names names;
+    for (int i = 0; i < 100; ++i)
+        names.push_back("Key" + std::to_string(i));
+    for (const int step : {1, 2, 5, 31, 32, 33, 34, 60}) {
+        std::string bytes = "[A]\r\n";
+        for (int i = step - 1; i < 100; i += step)
+            bytes += names[static_cast<std::size_t>(i)] + "=" + std::to_string(i) + "\r\n";
+        const Names texts = ReadAll(bytes, "A", names);
+        EXPECT_EQ(texts[static_cast<std::size_t>(step - 1)], std::to_string(step - 1));
+    }
 }
 
 TEST(ProfileKeys, may_be_many) {

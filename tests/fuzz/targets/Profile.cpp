@@ -6,6 +6,8 @@
 #include "platform/ProfileKeys.h"
 
 #include <algorithm>
+#include <optional>
+#include <vector>
 
 // The profile engine against its plain account: any accesses, with any texts, to any bytes.
 namespace gfc::fuzz {
@@ -26,9 +28,14 @@ std::string KeyIn(std::string_view text) {
 void ReadTogether(std::string_view bytes, const PlainProfile& plain, std::string_view section,
                   std::string_view text) {
     const std::vector<std::string> names = {KeyIn(text), "longer than any text of a case"};
-    const auto values = platform::ProfileKeys(names).Read(bytes, section).Values;
+    std::vector<std::optional<std::string_view>> values(names.size());
+    const auto lines = platform::profile::LinesOf(bytes, platform::profile::CallName(section));
+    platform::ProfileKeys(names).Read(lines, [&values](std::size_t key, std::string_view value) {
+        values.at(key) = values.at(key).value_or(value);
+        return true;
+    });
     for (std::size_t key = 0; key < names.size(); ++key)
-        Require(values.at(key) == plain.Read(section, names[key]), "both read the same at once");
+        Require(values.at(key).value_or("") == plain.Read(section, names[key]), "both read the same at once");
 }
 
 void RunAccess(Input& input, platform::Profile& profile, PlainProfile& plain) {
