@@ -17,8 +17,10 @@ using LineOf = std::optional<std::string> (*)(const ExpectedTag& entry, int numb
 std::string Line(std::string_view kind, int number, const ExpectedTag& entry, std::string_view fault) {
     std::string line(kind);
     line.append(" ").append(std::to_string(number)).append(" =");
-    for (const std::string* text : {&entry.Caption, &entry.Tag, &entry.RegAddr, &entry.Type, &entry.Location})
-        line.append(" [").append(*text).append("]");
+    for (const std::string_view text :
+         {entry.Caption, std::string_view(entry.Tag), std::string_view(entry.RegAddr),
+          std::string_view(entry.Type), std::string_view(entry.Location)})
+        line.append(" [").append(text).append("]");
     return line.append(" [").append(fault).append("]");
 }
 
@@ -26,7 +28,8 @@ std::optional<std::string> Error(const ExpectedTag& entry, int number) {
     if (entry.Found)
         return std::nullopt;
     // The blank before the bracket belongs to the note.
-    const std::string fault = entry.Tag == NotConfigured ? entry.Note + " " : "No found in I/O data base";
+    const std::string fault =
+        entry.Tag == NotConfigured ? std::string(entry.Note) + " " : "No found in I/O data base";
     return Line("Error", number, entry, fault);
 }
 

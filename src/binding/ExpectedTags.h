@@ -5,23 +5,25 @@
 #include "project/TagInventory.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 // What a configuration file expects of the station's tags, against what the station holds now: tags get new
 // names, move and vanish in the project while the file goes on naming them.
 namespace gfc::binding {
 
-// One binding to look up.
+// One binding to look up. What it takes from the catalogue stays there, and is not copied for each of
+// hundreds.
 struct ExpectedTag {
     std::string RegAddr; // decimal, as the file holds it
     std::string Tag;
     std::string Type;
-    std::string Group; // one of binding::group
-    std::string Stem;  // as it is reported; not always that of the keys in the file
+    std::string_view Group; // one of binding::group
+    std::string_view Stem;  // as it is reported; not always that of the keys in the file
     bool Found = false;
     std::string Location; // "Run1" to "Run5", or "AGA3" for the atmospheric pressure
-    std::string Caption;
-    std::string Note;
+    std::string_view Caption;
+    std::string_view Note;
 
     bool operator==(const ExpectedTag&) const = default;
 };

@@ -132,7 +132,10 @@ ExpectedTag WorkingModule(const std::string& stem, const FileReader& reader) {
 void BuildExpectedTags(const config::FileIni& ini, const std::string& file, config::StationConfig& station,
                        ExpectedTags& expected) {
     FileReader reader(ini, file);
-    expected = {};
+    // Their memory serves on.
+    for (auto* list : {&expected.ExpectedFloat, &expected.ExpectedAnalog, &expected.ExpectedLong,
+                       &expected.ExpectedDigital})
+        list->clear();
     ReadChoices(reader, station);
     const Conditions common = CommonConditions(station, reader);
     const VariableRow& atmosphere = CommonPressureRow();

@@ -66,7 +66,7 @@ private:
 inline Texts CaptionsOf(const std::vector<binding::ExpectedTag>& entries) {
     Texts captions;
     for (const auto& entry : entries)
-        captions.push_back(entry.Caption);
+        captions.emplace_back(entry.Caption);
     return captions;
 }
 
@@ -94,7 +94,7 @@ inline Texts Missing(const binding::ExpectedTags& expected) {
                                 &expected.ExpectedLong})
         for (const auto& entry : *entries)
             if (!entry.Found)
-                captions.push_back(entry.Caption);
+                captions.emplace_back(entry.Caption);
     return captions;
 }
 

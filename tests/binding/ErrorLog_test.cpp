@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 using namespace gfc;
 using namespace gfc::binding;
 using namespace gfc::test;
@@ -23,7 +25,8 @@ ExpectedTag Entry(std::string_view of, std::string_view group, std::string addre
     entry.Type = "T";
     entry.Group = group;
     entry.Location = std::move(location);
-    entry.Caption = std::string(of) + " of " + std::string(group);
+    static std::set<std::string> captions;
+    entry.Caption = *captions.insert(std::string(of) + " of " + std::string(group)).first;
     entry.Note = "Variable without assignment";
     return entry;
 }

@@ -220,7 +220,9 @@ TEST(ExpectedTags, of_unknown_choices_are_what_every_run_has) {
 TEST(ExpectedTags, are_listed_under_group_and_reported_stem) {
     CheckedFile detail(algorithm::AGA3, source::AGA8, "MEASURED");
     const auto& ofDetail = detail.UseAtmosphereTag().Activate(1).Build().Expected;
-    const auto describe = [](const ExpectedTag& entry) { return entry.Group + ": " + entry.Stem; };
+    const auto describe = [](const ExpectedTag& entry) {
+        return std::string(entry.Group) + ": " + std::string(entry.Stem);
+    };
     EXPECT_EQ(describe(Entry(ofDetail.ExpectedFloat, "Atmospheric Pressure")), "AGA Input: PaKDIO");
     EXPECT_EQ(describe(Entry(ofDetail.ExpectedDigital, "Reset")), "AGA Input: ResetTotalsKDIO");
     EXPECT_EQ(describe(Entry(ofDetail.ExpectedFloat, "Volune")), "AGA Output: GasVolumeKDIO");
