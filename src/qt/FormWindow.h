@@ -43,6 +43,8 @@ public:
     void Act(Renderer& renderer, const std::function<void()>& act);
     // Makes the window larger if what is seen now does not fit, as far as the screen goes.
     void GrowToContent();
+    // Does ahead of time what its first appearance would have to do.
+    void MakeReady();
     // Writes all controls to their widgets.
     void RefreshAll();
 

@@ -1,6 +1,7 @@
 #include "qt/FormWindow.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
+#include "qt/render/LetterWidths.h"
 #include "ui/Furniture.h"
 
 #include <QApplication>
@@ -14,8 +15,9 @@ namespace gfc::qt {
 
 namespace {
 
-// The toolkit reads a font and draws its letters when they are first asked for. The headings of tables are
-// measured in bold, whether they are shown so or not.
+// The toolkit reads a font and draws its letters when they are first asked for, each in up to four places
+// between two points of the screen. The headings of tables are measured in bold, whether they are shown so or
+// not.
 void LoadLetters() {
     QString letters;
     for (char16_t letter = u' '; letter <= u'~'; ++letter)
@@ -26,8 +28,10 @@ void LoadLetters() {
     for (const bool bold : {false, true}) {
         font.setBold(bold);
         painter.setFont(font);
-        painter.drawText(0, 0, letters);
+        for (const double place : {0.0, 0.25, 0.5, 0.75})
+            painter.drawText(QPointF(place, 0), letters);
     }
+    (void)LetterWidths::In(QApplication::font());
 }
 
 // The same goes for the pictures of its lists and trees.
@@ -58,7 +62,7 @@ void QtScreen::MakeNextReady() {
     toCome_.pop_front();
     if (form == nullptr || WindowOf(*form) != nullptr)
         return;
-    (void)WindowFor(*form).grab();
+    WindowFor(*form).MakeReady();
     LoadPicturesOf(*form);
 }
 

@@ -81,6 +81,23 @@ TEST_F(Lists, follow_the_arrow_keys) {
     EXPECT_EQ(Form->rows.SelectedRow(), 2);
 }
 
+// Not that of the most letters, and without a cut in any of them.
+TEST_F(Lists, are_as_wide_as_the_widest_text) {
+    const std::vector<std::string> texts = {
+        "iiiiiiiiiiiiiiiiiiiiiiiiii", "WWWWWWWWWWWWWWWWWWWW",     "Añelo",
+        "GasTrain_Skid4_0000001_PV",  "WAVAWAVAWAVAWAVAWAVAWAVA", "ñññññññññññññññññññ"};
+    Form->rows.ClearRows();
+    Form->rows.ClearColumns();
+    Form->rows.AddColumns({{"Name"}, {"Rest"}});
+    int widest = 0;
+    for (const std::string& text : texts) {
+        Form->rows.AddRow({text, "1"});
+        widest = std::max(widest, Table().fontMetrics().horizontalAdvance(QString::fromStdString(text)));
+        EXPECT_GT(Table().columnWidth(0), widest) << text;
+        EXPECT_LT(Table().columnWidth(0), std::max(widest, 100) + 50) << text;
+    }
+}
+
 TEST_F(Lists, do_not_measure_beyond_the_first_rows) {
     Form->rows.AddRows(Many(300));
     const int width = Table().columnWidth(1);

@@ -1,5 +1,7 @@
 #include "ui/ListView.h"
 
+#include "qt/render/CellPainter.h"
+#include "qt/render/LetterWidths.h"
 #include "qt/render/Renderers.h"
 #include "qt/render/RowsModel.h"
 #include "qt/render/WidgetRenderer.h"
@@ -57,6 +59,7 @@ public:
 private:
     void SetUpView() {
         widget_.setModel(&model_);
+        widget_.setItemDelegate(new CellPainter(&widget_));
         widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
         widget_.setSelectionMode(QAbstractItemView::SingleSelection);
         widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -143,10 +146,21 @@ private:
         const QFontMetrics metrics = widget_.fontMetrics();
         const int edge = 3 * metrics.averageCharWidth();
         const int heading = metrics.horizontalAdvance(ToQt(column.Heading));
-        int width = std::max(heading, column.Width * metrics.averageCharWidth());
-        for (int row = 1; column.Width == 0 && row <= std::min(control_.Count(), measuredRows); ++row)
-            width = std::max(width, metrics.horizontalAdvance(ToQt(control_.Cell(row, number))));
-        return width + edge;
+        const int asked = column.Width > 0 ? column.Width * metrics.averageCharWidth()
+                                           : metrics.horizontalAdvance(ToQt(WidestCell(number)));
+        return std::max(heading, asked) + edge;
+    }
+
+    [[nodiscard]] std::string WidestCell(int column) const {
+        const LetterWidths& letters = LetterWidths::In(widget_.font());
+        std::string widest;
+        int width = 0;
+        for (int row = 1; row <= std::min(control_.Count(), measuredRows); ++row)
+            if (const std::string& text = control_.Cell(row, column); letters.Of(text) > width) {
+                width = letters.Of(text);
+                widest = text;
+            }
+        return widest;
     }
 
     RowsModel model_;

@@ -1,0 +1,37 @@
+#include "qt/render/LetterWidths.h"
+
+#include <QFontMetrics>
+
+#include <optional>
+
+namespace gfc::qt {
+
+const LetterWidths& LetterWidths::In(const QFont& font) {
+    static QFont last;
+    static std::optional<LetterWidths> widths;
+    if (!widths || last != font) {
+        widths = LetterWidths(font);
+        last = font;
+    }
+    return *widths;
+}
+
+LetterWidths::LetterWidths(const QFont& font) {
+    const QFontMetrics metrics(font);
+    for (std::size_t letter = ' '; letter < widths_.size(); ++letter)
+        widths_[letter] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(letter)));
+}
+
+int LetterWidths::Of(const std::string& utf8) const {
+    int width = 0;
+    for (const char byte : utf8) {
+        const auto letter = static_cast<unsigned char>(byte);
+        if (letter < widths_.size())
+            width += widths_[letter];
+        else if (letter >= 0xC0) // the first byte of a letter
+            width += widths_['W'];
+    }
+    return width;
+}
+
+} // namespace gfc::qt
