@@ -7,18 +7,20 @@
 namespace gfc::qt {
 
 const LetterWidths& LetterWidths::In(const QFont& font) {
-    static QFont last;
+    // By name: a font that is kept keeps all that the toolkit has loaded for it.
+    static QString last;
     static std::optional<LetterWidths> widths;
-    if (!widths || last != font) {
+    if (const QString name = font.key(); !widths || last != name) {
         widths = LetterWidths(font);
-        last = font;
+        last = name;
     }
     return *widths;
 }
 
 LetterWidths::LetterWidths(const QFont& font) {
     const QFontMetrics metrics(font);
-    for (std::size_t letter = ' '; letter < widths_.size(); ++letter)
+    // What stands behind them is no letter: the toolkit would look for it in all fonts of the system.
+    for (std::size_t letter = ' '; letter <= '~'; ++letter)
         widths_[letter] = metrics.horizontalAdvance(QChar(static_cast<char16_t>(letter)));
 }
 
