@@ -30,7 +30,7 @@ Process StartOf(const std::string& command) {
     return {::popen(command.c_str(), "r"), ::pclose};
 }
 
-// The first that it writes.
+// The first line that it writes.
 std::string LineOf(const Process& process) {
     char line[64] = "";
     return process != nullptr && std::fgets(line, sizeof line, process.get()) != nullptr ? line : "";

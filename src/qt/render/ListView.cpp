@@ -155,11 +155,13 @@ private:
         const LetterWidths& letters = LetterWidths::In(widget_.font());
         std::string widest;
         int width = 0;
-        for (int row = 1; row <= std::min(control_.Count(), measuredRows); ++row)
-            if (const std::string& text = control_.Cell(row, column); letters.Of(text) > width) {
-                width = letters.Of(text);
+        for (int row = 1; row <= std::min(control_.Count(), measuredRows); ++row) {
+            const std::string& text = control_.Cell(row, column);
+            if (const int taken = letters.Of(text); taken > width) {
+                width = taken;
                 widest = text;
             }
+        }
         return widest;
     }
 
