@@ -328,6 +328,8 @@ TEST(RunRows, reach_every_text_of_a_runs_records) {
 }
 
 TEST_F(ConfigReader, leaves_nothing_of_the_run_before) {
+    RunMechanical onlyTap;
+    onlyTap.PressureTap = "Flange";
     for (const char* source : {"AGA8", "SGERG88", "MEASURED"}) {
         Station.GasDensitySource = source;
         Bytes = FileOfAllKeys();
@@ -337,8 +339,7 @@ TEST_F(ConfigReader, leaves_nothing_of_the_run_before) {
         LoadRun(Ini, Station, File, 2);
         EXPECT_EQ(Station.Runs.IO, std::vector<RunIO>(1)) << source;
         EXPECT_EQ(Station.Runs.Gas, std::vector<RunGas>(1)) << source;
-        EXPECT_EQ(Station.Runs.Mechanical, std::vector<RunMechanical>(1, {.PressureTap = "Flange"}))
-            << source;
+        EXPECT_EQ(Station.Runs.Mechanical, std::vector<RunMechanical>(1, onlyTap)) << source;
     }
 }
 
