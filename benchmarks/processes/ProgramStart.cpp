@@ -1,6 +1,5 @@
 // The program from its start to its main window, without the splash's two seconds and without a person's time
-// at the user id. The two seconds are cut short once nothing is left to do in them; with any argument they
-// are waited for.
+// at the user id. The two seconds are cut short; with any argument they are waited for.
 #include "Shown.h"
 #include "app/Application.h"
 #include "forms/main_window/GFCPrincipal.h"
@@ -42,22 +41,16 @@ public:
     }
 
     void WaitForSplash() { waited_ = std::chrono::milliseconds(splash_->timerInicio.Interval()); }
-    // To be called once all is known that is to be made ready.
     void CutTheWaitShort() {
-        ready_.callOnTimeout([this] {
-            if (!AllReady())
-                return;
-            ready_.stop();
+        QTimer::singleShot(0, [this] {
             waited_ = std::chrono::steady_clock::now() - begin_;
             splash_->timerInicio.Tick();
         });
-        ready_.start(0);
     }
 
 private:
     forms::formInicio* splash_ = nullptr;
     std::chrono::steady_clock::time_point begin_;
-    QTimer ready_;
     std::chrono::duration<double> waited_ = {};
 };
 
@@ -73,7 +66,6 @@ int main(int argc, char* argv[]) {
     app::Application program(machine.Seams(), screen);
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;
-    screen.MakeReady(forms::FormsToCome(*program.Program()));
     argc > 1 ? screen.WaitForSplash() : screen.CutTheWaitShort();
     return screen.Run();
 }

@@ -1,5 +1,4 @@
 #include "app/Application.h"
-#include "forms/program/StartUp.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
 
@@ -33,7 +32,5 @@ int main(int argc, char* argv[]) {
     gfc::app::Application program(seams, screen);
     if (!program.Start(gfc::platform::LoadLibraryAt))
         return EXIT_FAILURE;
-    // The loading window stands for two seconds, in which there is nothing else to do.
-    screen.MakeReady(gfc::forms::FormsToCome(*program.Program()));
     return screen.Run();
 }

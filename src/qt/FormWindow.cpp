@@ -28,7 +28,6 @@ const Design* DesignOf(const std::string& form) {
 
 FormWindow::FormWindow(ui::Form& form, const Design* design)
     : form_(&form), held_(form.KeepAlive()), gate_(std::make_unique<FocusGate>(*this, form)) {
-    BindTimers();
     SetUpContent(design == nullptr ? DesignOf(form.Name()) : design);
     Bind();
     NameForReaders();
@@ -60,18 +59,9 @@ void FormWindow::SetUpContent(const Design* design) {
     setWindowIcon(IconNamed("App"));
 }
 
-// The time of a timer that the form has started runs while the window is being made.
-void FormWindow::BindTimers() {
-    for (ui::Control* control : form_->Controls())
-        if (control->TheKind() == ui::Kind::Timer)
-            BindControl(*control, nullptr);
-    RefreshAll();
-}
-
 void FormWindow::Bind() {
     for (ui::Control* control : form_->Controls())
-        if (control->TheKind() != ui::Kind::Timer)
-            BindControl(*control, WidgetNamed(control->Name()));
+        BindControl(*control, WidgetNamed(control->Name()));
     RefreshAll();
     form_->SetObserver(this);
     FormChanged();

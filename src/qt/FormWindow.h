@@ -43,8 +43,6 @@ public:
     void Act(Renderer& renderer, const std::function<void()>& act);
     // Makes the window larger if what is seen now does not fit, as far as the screen goes.
     void GrowToContent();
-    // Does ahead of time what its first appearance would have to do.
-    void MakeReady();
     // Writes all controls to their widgets.
     void RefreshAll();
 
@@ -90,7 +88,6 @@ private:
     void FocusMoved(ui::Control& control) override;
 
     void SetUpContent(const Design* design);
-    void BindTimers();
     void Bind();
     // The widget that shows it; null for what has none.
     void BindControl(ui::Control& control, QWidget* widget);

@@ -53,15 +53,6 @@ void FormWindow::FitToScreen() {
     resize((wanted + bar).boundedTo(room));
 }
 
-// Its picture is painted twice: the memory of the first one of that size goes back to the system, that of the
-// second stays with the process, and serves when the window is painted on the screen.
-void FormWindow::MakeReady() {
-    FitToScreen();
-    sized_ = false; // what it holds may change before it is shown
-    for (int picture = 0; picture < 2; ++picture)
-        (void)grab();
-}
-
 // What has come to view must not end in scroll bars while there is room on the screen.
 void FormWindow::GrowToContent() {
     const QSize room = screen()->availableGeometry().size() - QSize(20, 50);

@@ -15,9 +15,7 @@
 
 namespace gfc::qt {
 
-QtScreen::QtScreen(Viewer viewer) : viewer_(std::move(viewer)) {
-    idle_.callOnTimeout([this] { MakeNextReady(); });
-}
+QtScreen::QtScreen(Viewer viewer) : viewer_(std::move(viewer)) {}
 
 QtScreen::~QtScreen() {
     for (const auto& [form, window] : windows_)

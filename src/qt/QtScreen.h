@@ -3,9 +3,6 @@
 #include "qt/Designs.h"
 #include "ui/Screen.h"
 
-#include <QTimer>
-
-#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -37,11 +34,6 @@ public:
     // For a form that is none of the program's own: its design, to be given before it is shown.
     void AddDesign(const Design& design) { designs_.push_back(design); }
 
-    // Makes the windows of these forms before they are shown, one whenever nothing else is to be done, and
-    // draws each where nobody sees it: the pictures and letters that it shows are there when it appears.
-    void MakeReady(const std::vector<ui::Form*>& forms);
-    [[nodiscard]] bool AllReady() const { return toCome_.empty(); }
-
     void Appear(ui::Form& form) override;
     void RunModal(ui::Form& form) override;
     void Disappear(ui::Form& form) override;
@@ -69,7 +61,6 @@ private:
     };
 
     FormWindow& WindowFor(ui::Form& form);
-    void MakeNextReady();
     void ShowWindow(ui::Form& form, bool modal);
     void LoopWhileShown(ui::Form& form);
     void ActivateTop();
@@ -83,8 +74,6 @@ private:
     std::unordered_map<const ui::Form*, FormWindow*> windows_;
     std::vector<ui::Form*> shown_; // the one shown last stands at the end
     std::vector<ModalLoop> loops_;
-    std::deque<std::weak_ptr<ui::Form>> toCome_; // whose windows are to be made ready
-    QTimer idle_;
     QEventLoop* mainLoop_ = nullptr;
     int exitCode_ = 0;
     bool ended_ = false;

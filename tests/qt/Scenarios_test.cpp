@@ -20,18 +20,11 @@ class InWindows : public ::testing::TestWithParam<Scenario> {};
 
 namespace {
 
-enum class Windows {
-    MadeWhenShown,
-    MadeReady, // as the program does it while its splash is shown
-};
-
-void Play(const Scenario& scenario, StoryScreen& screen, Windows windows) {
+void Play(const Scenario& scenario, StoryScreen& screen) {
     FakeProgram program(screen);
     scenario.Prepare(program);
     scenario.Tell(screen.TheStory);
     forms::StartProgram(program.Program);
-    if (windows == Windows::MadeReady)
-        screen.MakeReady(forms::FormsToCome(program.Program));
     screen.RunToEnd();
     EXPECT_TRUE(screen.Ended());
     scenario.After(program);
@@ -55,7 +48,7 @@ TEST_P(InWindows, plays) {
     StoryScreen screen;
     std::set<std::string> complaints;
     screen.BeforeStep = [&complaints] { LookAtWindows(complaints); };
-    Play(GetParam(), screen, Windows::MadeReady);
+    Play(GetParam(), screen);
     EXPECT_THAT(complaints, ::testing::IsEmpty());
 }
 
@@ -66,7 +59,7 @@ class ByKeysAlone : public ::testing::TestWithParam<Scenario> {};
 
 TEST_P(ByKeysAlone, plays) {
     StoryScreen screen(std::make_unique<KeyboardDriver>());
-    Play(GetParam(), screen, Windows::MadeWhenShown);
+    Play(GetParam(), screen);
 }
 
 namespace {

@@ -140,7 +140,6 @@ int Play(const QDir& folder) {
     Tell(screen.TheStory, folder);
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;
-    screen.MakeReady(forms::FormsToCome(*program.Program()));
     screen.RunToEnd();
     const bool whole = screen.TheStory.Done() && !::testing::Test::HasFailure();
     Print(QStringLiteral("%1 pictures in %2").arg(screen.Pictures()).arg(folder.absolutePath()));

@@ -1,7 +1,5 @@
 #include "ui/ListView.h"
 
-#include "qt/render/CellPainter.h"
-#include "qt/render/LetterWidths.h"
 #include "qt/render/Renderers.h"
 #include "qt/render/RowsModel.h"
 #include "qt/render/WidgetRenderer.h"
@@ -59,7 +57,6 @@ public:
 private:
     void SetUpView() {
         widget_.setModel(&model_);
-        widget_.setItemDelegate(new CellPainter(&widget_));
         widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
         widget_.setSelectionMode(QAbstractItemView::SingleSelection);
         widget_.setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -69,6 +66,7 @@ private:
         widget_.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
         widget_.horizontalHeader()->setHighlightSections(false);
         widget_.horizontalHeader()->setStretchLastSection(true);
+        widget_.horizontalHeader()->setResizeContentsPrecision(measuredRows);
         QHeaderView& rows = *widget_.verticalHeader();
         rows.hide();
         rows.setSectionResizeMode(QHeaderView::Fixed);
@@ -139,30 +137,15 @@ private:
     void SetWidths() {
         const auto& columns = control_.Columns();
         for (int i = 0; i < static_cast<int>(columns.size()); ++i)
-            widget_.setColumnWidth(i, WidthOf(i, columns[static_cast<std::size_t>(i)]));
+            widget_.setColumnWidth(i, WidthOf(i, columns[static_cast<std::size_t>(i)].Width));
     }
 
-    [[nodiscard]] int WidthOf(int number, const ui::ListView::Column& column) const {
-        const QFontMetrics metrics = widget_.fontMetrics();
-        const int edge = 3 * metrics.averageCharWidth();
-        const int heading = metrics.horizontalAdvance(ToQt(column.Heading));
-        const int asked = column.Width > 0 ? column.Width * metrics.averageCharWidth()
-                                           : metrics.horizontalAdvance(ToQt(WidestCell(number)));
-        return std::max(heading, asked) + edge;
-    }
-
-    [[nodiscard]] std::string WidestCell(int column) const {
-        const LetterWidths& letters = LetterWidths::In(widget_.font());
-        std::string widest;
-        int width = 0;
-        for (int row = 1; row <= std::min(control_.Count(), measuredRows); ++row) {
-            const std::string& text = control_.Cell(row, column);
-            if (const int taken = letters.Of(text); taken > width) {
-                width = taken;
-                widest = text;
-            }
-        }
-        return widest;
+    // Some room to the next column, and no heading cut, however few characters are asked for.
+    [[nodiscard]] int WidthOf(int column, int characters) const {
+        const QAbstractItemView& view = widget_;
+        const int letter = widget_.fontMetrics().averageCharWidth();
+        const int asked = characters > 0 ? characters * letter : view.sizeHintForColumn(column);
+        return std::max(widget_.horizontalHeader()->sectionSizeHint(column), asked + 2 * letter);
     }
 
     RowsModel model_;

@@ -1,6 +1,5 @@
 #include "ui/Tree.h"
 
-#include "qt/render/CellPainter.h"
 #include "qt/render/Renderers.h"
 #include "qt/render/TreeModel.h"
 #include "qt/render/WidgetRenderer.h"
@@ -22,7 +21,6 @@ public:
     TreeRenderer(FormWindow& window, ui::Tree& control, QTreeView& widget)
         : WidgetRenderer(window, control, widget), model_(control) {
         widget.setModel(&model_);
-        widget.setItemDelegate(new CellPainter(&widget));
         widget.setHeaderHidden(true);
         widget.setUniformRowHeights(true);
         widget.setEditTriggers(QAbstractItemView::NoEditTriggers);

@@ -51,18 +51,6 @@ TEST_F(StartUp, shows_splash_identity_and_main_window_in_that_order) {
     EXPECT_FALSE(Screen.Ended());
 }
 
-TEST_F(StartUp, knows_the_forms_to_come_without_loading_them) {
-    forms::StartProgram(Program);
-    Names names;
-    for (const ui::Form* form : forms::FormsToCome(Program)) {
-        names.push_back(form->Name());
-        EXPECT_FALSE(form->IsLoaded());
-    }
-    EXPECT_EQ(names, (Names{"UserIDForm", "GFCPrincipal"}));
-    EXPECT_EQ(Screen.FormsShown, Names{"formInicio"});
-    EXPECT_THAT(Library.Calls, testing::IsEmpty());
-}
-
 TEST_F(StartUp, splash_waits_two_seconds_and_says_that_it_loads) {
     forms::StartProgram(Program);
     const auto& splash = Program.Forms.Get<forms::formInicio>();
