@@ -1,0 +1,156 @@
+#include "naming/Pieces.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace gfc::naming {
+
+namespace {
+
+constexpr std::size_t ShortestGrown = 3; // a word within grown-together ones; shorter ones stand in anything
+constexpr std::size_t ShortestCut = 4;   // the beginning of a word
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool IsUpper(char c) {
+    return c >= 'A' && c <= 'Z';
+}
+bool IsLower(char c) {
+    return c >= 'a' && c <= 'z';
+}
+
+PartKind KindOf(char folded) {
+    if (IsDigit(folded))
+        return PartKind::Digits;
+    return IsUpper(folded) ? PartKind::Letters : PartKind::Sign;
+}
+
+// Between "static" and "Press", and between "AGA" and "Press".
+bool IsNewCapital(std::string_view raw, std::size_t at) {
+    if (at == 0 || at >= raw.size() || !IsUpper(raw[at]))
+        return false;
+    const bool next = at + 1 < raw.size() && IsLower(raw[at + 1]);
+    return IsLower(raw[at - 1]) || (IsUpper(raw[at - 1]) && next);
+}
+
+// The letters and digits from here that make a word of the table with a digit in it, the longest; 0 for none.
+// What comes before must not be part of it, nor what comes behind.
+std::size_t WordWithDigits(std::string_view folded, std::size_t at) {
+    if (at > 0 && KindOf(folded[at - 1]) == PartKind::Letters && !IsDigit(folded[at]))
+        return 0;
+    std::size_t end = at;
+    while (end < folded.size() && KindOf(folded[end]) != PartKind::Sign)
+        ++end;
+    for (; end > at + 1; --end) {
+        const auto text = folded.substr(at, end - at);
+        const bool whole = end == folded.size() || KindOf(folded[end]) != KindOf(folded[end - 1]);
+        if (whole && std::ranges::any_of(text, IsDigit) && FindWord(text) != nullptr)
+            return text.size();
+    }
+    return 0;
+}
+
+std::size_t PlainEnd(std::string_view folded, std::string_view raw, std::size_t at) {
+    const PartKind kind = KindOf(folded[at]);
+    std::size_t end = at + 1;
+    while (end < folded.size() && KindOf(folded[end]) == kind && !IsNewCapital(raw, end))
+        ++end;
+    return end;
+}
+
+Part PartOf(std::string_view text, std::size_t begin, PartKind kind) {
+    Part part;
+    part.Kind = kind;
+    part.Text = text;
+    part.Begin = begin;
+    return part;
+}
+
+// The fewest words that make up the text, if they do.
+std::optional<std::vector<const Word*>> GrownTogether(std::string_view text) {
+    std::vector<std::optional<std::vector<const Word*>>> upTo(text.size() + 1);
+    upTo[0].emplace();
+    for (std::size_t end = ShortestGrown; end <= text.size(); ++end)
+        for (std::size_t begin = 0; begin + ShortestGrown <= end; ++begin) {
+            const Word* word = upTo[begin] ? FindWord(text.substr(begin, end - begin)) : nullptr;
+            if (word == nullptr || (upTo[end] && upTo[end]->size() <= upTo[begin]->size() + 1))
+                continue;
+            upTo[end] = upTo[begin];
+            upTo[end]->push_back(word);
+        }
+    return upTo[text.size()];
+}
+
+// The word of which the text is the beginning, if all such words mean the same.
+const Word* WordThatBegins(std::string_view text) {
+    if (text.size() < ShortestCut)
+        return nullptr;
+    const Word* found = nullptr;
+    for (const Word& word : Words()) {
+        if (!word.Text.starts_with(text))
+            continue;
+        if (found != nullptr && (found->Means != word.Means || found->Also != word.Also))
+            return nullptr;
+        found = &word;
+    }
+    return found;
+}
+
+void Give(Part& part, const Word& word) {
+    part.Known = &word;
+    part.Means = {word.Means};
+    if (word.Also)
+        part.Means.push_back(*word.Also);
+}
+
+void AppendMeaning(Part part, std::vector<Part>& parts) {
+    if (const Word* word = FindWord(part.Text)) {
+        Give(part, *word);
+    } else if (const auto grown = GrownTogether(part.Text)) {
+        std::size_t begin = part.Begin;
+        for (const Word* each : *grown) {
+            parts.push_back(PartOf(each->Text, begin, PartKind::Letters));
+            Give(parts.back(), *each);
+            begin += each->Text.size();
+        }
+        return;
+    } else if (const Word* cut = WordThatBegins(part.Text)) {
+        Give(part, *cut);
+        part.Cut = true;
+    }
+    parts.push_back(std::move(part));
+}
+
+} // namespace
+
+std::vector<Part> PiecesOf(std::string_view name) {
+    std::string folded = Fold(name);
+    // Capitals are looked for only where both texts stand letter by letter beside each other.
+    const std::string_view raw = folded.size() == name.size() ? name : std::string_view(folded);
+    std::vector<Part> parts;
+    for (std::size_t at = 0; at < folded.size();) {
+        const std::size_t word = WordWithDigits(folded, at);
+        const std::size_t end = word != 0 ? at + word : PlainEnd(folded, raw, at);
+        const PartKind kind = word != 0 ? PartKind::Letters : KindOf(folded[at]);
+        std::string_view text = std::string_view(folded).substr(at, end - at);
+        // "C6+" is all from hexane on.
+        const bool plus = (text == "C6" || text == "NC6") && end < folded.size() && folded[end] == '+';
+        parts.push_back(PartOf(plus ? "C6PLUS" : text, at, kind));
+        at = plus ? end + 1 : end;
+    }
+    return parts;
+}
+
+void ReadMeanings(std::vector<Part>& parts) {
+    std::vector<Part> read;
+    for (Part& part : parts) {
+        if (part.Kind == PartKind::Letters && !part.Device)
+            AppendMeaning(std::move(part), read);
+        else
+            read.push_back(std::move(part));
+    }
+    parts = std::move(read);
+}
+
+} // namespace gfc::naming
