@@ -1,4 +1,5 @@
 #include "qt/support/Offscreen.h"
+#include "support/NamedEnd.h"
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -6,6 +7,7 @@
 
 int main(int argc, char* argv[]) {
     ::testing::InitGoogleTest(&argc, argv);
+    gfc::test::NameTheTestOfAnEnd();
     gfc::test::UseOffscreenPlatform();
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);

@@ -1,3 +1,4 @@
+#include "Pairs.h"
 #include "PlainStation.h"
 #include "SweepWorld.h"
 #include "binding/ExpectedTags.h"
@@ -7,8 +8,9 @@
 
 #include <iostream>
 
-// Every combination that the wizard offers, from the first window to the last, against a second account of
-// the file, of the model and of the summaries.
+// Every method that the wizard offers, each with every pair of the other choices (with every combination of
+// them in the deep checks), from the first window to the last, against a second account of the file, of the
+// model and of the summaries.
 namespace gfc::test::sweep {
 namespace {
 
@@ -72,8 +74,8 @@ protected:
     static inline int beyondHands = 0;
 };
 
-TEST_P(Files, of_every_variation_are_as_accounted_and_read_back) {
-    for (const Choice& choice : VariationsOf(GetParam())) {
+TEST_P(Files, are_as_accounted_and_read_back) {
+    for (const Choice& choice : SweptOf(GetParam())) {
         Prove(choice);
         ++proved;
         beyondHands += choice.BeyondHands() ? 1 : 0;
@@ -93,6 +95,24 @@ TEST(Combinations, are_all_that_the_lists_hold) {
     // Orifices twice, since their diameters come from two places.
     EXPECT_EQ(all, (2U + 1U + 1U + 2U) * 9U * 5U * 3U * 3U);
     EXPECT_EQ(beyond, (2U + 1U + 1U + 2U) * 2U * 5U * 3U * 3U);
+}
+
+TEST(Combinations, that_are_swept_hold_every_pair_of_choices) {
+    std::set<std::string> swept;
+    for (const auto& method : Methods()) {
+        std::set<std::string> pairs, all;
+        const auto chosen = PairwiseOf(method);
+        for (const auto& choice : chosen) {
+            pairs.merge(PairsIn(choice));
+            swept.insert(choice.Text().substr(method.Text().find(", US")));
+        }
+        for (const auto& choice : VariationsOf(method))
+            all.merge(PairsIn(choice));
+        EXPECT_EQ(pairs, all) << method.Text();
+        EXPECT_LE(chosen.size(), 20U) << method.Text();
+    }
+    // All methods together have nearly each combination of the rest among them.
+    EXPECT_GE(swept.size(), 80U);
 }
 
 TEST(Combinations, of_the_largest_need_leave_the_station_almost_nothing) {
