@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gfc::platform {
 namespace {
@@ -31,6 +32,11 @@ std::string WithOwnSeparators(std::string_view path) {
 
 std::optional<std::string> Files::ReadStart(const std::string& path, std::size_t) {
     return Read(path);
+}
+
+bool Files::Fail(std::string reason) {
+    lastFailure_ = std::move(reason);
+    return false;
 }
 
 } // namespace gfc::platform

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
-// What the rest of the system asks of the file system. All paths are UTF-8. No call throws.
+// What the rest of the system asks of the file system. All paths and texts are UTF-8. No call throws.
 namespace gfc::platform {
 
 #ifdef _WIN32
@@ -39,6 +40,13 @@ public:
     // written.
     [[nodiscard]] virtual bool Replace(const std::string& path, std::string_view bytes) = 0;
 
+    // As Replace, for a file that is to be new: makeWay takes away what stands there, and is called once the
+    // bytes stand whole and safe beside it, so that nothing but a rename is left to be done. False, with the
+    // file as makeWay left it, where makeWay says so or a step fails; nothing is called if the bytes cannot
+    // be written.
+    [[nodiscard]] virtual bool PutAnew(const std::string& path, std::string_view bytes,
+                                       const std::function<bool()>& makeWay) = 0;
+
     // True for a file, not for a folder. True also where the machine cannot tell, so that what may be there
     // is not taken for missing: nothing is written over it, and its station keeps its entry among the files
     // to load.
@@ -50,6 +58,17 @@ public:
     // Copies a file to a path where nothing is yet; false, with nothing changed, if something is there or a
     // step fails.
     [[nodiscard]] virtual bool CopyNew(const std::string& from, const std::string& to) = 0;
+
+    // What the system gave as reason when a call failed the last time, in its own words and language, without
+    // a line break; empty if none has failed yet. Exists fails for no reason, nor does a makeWay.
+    [[nodiscard]] const std::string& LastFailure() const { return lastFailure_; }
+
+protected:
+    // For who failed; gives false.
+    bool Fail(std::string reason);
+
+private:
+    std::string lastFailure_;
 };
 
 [[nodiscard]] std::unique_ptr<Files> MakeFiles();

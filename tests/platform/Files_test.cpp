@@ -120,4 +120,53 @@ TEST_F(FilesTest, copy_leaves_nothing_behind_when_it_fails) {
     EXPECT_EQ(Folder.Count(), 1u);
 }
 
+TEST_F(FilesTest, says_what_the_system_gave_as_reason) {
+    EXPECT_EQ(Real->LastFailure(), "") << "nothing has failed yet";
+    Folder.Put("a", "x");
+    Folder.Put("b", "y");
+    const std::string missing = Folder.Path("missing");
+    EXPECT_FALSE(Real->Delete(missing));
+    const std::string isMissing = Real->LastFailure();
+    EXPECT_NE(isMissing, "");
+    EXPECT_FALSE(Real->CopyNew(Folder.Path("a"), Folder.Path("b")));
+    const std::string isThere = Real->LastFailure();
+    EXPECT_NE(isThere, isMissing);
+    EXPECT_FALSE(Real->Read(missing));
+    EXPECT_EQ(Real->LastFailure(), isMissing);
+    EXPECT_FALSE(Real->Replace(Folder.Path(), "x")) << "a folder";
+    EXPECT_NE(Real->LastFailure(), isMissing);
+    EXPECT_FALSE(Real->CopyNew(missing, Folder.Path("c")));
+    EXPECT_EQ(Real->LastFailure(), isMissing);
+    EXPECT_TRUE(Real->Replace(Folder.Path("a"), "x"));
+    EXPECT_FALSE(Real->Exists(missing));
+    EXPECT_EQ(Real->LastFailure(), isMissing) << "what succeeds says nothing";
+    EXPECT_EQ(Real->LastFailure().find_first_of("\r\n"), std::string::npos);
+}
+
+TEST_F(FilesTest, put_anew_has_all_bytes_beside_before_the_old_ones_go) {
+    const std::string path = Folder.Put("f", "old");
+    const std::string bytes(100'000, 'n');
+    EXPECT_TRUE(Real->PutAnew(path, bytes, [&] {
+        EXPECT_EQ(Folder.Get("f"), "old");
+        for (const auto& entry : std::filesystem::directory_iterator(Folder.Path()))
+            EXPECT_TRUE(entry.path() == path || entry.file_size() == bytes.size()) << entry.path();
+        EXPECT_EQ(Folder.Count(), 2u);
+        return Real->Delete(path);
+    }));
+    EXPECT_EQ(Folder.Get("f"), bytes);
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
+TEST_F(FilesTest, put_anew_leaves_everything_where_no_way_was_made) {
+    const std::string path = Folder.Put("f", "old");
+    EXPECT_FALSE(Real->PutAnew(path, "new", [] { return false; }));
+    EXPECT_EQ(Folder.Get("f"), "old");
+    EXPECT_FALSE(Real->PutAnew(Folder.Path("missing/f"), "new", [] {
+        ADD_FAILURE() << "what cannot be written makes no way";
+        return true;
+    }));
+    EXPECT_NE(Real->LastFailure(), "");
+    EXPECT_EQ(Folder.Count(), 1u);
+}
+
 } // namespace

@@ -11,11 +11,17 @@ namespace gfc::test {
 // A file system in memory. Failures are asked for by path; Reads and Replaces count the accesses.
 class MemoryFiles : public platform::Files {
 public:
+    static constexpr const char* Denied = "Permission denied";
+    static constexpr const char* Full = "No space left on device";
+
     std::optional<std::string> Read(const std::string& path) override {
         ++Reads;
         const auto found = Content.find(path);
-        return found == Content.end() || Unreadable.contains(path) ? std::nullopt
-                                                                   : std::optional(found->second);
+        if (found == Content.end() || Unreadable.contains(path)) {
+            Fail(found == Content.end() ? "No such file or directory" : "Input/output error");
+            return std::nullopt;
+        }
+        return found->second;
     }
 
     // Never more than is asked for, as the machine does it.
@@ -28,7 +34,15 @@ public:
 
     bool Replace(const std::string& path, std::string_view bytes) override {
         ++Replaces;
-        if (Unwritable.contains(path))
+        if (!TakesBytes(path))
+            return false;
+        Content[path] = bytes;
+        return true;
+    }
+
+    bool PutAnew(const std::string& path, std::string_view bytes,
+                 const std::function<bool()>& makeWay) override {
+        if (!TakesBytes(path) || !makeWay())
             return false;
         Content[path] = bytes;
         return true;
@@ -37,21 +51,31 @@ public:
     bool Exists(const std::string& path) override { return Content.contains(path); }
 
     bool Delete(const std::string& path) override {
-        return !Unwritable.contains(path) && Content.erase(path) > 0;
+        if (Unwritable.contains(path))
+            return Fail(Denied);
+        return Content.erase(path) > 0 || Fail("No such file or directory");
     }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
-        const auto found = Content.find(from);
-        if (found == Content.end() || Unreadable.contains(from) || Unwritable.contains(to))
+        if (Content.contains(to))
+            return Fail("File exists");
+        const auto bytes = Read(from);
+        if (!bytes || !TakesBytes(to))
             return false;
-        return Content.emplace(to, found->second).second;
+        return Content.emplace(to, *bytes).second;
     }
 
     std::map<std::string, std::string> Content;
     std::set<std::string> Unreadable;
-    std::set<std::string> Unwritable;
+    std::set<std::string> Unwritable; // may neither be written nor deleted
+    bool DiskFull = false;            // takes no bytes, but lets files go
     int Reads = 0;
     int Replaces = 0;
+
+private:
+    bool TakesBytes(const std::string& path) {
+        return Unwritable.contains(path) ? Fail(Denied) : !DiskFull || Fail(Full);
+    }
 };
 
 } // namespace gfc::test

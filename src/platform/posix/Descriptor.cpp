@@ -36,6 +36,8 @@ bool WriteAll(int fd, std::string_view bytes) {
         const ssize_t written = ::write(fd, bytes.data(), bytes.size());
         if (written < 0 && errno == EINTR)
             continue;
+        if (written == 0)
+            errno = ENOSPC; // no call should end so, and none that does has said why
         if (written <= 0)
             return false;
         bytes.remove_prefix(static_cast<std::size_t>(written));

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -44,6 +45,7 @@ std::optional<std::string> RealTarget(std::string path) {
         const bool relative = !text->starts_with('/') && separator != std::string::npos;
         path = relative ? path.substr(0, separator + 1) + *text : *text;
     }
+    errno = ELOOP;
     return std::nullopt;
 }
 
@@ -73,11 +75,19 @@ struct Source {
     struct stat State {};
 };
 
+// A folder, a pipe and all the like say so themselves, since no call of the system has refused them.
+bool IsPlain(const struct stat& state) {
+    if (S_ISREG(state.st_mode))
+        return true;
+    errno = S_ISDIR(state.st_mode) ? EISDIR : EINVAL;
+    return false;
+}
+
 std::optional<Source> ReadPlainFile(const std::string& path, std::size_t enough = Everything) {
     Source source;
     // Without waiting: a pipe of that name must not hold the program.
     const Descriptor file = posix::Open(path.c_str(), O_RDONLY | O_NONBLOCK);
-    if (!file || ::fstat(file.Get(), &source.State) != 0 || !S_ISREG(source.State.st_mode))
+    if (!file || ::fstat(file.Get(), &source.State) != 0 || !IsPlain(source.State))
         return std::nullopt;
     auto bytes = ReadAll(file.Get(), static_cast<std::size_t>(source.State.st_size), enough);
     if (!bytes)
@@ -99,7 +109,15 @@ bool TakeOver(int fd, const struct stat& old) {
 }
 
 bool MayReplace(const std::string& target, const struct stat& old) {
-    return S_ISREG(old.st_mode) && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == 0;
+    return IsPlain(old) && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+bool IsFree(const std::string& path) {
+    struct stat present {};
+    if (::lstat(path.c_str(), &present) != 0)
+        return true;
+    errno = EEXIST;
+    return false;
 }
 
 class PosixFiles : public Files {
@@ -108,20 +126,29 @@ public:
 
     std::optional<std::string> ReadStart(const std::string& path, std::size_t enough) override {
         auto source = ReadPlainFile(path, enough);
+        Told(source.has_value());
         return source ? std::optional(std::move(source->Bytes)) : std::nullopt;
     }
 
     bool Replace(const std::string& path, std::string_view bytes) override {
         const auto target = RealTarget(path);
         if (!target)
-            return false;
+            return Told(false);
         struct stat old {};
         const bool existed = ::stat(target->c_str(), &old) == 0;
         if (existed ? !MayReplace(*target, old) : errno != ENOENT)
-            return false;
+            return Told(false);
         auto file = TemporaryFile::Beside(*target, existed ? PrivateMode : NewFileMode);
-        return file && posix::WriteAll(file->Get(), bytes) && (!existed || TakeOver(file->Get(), old)) &&
-               posix::Flush(file->Get()) && file->MoveOver(*target);
+        return Told(file && posix::WriteAll(file->Get(), bytes) && (!existed || TakeOver(file->Get(), old)) &&
+                    posix::Flush(file->Get()) && file->MoveOver(*target));
+    }
+
+    bool PutAnew(const std::string& path, std::string_view bytes,
+                 const std::function<bool()>& makeWay) override {
+        auto file = TemporaryFile::Beside(path, NewFileMode);
+        if (!Told(file && posix::WriteAll(file->Get(), bytes) && posix::Flush(file->Get())))
+            return false;
+        return makeWay() && Told(file->MoveOver(path));
     }
 
     bool Exists(const std::string& path) override {
@@ -130,19 +157,22 @@ public:
     }
 
     // A folder is refused by the call itself.
-    bool Delete(const std::string& path) override { return ::unlink(path.c_str()) == 0; }
+    bool Delete(const std::string& path) override { return Told(::unlink(path.c_str()) == 0); }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
-        struct stat present {};
-        if (::lstat(to.c_str(), &present) == 0)
-            return false;
+        if (!IsFree(to))
+            return Told(false);
         const auto source = ReadPlainFile(from);
         if (!source)
-            return false;
+            return Told(false);
         auto file = TemporaryFile::Beside(to, source->State.st_mode & CopyMode);
-        return file && posix::WriteAll(file->Get(), source->Bytes) && posix::Flush(file->Get()) &&
-               file->MoveToNew(to);
+        return Told(file && posix::WriteAll(file->Get(), source->Bytes) && posix::Flush(file->Get()) &&
+                    file->MoveToNew(to));
     }
+
+private:
+    // Before anything else is done, what takes a half-made file away included: that may have its own error.
+    bool Told(bool done) { return done || Fail(std::generic_category().message(errno)); }
 };
 
 } // namespace

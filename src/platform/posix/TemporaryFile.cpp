@@ -132,7 +132,9 @@ bool TemporaryFile::MoveToNew(const std::string& target) {
     if (file_.Close() && FlushFolder(FolderOf(target)))
         return true;
     // Who is told of a failure must not find the file there.
+    const int reason = errno;
     ::unlink(target.c_str());
+    errno = reason;
     return false;
 }
 

@@ -9,7 +9,7 @@ namespace gfc::platform::posix {
 
 // The file that new bytes are written to beside their target, under a name that shows what it belongs to. It
 // is locked as long as its writer lives, so that what a crash left behind is told from another writer's work.
-// It removes itself unless it was put in its place.
+// It removes itself unless it was put in its place. What fails leaves its reason in errno.
 class TemporaryFile {
 public:
     // Nothing if the target's folder takes no file. What dead writers left beside the target is removed.

@@ -25,11 +25,24 @@ bool MayExist(const std::wstring& path) {
                                                  : !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
-// A folder, or a file that its owner has locked against changes.
+// A folder, or a file that its owner has locked against changes; the system's words for both are the same.
 bool MustStay(const std::wstring& path) {
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES &&
-           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
+    const bool must = attributes != INVALID_FILE_ATTRIBUTES &&
+                      (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY));
+    if (must)
+        ::SetLastError(ERROR_ACCESS_DENIED);
+    return must;
+}
+
+bool IsFree(const std::wstring& path) {
+    if (path.empty())
+        ::SetLastError(ERROR_INVALID_NAME);
+    else if (::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES)
+        ::SetLastError(ERROR_FILE_EXISTS);
+    else
+        return true;
+    return false;
 }
 
 // What a link points to, by its full name; a path that is no link, or names nothing yet, stays.
@@ -72,34 +85,54 @@ public:
         const Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_READ, ShareAll, nullptr, OPEN_EXISTING,
                                         FILE_ATTRIBUTE_NORMAL, nullptr));
         LARGE_INTEGER size{};
-        if (!file || ::GetFileType(file.Get()) != FILE_TYPE_DISK || !::GetFileSizeEx(file.Get(), &size))
-            return std::nullopt;
-        return ReadAll(file.Get(), static_cast<std::size_t>(size.QuadPart));
+        std::optional<std::string> bytes;
+        if (file && ::GetFileType(file.Get()) == FILE_TYPE_DISK && ::GetFileSizeEx(file.Get(), &size))
+            bytes = ReadAll(file.Get(), static_cast<std::size_t>(size.QuadPart));
+        Told(bytes.has_value());
+        return bytes;
     }
 
     bool Replace(const std::string& path, std::string_view bytes) override {
         const std::wstring target = RealTarget(Wide(path));
         if (target.empty() || MustStay(target))
-            return false;
-        TemporaryFile::RemoveLeftovers(target);
-        auto file = TemporaryFile::Beside(target);
-        return file && file->Write(bytes) && file->MoveOver(target);
+            return Told(false);
+        auto file = Written(target, bytes);
+        return file && Told(file->MoveOver(target));
+    }
+
+    bool PutAnew(const std::string& path, std::string_view bytes,
+                 const std::function<bool()>& makeWay) override {
+        const std::wstring target = Wide(path);
+        auto file = Written(target, bytes);
+        return file && makeWay() && Told(file->MoveOver(target));
     }
 
     bool Exists(const std::string& path) override { return MayExist(Wide(path)); }
 
-    bool Delete(const std::string& path) override { return ::DeleteFileW(Wide(path).c_str()) != 0; }
+    bool Delete(const std::string& path) override { return Told(::DeleteFileW(Wide(path).c_str()) != 0); }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
         const std::wstring target = Wide(to);
-        if (target.empty() || ::GetFileAttributesW(target.c_str()) != INVALID_FILE_ATTRIBUTES)
-            return false;
+        if (!IsFree(target))
+            return Told(false);
         const auto bytes = Read(from);
         if (!bytes)
             return false;
+        auto file = Written(target, *bytes);
+        return file && Told(file->MoveToNew(target));
+    }
+
+private:
+    // Before anything else is done, what takes a half-made file away included: that may have its own error.
+    bool Told(bool done) { return done || Fail(windows::ErrorText(::GetLastError())); }
+
+    // Beside the target, its bytes safe on the disk.
+    std::optional<TemporaryFile> Written(const std::wstring& target, std::string_view bytes) {
         TemporaryFile::RemoveLeftovers(target);
         auto file = TemporaryFile::Beside(target);
-        return file && file->Write(*bytes) && file->MoveToNew(target);
+        if (!Told(file && file->Write(bytes)))
+            file.reset();
+        return file;
     }
 };
 
