@@ -5,7 +5,8 @@
 
 namespace gfc::platform {
 
-// A library that was loaded at run time; it stays loaded as long as this object lives.
+// A library that was loaded at run time. It stays loaded until the process ends, whatever becomes of this
+// object: threads and callbacks of its own may live on that nobody here knows of.
 class DynamicLibrary {
 public:
     virtual ~DynamicLibrary() = default;

@@ -6,6 +6,7 @@
 #include "services/CodePage.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <vector>
@@ -15,7 +16,7 @@ namespace gfc::project {
 namespace {
 
 constexpr std::int32_t projectFileSize = 255;
-// What the library may write back behind a text that it was given.
+// What the library may write back behind a text or a request that it was given.
 constexpr std::size_t textRoom = 512;
 
 // The functions that are called, by name.
@@ -92,6 +93,12 @@ private:
     bool holds_ = false;
 };
 
+// A request that is handed over likewise.
+struct RequestWithRoom {
+    TagRequest Request{};
+    std::array<char, textRoom> Room{};
+};
+
 template <class Record>
 std::size_t OffsetOf(std::int32_t index) {
     return static_cast<std::size_t>(index) * sizeof(Record);
@@ -160,7 +167,7 @@ public:
         : library_(std::move(library)), call_(FindFunctions(*library_)) {}
 
     std::string GetProjectFile() override {
-        std::array<char, projectFileSize + 1> buffer{};
+        std::array<char, projectFileSize + textRoom> buffer{};
         // Whether a project is open is told by the buffer, not by the result.
         (void)call_.GetProjectFile(buffer.data(), projectFileSize);
         return TextOf(buffer.data(), projectFileSize);
@@ -184,7 +191,8 @@ std::optional<std::vector<Station>> AddOnGate::GetStations() {
     std::int32_t count = 0;
     void* array = nullptr;
     // The library wants 1 and an empty text here.
-    if (call_.GetStaList(&count, &array, 1, "") == 0)
+    InOutText text{std::string()};
+    if (call_.GetStaList(&count, &array, 1, text.Data()) == 0)
         return std::nullopt;
     std::vector<Station> stations;
     if (!HoldsRecords<StationRecord>(array, count))
@@ -198,7 +206,8 @@ std::optional<std::vector<Station>> AddOnGate::GetStations() {
 TagList AddOnGate::ReadTags(const std::string& station, const std::string& projectFile,
                             const std::function<void(std::string_view)>& onTag) {
     // Blank before each call, since the library writes into it.
-    TagRequest request{};
+    RequestWithRoom handedOver;
+    TagRequest& request = handedOver.Request;
     if (!PutText(station, request.Station) || !PutText(projectFile, request.ProjectFile))
         return {};
     void* array = nullptr;

@@ -24,9 +24,9 @@ extern "C" {
 using AddOnGetProjectFile = std::int32_t(GFC_ADDON_CALL*)(char* buffer, std::int32_t size);
 
 /// 0 on failure. `stations` points to `count` StationRecord that stay valid until AddOnFreeData.
-/// `one` is 1 and `text` is empty.
+/// `one` is 1 and `text` is empty. Every text stands in memory that may be written to, with room behind it.
 using AddOnGetStaList = std::int16_t(GFC_ADDON_CALL*)(std::int32_t* count, void** stations, std::int32_t one,
-                                                      const char* text);
+                                                      char* text);
 using AddOnFreeData = void(GFC_ADDON_CALL*)(void* stations);
 
 /// Number of tags, 0 or less when there are none. `tags` points to TagRecord that stay valid until

@@ -17,21 +17,22 @@ struct HostileRow {
     const char* Name;
     std::size_t Stations; // so many must be believed
     std::size_t Tags;
+    int TagsGivenBack; // calls; an empty list is not given back, one that cannot be read is
 };
 
 // In the order of the library's own ways.
 // clang-format off
 const HostileRow ways[] = {
-    {"null_arrays",         0, 0},
-    {"negative_counts",     0, 0},
-    {"largest_counts",      0, 0},
-    {"one_record_too_many", 0, 0},
-    {"wild_pointers",       0, 0},
-    {"no_access",           0, 0},
-    {"unterminated",        3, 3},
-    {"misaligned",          3, 3},
-    {"nothing_written",     0, 0},
-    {"writes_back",         3, 3},
+    {"null_arrays",         0, 0, 1},
+    {"negative_counts",     0, 0, 0},
+    {"largest_counts",      0, 0, 1},
+    {"one_record_too_many", 0, 0, 1},
+    {"wild_pointers",       0, 0, 1},
+    {"no_access",           0, 0, 1},
+    {"unterminated",        3, 3, 1},
+    {"misaligned",          3, 3, 1},
+    {"nothing_written",     0, 0, 1},
+    {"writes_back",         3, 3, 1},
 };
 // clang-format on
 
@@ -49,13 +50,19 @@ protected:
             setWay(static_cast<int>(GetParam()));
         if (auto* const setDelay = loaded.Library->FunctionOf<void(void (*)())>("hostile_delay"))
             setDelay(Delay);
+        CallsOf = loaded.Library->FunctionOf<int(const char*)>("hostile_calls");
         return loaded;
+    }
+    void ExpectCalls(const std::string& function, int calls) const {
+        EXPECT_EQ(CallsOf(("kdaddon_VB" + function).c_str()), calls) << function;
     }
     // What goes on while the library takes its time over an answer.
     static void Delay() { meanwhile(); }
     [[nodiscard]] static const HostileRow& Row() { return ways[GetParam()]; }
 
     TempFolder Folder;
+    // How often a function of the library was called; the library stays when all that knows it has gone.
+    mutable int (*CallsOf)(const char*) = nullptr;
     static inline std::function<void()> meanwhile;
 
 private:
@@ -66,8 +73,8 @@ private:
 
 TEST_P(HostileLibrary, gives_what_can_be_read_and_no_more) {
     std::string error;
-    const auto library = project::LoadAddOnLibrary([this](const std::string& path) { return Load(path); },
-                                                   Folder.Path(), error);
+    auto library = project::LoadAddOnLibrary([this](const std::string& path) { return Load(path); },
+                                             Folder.Path(), error);
     ASSERT_NE(library, nullptr) << error;
     EXPECT_EQ(library->GetProjectFile().size(), 255U);
     const auto stations = library->GetStations();
@@ -81,6 +88,15 @@ TEST_P(HostileLibrary, gives_what_can_be_read_and_no_more) {
         EXPECT_EQ(tag.TagName, std::string(40, 'x')) << "cut at the width of its field";
     library->AddFileToLoad("North", "/jobs/a.ini", "/etc/stacfg/kdormaga.ini");
     EXPECT_EQ(library->RemoveFileToLoad("North", "/jobs/a.ini", "/etc/stacfg/kdormaga.ini"), -1);
+    library->CoInitialize();
+    library.reset();
+    for (const char* once :
+         {"GetProjectFile", "GetStaList", "ReadTagList", "AddFileToLoad", "RemoveFileToLoad", "CoInitialize"})
+        ExpectCalls(once, 1);
+    ExpectCalls("FreeData", Row().Stations > 0 ? 1 : 0);
+    ExpectCalls("FreeTagList", Row().TagsGivenBack);
+    for (const char* never : {"CoUninitialize", "GetFilesToLoadList", "SetStaParam"})
+        ExpectCalls(never, 0);
 }
 
 // The window that comes up, or the word that there are no stations.
@@ -120,6 +136,8 @@ TEST_P(HostileLibrary, leaves_the_program_alive) {
     EXPECT_TRUE(world.Files.Content.empty());
     EXPECT_EQ(world.Screen.BusyNow, 0);
     EXPECT_GE(calls, 3);
+    ExpectCalls("CoInitialize", Row().Stations == 0 ? 0 : 1);
+    ExpectCalls("CoUninitialize", 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, HostileLibrary, testing::Range(std::size_t{0}, std::size(ways)),

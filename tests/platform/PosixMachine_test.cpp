@@ -286,6 +286,14 @@ TEST(DynamicLibrary, gives_its_symbols) {
     EXPECT_EQ(load.Library->Symbol("no_such_symbol"), nullptr);
 }
 
+TEST(DynamicLibrary, stays_loaded_when_all_that_knows_it_has_gone) {
+    auto load = LoadLibraryAt(MakePaths()->ExecutableFolder() + "/" PLATFORM_TEST_LIBRARY);
+    ASSERT_TRUE(load.Library) << load.Error;
+    auto* twice = load.Library->FunctionOf<int(int)>("twice");
+    load.Library.reset();
+    EXPECT_EQ(twice(21), 42);
+}
+
 TEST(DynamicLibrary, names_file_and_reason_of_a_failure) {
     const TempFolder folder;
     const auto broken = folder.Put("broken.so", "no library");

@@ -50,8 +50,9 @@ static std::int32_t GFC_ADDON_CALL FakeGetProjectFile(char* buffer, std::int32_t
 }
 
 static std::int16_t GFC_ADDON_CALL FakeGetStaList(std::int32_t* count, void** stations, std::int32_t one,
-                                                  const char* text) {
+                                                  char* text) {
     Call("GetStaList " + std::to_string(one) + " '" + text + "'");
+    std::strcpy(text, answers->WrittenBack.c_str());
     *count = answers->StationCount;
     *stations = ArrayIn(answers->Stations);
     return answers->StationResult;

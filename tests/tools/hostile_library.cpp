@@ -3,6 +3,8 @@
 #include "project/AddOnInterface.h"
 
 #include <cstring>
+#include <map>
+#include <string>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <vector>
@@ -30,6 +32,17 @@ enum class Way {
 constexpr std::int32_t Records = 3;
 Way theWay = Way::NullArrays;
 void (*theDelay)() = [] {};
+
+std::map<std::string, int>& Calls() {
+    static std::map<std::string, int> calls;
+    return calls;
+}
+
+// At the start of each function.
+void Enter(const char* function) {
+    ++Calls()[function];
+    theDelay();
+}
 
 // So many bytes that the first one behind them belongs to nobody.
 char* UpToTheEdge(std::size_t size) {
@@ -62,9 +75,11 @@ std::int32_t Count() {
     return theWay == Way::NegativeCounts ? INT32_MIN : theWay == Way::LargestCounts ? INT32_MAX : Records;
 }
 
-void Overwrite(char* text) {
+// As much as fits behind a text of any length.
+void Overwrite(void* text) {
+    constexpr std::size_t room = 512;
     if (text != nullptr && theWay == Way::WritesBack)
-        std::memset(text, 'w', 255);
+        std::memset(text, 'w', room);
 }
 
 } // namespace
@@ -79,15 +94,21 @@ void hostile_delay(void (*delay)()) {
     theDelay = delay;
 }
 
+int hostile_calls(const char* function) {
+    return Calls()[function];
+}
+
 std::int32_t kdaddon_VBGetProjectFile(char* buffer, std::int32_t size) {
-    theDelay();
+    Enter(__func__);
+    Overwrite(buffer);
     std::memset(buffer, 'p', static_cast<std::size_t>(size));
     std::memcpy(buffer, "/jobs/", 6);
     return 1;
 }
 
-std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int32_t, const char*) {
-    theDelay();
+std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int32_t, char* text) {
+    Enter(__func__);
+    Overwrite(text);
     if (theWay == Way::NothingWritten)
         return 1;
     *count = Count();
@@ -95,34 +116,53 @@ std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int
     return 1;
 }
 
-void kdaddon_VBFreeData(void*) {}
+void kdaddon_VBFreeData(void* stations) {
+    Enter(__func__);
+    Overwrite(stations); // it is the library's own again
+}
 
 std::int32_t kdaddon_VBReadTagList(TagRequest* request, void** tags) {
-    theDelay();
+    Enter(__func__);
+    Overwrite(request + 1);
     std::memset(request, 'r', sizeof *request);
     if (theWay != Way::NothingWritten)
         *tags = Array<TagRecord>();
     return Count();
 }
 
-void kdaddon_VBFreeTagList() {}
+void kdaddon_VBFreeTagList() {
+    Enter(__func__);
+}
 
 std::int32_t kdaddon_VBAddFileToLoad(char* station, char* local, char* target, std::int32_t, char* text) {
-    theDelay();
+    Enter(__func__);
     for (char* given : {station, local, target, text})
         Overwrite(given);
     return -1;
 }
 
 std::int16_t kdaddon_VBRemoveFileToLoad(char* station, char* local, char* target, char* text) {
-    theDelay();
+    Enter(__func__);
     for (char* given : {station, local, target, text})
         Overwrite(given);
     return -1;
 }
 
 void kdaddon_VBCoInitialize() {
-    theDelay();
+    Enter(__func__);
+}
+
+// What is in the library and no business of the program's.
+void kdaddon_VBCoUninitialize() {
+    Enter(__func__);
+}
+
+void kdaddon_VBGetFilesToLoadList() {
+    Enter(__func__);
+}
+
+void kdaddon_VBSetStaParam() {
+    Enter(__func__);
 }
 
 } // extern "C"

@@ -42,7 +42,8 @@ protected:
         return Get<AddOnReadTagList>("kdaddon_VBReadTagList")(&request, &tags);
     }
     [[nodiscard]] std::int16_t ReadStations(std::int32_t& count, void*& stations) const {
-        return Get<AddOnGetStaList>("kdaddon_VBGetStaList")(&count, &stations, 1, "");
+        std::string text;
+        return Get<AddOnGetStaList>("kdaddon_VBGetStaList")(&count, &stations, 1, text.data());
     }
     std::int32_t AddFile(std::string station, std::string local, std::string target) const {
         std::string text;

@@ -133,7 +133,7 @@ GFC_EXPORT std::int32_t GFC_ADDON_CALL kdaddon_VBGetProjectFile(char* buffer, st
 /// 1 also for a project without stations, whose count is 0 and whose pointer is null. The number and the text
 /// are taken as they come.
 GFC_EXPORT std::int16_t GFC_ADDON_CALL kdaddon_VBGetStaList(std::int32_t* count, void** stations,
-                                                            std::int32_t /*one*/, const char* /*text*/) {
+                                                            std::int32_t /*one*/, char* /*text*/) {
     if (count == nullptr || stations == nullptr) {
         return 0;
     }

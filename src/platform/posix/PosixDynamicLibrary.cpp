@@ -1,18 +1,17 @@
 #include "platform/DynamicLibrary.h"
 
 #include <dlfcn.h>
-#include <utility>
 
 namespace gfc::platform {
 namespace {
 
 class PosixDynamicLibrary : public DynamicLibrary {
 public:
-    explicit PosixDynamicLibrary(void* handle) : handle_(handle, ::dlclose) {}
-    void* Symbol(const char* name) const override { return ::dlsym(handle_.get(), name); }
+    explicit PosixDynamicLibrary(void* handle) : handle_(handle) {}
+    void* Symbol(const char* name) const override { return ::dlsym(handle_, name); }
 
 private:
-    std::unique_ptr<void, int (*)(void*)> handle_;
+    void* handle_; // never closed
 };
 
 // The system mostly starts its reason with the path, which the message names already.

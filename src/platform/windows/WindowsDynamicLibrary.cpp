@@ -7,15 +7,12 @@ namespace {
 class WindowsDynamicLibrary : public DynamicLibrary {
 public:
     explicit WindowsDynamicLibrary(HMODULE module) : module_(module) {}
-    WindowsDynamicLibrary(const WindowsDynamicLibrary&) = delete;
-    WindowsDynamicLibrary& operator=(const WindowsDynamicLibrary&) = delete;
-    ~WindowsDynamicLibrary() override { ::FreeLibrary(module_); }
     void* Symbol(const char* name) const override {
         return reinterpret_cast<void*>(::GetProcAddress(module_, name));
     }
 
 private:
-    HMODULE module_;
+    HMODULE module_; // never freed
 };
 
 // A drive with a folder from its root, or a share; anything else would be looked for in places of the

@@ -44,7 +44,7 @@ std::int32_t GetProjectFile(char* buffer, std::int32_t size) {
     return answers.Result;
 }
 
-std::int16_t GetStaList(std::int32_t* count, void** stations, std::int32_t /*one*/, const char* /*text*/) {
+std::int16_t GetStaList(std::int32_t* count, void** stations, std::int32_t /*one*/, char* /*text*/) {
     auto& answers = TheAnswers();
     *count = answers.Count;
     *stations = answers.Records();
