@@ -47,7 +47,7 @@ void LayProject(const fs::path& folder) {
     Put(folder / "notes.txt", "by hand");
     PutCsv(folder, "North");
     auto project = Project::Create(folder / ProjectFile);
-    EXPECT_TRUE(ImportTags(project, folder / CsvFile, ImportMode::Merge).Complaints.empty());
+    EXPECT_TRUE(ImportTags(project, {folder / CsvFile}).Complaints.empty());
     EXPECT_TRUE(AddFileToLoad(project, {"North", "old.ini", "/etc/stacfg/kdormaga.ini", -1}));
     PutCsv(folder, "South");
 }
@@ -158,8 +158,7 @@ std::vector<Operation> WorkshopOperations() {
         OpenMark(),
         OnProject("stand-in: import tags",
                   [](Project& project, const fs::path& folder) {
-                      EXPECT_TRUE(
-                          ImportTags(project, folder / CsvFile, ImportMode::Merge).Complaints.empty());
+                      EXPECT_TRUE(ImportTags(project, {folder / CsvFile}).Complaints.empty());
                   }),
         OnProject("stand-in: rename a tag",
                   [](Project& project, const fs::path&) {

@@ -110,6 +110,7 @@ TEST_F(Command, import_previews_what_it_would_do_and_changes_nothing) {
                                  "North,,VFX_RUN,Virtual Module,NEW,FX,9\n"
                                  "North,,VFX_RUN,Virtual Module,TIT_1201A,FX,1000\n");
     const std::string arguments = " " + Quoted("t.csv") + " --project " + Quoted("small.KPJ");
+    const std::string reading = "io-workshop: " + In("t.csv") + ": read as UTF-8, fields parted by commas.\n";
     const std::string preview = "West (new station): 1 tag added, 0 changed, 0 removed, 0 as they were\n"
                                 "  + W-1: X 1 in V\n"
                                 "North: 1 tag added, 1 changed, 1 removed, 1 as they were\n"
@@ -122,7 +123,7 @@ TEST_F(Command, import_previews_what_it_would_do_and_changes_nothing) {
     for (const std::string how : {"--preview", "--dry-run"}) {
         const Outcome outcome = Run("import-tags --replace " + how + arguments);
         EXPECT_EQ(outcome.Status, 0);
-        EXPECT_EQ(outcome.Output, preview);
+        EXPECT_EQ(outcome.Output, reading + preview);
     }
     EXPECT_THAT(
         Run("import-tags --preview" + arguments).Output,
@@ -206,7 +207,7 @@ TEST_F(Command, each_one_explains_itself_with_an_example) {
     EXPECT_THAT(Run("--version").Output, testing::MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+\n"));
     for (const std::string name :
          {"new", "demo", "open", "close", "import-tags", "export-tags", "stations", "tags", "where-used",
-          "rename-tag", "move-tag", "remove-tag", "files", "download"}) {
+          "mappings", "rename-tag", "move-tag", "remove-tag", "files", "download"}) {
         const Outcome help = Run(name + " --help");
         EXPECT_EQ(help.Status, 0) << name;
         EXPECT_THAT(help.Output, HasSubstr("Example:\n  io-workshop " + name));

@@ -79,11 +79,24 @@ TEST_F(CsvFile, reads_what_is_not_utf8_as_windows_1252_and_says_where_that_shows
               "wrong, save it as UTF-8");
 }
 
-TEST_F(CsvFile, refuses_a_workbook_and_utf16_and_says_how_to_save) {
-    for (const std::string& start : {std::string("PK\x03\x04"), std::string("\xD0\xCF\x11\xE0\xA1"),
-                                     std::string("\xFF\xFET\0a\0", 6), std::string("\xFE\xFF\0T", 4)}) {
+TEST_F(CsvFile, refuses_a_workbook_and_says_how_to_save) {
+    for (const std::string& start : {std::string("PK\x03\x04"), std::string("\xD0\xCF\x11\xE0\xA1")}) {
         EXPECT_THAT(FailureOf([&] { auto table = Read(start + "rest"); }),
                     HasSubstr("not a table in CSV; save it from the spreadsheet as \"CSV UTF-8\""));
+    }
+}
+
+TEST_F(CsvFile, reads_utf16_by_its_mark_or_by_its_zeros) {
+    const std::string little("T\0a\0g\0,\0\xF1\0\x3D\xD8\x00\xDE\n\0", 16);
+    const std::string big("\0T\0a\0g\0,\0\xF1\xD8\x3D\xDE\x00\0\n", 16);
+    for (const std::string& text : {"\xFF\xFE" + little, "\xFE\xFF" + big, little, big}) {
+        const CsvTable table = Read(text);
+        EXPECT_THAT(table.Rows.at(0).Fields, ElementsAre("Tag", "ñ😀"));
+        EXPECT_EQ(table.Encoding, "UTF-16");
+    }
+    for (const std::string& broken :
+         {std::string("\xFF\xFET\0a", 5), std::string("\xFF\xFE\x3D\xD8T\0", 6)}) {
+        EXPECT_THAT(FailureOf([&] { auto table = Read(broken); }), HasSubstr("UTF-16 that is broken near"));
     }
 }
 

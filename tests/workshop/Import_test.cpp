@@ -12,7 +12,7 @@ using testing::IsEmpty;
 
 namespace {
 
-const std::string Heading =
+const std::string Titles =
     "Station,Station Type,IP Address,Serial Number,Module,Module Type,Tag,Class,Register\n";
 
 } // namespace
@@ -21,7 +21,7 @@ class TagImport : public WorkshopFixture {
 protected:
     ImportPlan Import(Project& project, const std::string& table, ImportMode mode = ImportMode::Merge) {
         WriteBytes(Folder / "tags.csv", table);
-        return ImportTags(project, Folder / "tags.csv", mode);
+        return ImportTags(project, {Folder / "tags.csv", mode});
     }
     /// What is said about one table, row by row, after making sure that nothing of it was stored.
     std::vector<std::string> Complaints(const std::string& table, ImportMode mode = ImportMode::Merge) {
@@ -50,10 +50,10 @@ protected:
 
 TEST_F(TagImport, takes_stations_modules_and_tags_in_row_order) {
     Project project = Project::Create(Folder / "p.KPJ");
-    const ImportPlan result = Import(project, Heading + "West,Orm,10.1.1.1,55,VFX,Virtual Module,Z-1,FX,9\n"
-                                                        "East,,,,DI,DI-16 Card,XV-304,X,1\n"
-                                                        "West,,,,VFX,Virtual Module,A-1,fy,8\n"
-                                                        "West,,,,AI,AI-8 Card,Caudal_Ñ,AX,0\n");
+    const ImportPlan result = Import(project, Titles + "West,Orm,10.1.1.1,55,VFX,Virtual Module,Z-1,FX,9\n"
+                                                       "East,,,,DI,DI-16 Card,XV-304,X,1\n"
+                                                       "West,,,,VFX,Virtual Module,A-1,fy,8\n"
+                                                       "West,,,,AI,AI-8 Card,Caudal_Ñ,AX,0\n");
     EXPECT_THAT(result.Complaints, IsEmpty());
     ASSERT_EQ(result.Stations.size(), 2U);
     EXPECT_TRUE(result.Stations[0].IsNew());
@@ -81,23 +81,24 @@ TEST_F(TagImport, finds_columns_by_name_in_any_order_and_case) {
     ASSERT_EQ(tags.size(), 1U);
     EXPECT_EQ(tags[0].Name, "FT,201");
     EXPECT_EQ(tags[0].Register, 5);
-    EXPECT_EQ(tags[0].ModuleType, "");
+    EXPECT_EQ(tags[0].ModuleType, "Virtual Module"); // nobody says otherwise, and it has longs
+    EXPECT_THAT(result.Stations.at(0).TakenAsVirtual, ElementsAre("PI-4"));
     EXPECT_EQ(tags[0].Description, "He said \"go\"");
 }
 
 TEST_F(TagImport, row_without_module_and_tag_makes_a_station_without_tags) {
     Project project = Project::Create(Folder / "p.KPJ");
-    EXPECT_THAT(Import(project, Heading + "Lonely,Orm,10.0.0.9,3,,,,,\n").Complaints, IsEmpty());
+    EXPECT_THAT(Import(project, Titles + "Lonely,Orm,10.0.0.9,3,,,,,\n").Complaints, IsEmpty());
     ASSERT_TRUE(FindStation(project, "Lonely"));
     EXPECT_EQ(CountTags(project, FindStation(project, "Lonely")->Id), 0U);
 }
 
 TEST_F(TagImport, adds_behind_the_last_tag_of_the_module_and_new_modules_at_the_end) {
     Project project = MakeSmallProject();
-    EXPECT_THAT(Import(project, Heading + "north,New Type,,,NEW,Virtual Module,N-2,FX,3\n"
-                                          "north,,,,di-16 slot 3,,X-2,X,8\n"
-                                          "north,,,,NEW,Virtual Module,N-1,FX,2\n"
-                                          "north,,,,VFX_RUN,Virtual Module,AAA,FX,1\n")
+    EXPECT_THAT(Import(project, Titles + "north,New Type,,,NEW,Virtual Module,N-2,FX,3\n"
+                                         "north,,,,di-16 slot 3,,X-2,X,8\n"
+                                         "north,,,,NEW,Virtual Module,N-1,FX,2\n"
+                                         "north,,,,VFX_RUN,Virtual Module,AAA,FX,1\n")
                     .Complaints,
                 IsEmpty());
     EXPECT_THAT(TagNames(project, "North"),
@@ -110,7 +111,7 @@ TEST_F(TagImport, adds_behind_the_last_tag_of_the_module_and_new_modules_at_the_
 
 TEST_F(TagImport, merge_changes_a_tag_where_it_stands_and_keeps_what_is_left_empty) {
     Project project = MakeSmallProject();
-    const ImportPlan plan = Import(project, Heading + "North,,,,VFX_RUN,,Pit-101,FX,1005\n");
+    const ImportPlan plan = Import(project, Titles + "North,,,,VFX_RUN,,Pit-101,FX,1005\n");
     ASSERT_EQ(plan.Stations.size(), 1U);
     EXPECT_THAT(plan.Stations[0].Added, IsEmpty());
     EXPECT_THAT(plan.Stations[0].Removed, IsEmpty());
@@ -125,8 +126,8 @@ TEST_F(TagImport, merge_changes_a_tag_where_it_stands_and_keeps_what_is_left_emp
 
 TEST_F(TagImport, merge_lets_two_tags_change_places) {
     Project project = MakeSmallProject();
-    EXPECT_THAT(Import(project, Heading + "North,,,,VFX_RUN,,PIT-101,FX,1000\n"
-                                          "North,,,,VFX_RUN,,TIT_1201A,FX,1001\n")
+    EXPECT_THAT(Import(project, Titles + "North,,,,VFX_RUN,,PIT-101,FX,1000\n"
+                                         "North,,,,VFX_RUN,,TIT_1201A,FX,1001\n")
                     .Complaints,
                 IsEmpty());
     EXPECT_EQ(TagOf(project, "PIT-101").Register, 1000);
@@ -135,8 +136,8 @@ TEST_F(TagImport, merge_lets_two_tags_change_places) {
 
 TEST_F(TagImport, merge_takes_a_tag_to_another_module_and_a_module_to_another_type) {
     Project project = MakeSmallProject();
-    const ImportPlan plan = Import(project, Heading + "North,,,,VFX_2,Virtual Module,PIT-101,FX,1001\n"
-                                                      "North,,,,VFX_RUN,Calculation,NEW,FX,1\n");
+    const ImportPlan plan = Import(project, Titles + "North,,,,VFX_2,Virtual Module,PIT-101,FX,1001\n"
+                                                     "North,,,,VFX_RUN,Calculation,NEW,FX,1\n");
     EXPECT_THAT(TagNames(project, "North"), ElementsAre("XV-304", "TIT_1201A", "NEW", "PIT-101"));
     EXPECT_TRUE(plan.Stations[0].Reordered);
     EXPECT_EQ(TagOf(project, "TIT_1201A").ModuleType, "Calculation"); // its module's type, though not named
@@ -146,7 +147,7 @@ TEST_F(TagImport, merge_takes_a_tag_to_another_module_and_a_module_to_another_ty
 TEST_F(TagImport, what_the_project_holds_already_is_not_written_again) {
     Project project = MakeSmallProject();
     const std::string before = ReadBytes(Folder / "small.KPJ");
-    const ImportPlan plan = Import(project, Heading + "North,,,,VFX_RUN,,PIT-101,FX,1001\nSouth,,,,,,,,\n");
+    const ImportPlan plan = Import(project, Titles + "North,,,,VFX_RUN,,PIT-101,FX,1001\nSouth,,,,,,,,\n");
     EXPECT_FALSE(plan.Stations[0].ChangesAnything());
     EXPECT_FALSE(plan.Stations[1].ChangesAnything());
     EXPECT_EQ(ReadBytes(Folder / "small.KPJ"), before);
@@ -155,10 +156,10 @@ TEST_F(TagImport, what_the_project_holds_already_is_not_written_again) {
 TEST_F(TagImport, plan_tells_what_a_replacing_table_would_do_and_does_none_of_it) {
     Project project = MakeSmallProject();
     const std::string before = ReadBytes(Folder / "small.KPJ");
-    WriteBytes(Folder / "tags.csv", Heading + "North,,10.0.0.6,,VFX_RUN,Virtual Module,TIT_1201A,FX,1000\n"
-                                              "North,,,,VFX_RUN,Virtual Module,PIT-101,FX,1001\n"
-                                              "North,,,,VFX_RUN,Virtual Module,NEW,FX,7\n");
-    const ImportPlan plan = PlanImport(project, Folder / "tags.csv", ImportMode::Replace);
+    WriteBytes(Folder / "tags.csv", Titles + "North,,10.0.0.6,,VFX_RUN,Virtual Module,TIT_1201A,FX,1000\n"
+                                             "North,,,,VFX_RUN,Virtual Module,PIT-101,FX,1001\n"
+                                             "North,,,,VFX_RUN,Virtual Module,NEW,FX,7\n");
+    const ImportPlan plan = PlanImport(project, {Folder / "tags.csv", ImportMode::Replace});
     ASSERT_EQ(plan.Stations.size(), 1U);
     const StationPlan& north = plan.Stations[0];
     EXPECT_EQ(north.Added.size(), 1U);
@@ -176,17 +177,16 @@ TEST_F(TagImport, a_fault_leaves_the_project_byte_for_byte_as_it_was) {
     const std::string before = ReadBytes(Folder / "small.KPJ");
     const std::string good = "North,,,,VFX_RUN,Virtual Module,NEW,FX,7\nWest,,,,V,Virtual,W-1,X,1\n";
     for (const ImportMode mode : {ImportMode::Merge, ImportMode::Replace}) {
-        EXPECT_EQ(Import(project, Heading + good + "West,,,,V,Virtual,W-2,X,1\n", mode).Complaints.size(),
-                  1U);
+        EXPECT_EQ(Import(project, Titles + good + "West,,,,V,Virtual,W-2,X,1\n", mode).Complaints.size(), 1U);
         EXPECT_EQ(ReadBytes(Folder / "small.KPJ"), before);
     }
 }
 
 TEST_F(TagImport, replaces_the_tags_of_named_stations_only) {
     Project project = MakeSmallProject();
-    EXPECT_THAT(Import(project, Heading + "South,,,,M,Virtual,S-1,X,1\n").Complaints, IsEmpty());
+    EXPECT_THAT(Import(project, Titles + "South,,,,M,Virtual,S-1,X,1\n").Complaints, IsEmpty());
     EXPECT_THAT(
-        Import(project, Heading + "North,,,,VFX_RUN,Other,PIT-101,FX,1001\n", ImportMode::Replace).Complaints,
+        Import(project, Titles + "North,,,,VFX_RUN,Other,PIT-101,FX,1001\n", ImportMode::Replace).Complaints,
         IsEmpty());
     EXPECT_THAT(TagNames(project, "North"), ElementsAre("PIT-101"));
     EXPECT_EQ(ListTags(project, FindStation(project, "North")->Id)[0].ModuleType, "Other");
@@ -196,7 +196,7 @@ TEST_F(TagImport, replaces_the_tags_of_named_stations_only) {
 TEST_F(TagImport, tells_every_fault_by_row_and_column) {
     const std::string longName(41, 'n');
     EXPECT_THAT(
-        Complaints(Heading +
+        Complaints(Titles +
                    "South,,,,M,Virtual,T-1,QX,1\n"
                    "\n"
                    "South,,,,M,Virtual,T-2,FX,1.5\n"
@@ -220,15 +220,15 @@ TEST_F(TagImport, takes_a_name_of_forty_letters_beyond_ascii) {
     for (int i = 0; i < 40; ++i) {
         forty += "ñ";
     }
-    EXPECT_THAT(Import(project, Heading + "West,,,,M,Virtual," + forty + ",X,1\n").Complaints, IsEmpty());
+    EXPECT_THAT(Import(project, Titles + "West,,,,M,Virtual," + forty + ",X,1\n").Complaints, IsEmpty());
 }
 
 TEST_F(TagImport, refuses_texts_that_a_file_cannot_carry) {
-    EXPECT_THAT(Complaints(Heading + "../up,,,,M,Virtual,T-1,X,1\n"
-                                     "South,,,,M,Virtual,\" T-2\",X,2\n"
-                                     "South,,,,M,Virtual,\"T\t3\",X,3\n"
-                                     "South,,,,M,Virtual,\"T\n4\",X,4\n"
-                                     "South,,,,M,Virtual,T-5,X,2147483648\n"),
+    EXPECT_THAT(Complaints(Titles + "../up,,,,M,Virtual,T-1,X,1\n"
+                                    "South,,,,M,Virtual,\" T-2\",X,2\n"
+                                    "South,,,,M,Virtual,\"T\t3\",X,3\n"
+                                    "South,,,,M,Virtual,\"T\n4\",X,4\n"
+                                    "South,,,,M,Virtual,T-5,X,2147483648\n"),
                 ElementsAre("row 2, column Station: \"../up\" cannot be part of a file name",
                             HasSubstr("row 3, column Tag: \" T-2\" holds a control character or has a blank"),
                             HasSubstr("row 4, column Tag:"), HasSubstr("row 5, column Tag:"),
@@ -236,12 +236,12 @@ TEST_F(TagImport, refuses_texts_that_a_file_cannot_carry) {
 }
 
 TEST_F(TagImport, refuses_what_the_project_or_a_row_above_has) {
-    EXPECT_THAT(Complaints(Heading + "North,,,,VFX_RUN,Virtual Module,N-1,FX,1001\n"
-                                     "North,,,,VFX_RUN,Virtual Module,N-2,FX,3\n"
-                                     "North,,,,VFX_RUN,Virtual Module,N-3,fx,3\n"
-                                     "South,Orm,,,M,Virtual,S-1,X,1\n"
-                                     "South,Other,,,M,Virtual,s-1,X,2\n"
-                                     "SOUTH,,,,M,Physical,S-2,X,1\n"),
+    EXPECT_THAT(Complaints(Titles + "North,,,,VFX_RUN,Virtual Module,N-1,FX,1001\n"
+                                    "North,,,,VFX_RUN,Virtual Module,N-2,FX,3\n"
+                                    "North,,,,VFX_RUN,Virtual Module,N-3,fx,3\n"
+                                    "South,Orm,,,M,Virtual,S-1,X,1\n"
+                                    "South,Other,,,M,Virtual,s-1,X,2\n"
+                                    "SOUTH,,,,M,Physical,S-2,X,1\n"),
                 ElementsAre("row 2, column Register: the station has tag \"PIT-101\" at FX 1001 already",
                             "row 4, column Register: the station has tag \"N-2\" at FX 3 already",
                             "row 6, column Station Type: \"Other\" differs from \"Orm\" further up",
@@ -252,43 +252,44 @@ TEST_F(TagImport, refuses_what_the_project_or_a_row_above_has) {
 }
 
 TEST_F(TagImport, faults_of_a_replacing_table_leave_the_old_tags) {
-    EXPECT_THAT(Complaints(Heading + "North,,,,M,Virtual,T-1,FX,1\nNorth,,,,M,Virtual,T-1,FX,1\n",
+    EXPECT_THAT(Complaints(Titles + "North,,,,M,Virtual,T-1,FX,1\nNorth,,,,M,Virtual,T-1,FX,1\n",
                            ImportMode::Replace),
                 ElementsAre(HasSubstr("row 3, column Tag")));
 }
 
 TEST_F(TagImport, checks_the_columns_before_the_rows) {
-    EXPECT_THAT(Complaints("Station,Module,Tag,Class,Colour,Tag\nSouth,M,T,QQ,red,T\n"),
-                ElementsAre("row 1, column Colour: no such column is known",
-                            "row 1, column Tag: stands twice in the first row",
-                            "row 1, column Register: is missing in the first row"));
+    EXPECT_THAT(
+        Complaints("Station,Module,Tag,Class,Colour,Tag\nSouth,M,T,QQ,red,T\n"),
+        ElementsAre("row 1, column Colour: no such column is known; name it with --map or leave it out with "
+                    "--ignore-unknown",
+                    "row 1, column Tag: stands twice in the titles",
+                    "row 1, column Register: is missing in the titles"));
     std::filesystem::remove(Folder / "small.KPJ");
-    EXPECT_THAT(Complaints(Heading), ElementsAre("the table has no rows below its heading"));
+    EXPECT_THAT(Complaints(Titles), ElementsAre("the table has no rows below its heading"));
     std::filesystem::remove(Folder / "small.KPJ");
-    EXPECT_THAT(Complaints(Heading + "South,,,,M,Virtual,T,X,1,2,3\n"),
-                ElementsAre("row 2: has more fields than the first row has columns"));
+    EXPECT_THAT(Complaints(Titles + "South,,,,M,Virtual,T,X,1,2,3\n"),
+                ElementsAre("row 2: has more fields than the table has titles"));
 }
 
 TEST_F(TagImport, tells_where_quotes_do_not_pair) {
     Project project = MakeSmallProject();
-    EXPECT_THAT(FailureOf([&] { auto r = Import(project, Heading + "South,,,,M,Vir\"tual,T,X,1\n"); }),
+    EXPECT_THAT(FailureOf([&] { auto r = Import(project, Titles + "South,,,,M,Vir\"tual,T,X,1\n"); }),
                 HasSubstr("row 2: the quotes of the row do not pair"));
-    EXPECT_THAT(FailureOf([&] { auto r = Import(project, Heading + "South,,,,M,\"Virtual,T,X,1\n"); }),
+    EXPECT_THAT(FailureOf([&] { auto r = Import(project, Titles + "South,,,,M,\"Virtual,T,X,1\n"); }),
                 HasSubstr("the quotes of the row do not pair"));
 }
 
 TEST_F(TagImport, tells_a_file_that_cannot_be_read) {
     Project project = MakeSmallProject();
     for (const auto& file : {Folder / "none.csv", Folder}) {
-        EXPECT_THAT(FailureOf([&] { auto r = ImportTags(project, file, ImportMode::Merge); }),
-                    HasSubstr("cannot be read"));
+        EXPECT_THAT(FailureOf([&] { auto r = ImportTags(project, {file}); }), HasSubstr("cannot be read"));
     }
 }
 
 TEST_F(TagImport, keeps_module_runs_as_the_rows_have_them) {
     Project project = Project::Create(Folder / "p.KPJ");
     EXPECT_THAT(
-        Import(project, Heading + "W,,,,A,Virtual,T-1,X,1\nW,,,,B,Virtual,T-2,X,2\nW,,,,a,Virtual,T-3,X,3\n")
+        Import(project, Titles + "W,,,,A,Virtual,T-1,X,1\nW,,,,B,Virtual,T-2,X,2\nW,,,,a,Virtual,T-3,X,3\n")
             .Complaints,
         IsEmpty());
     const auto tags = ListTags(project, FindStation(project, "W")->Id);

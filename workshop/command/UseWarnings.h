@@ -11,7 +11,13 @@ namespace gfc::workshop {
 void AddUses(const Project& project, const Station& station, const std::vector<std::string>& tags,
              std::vector<TagUse>& uses);
 
-/// Tells that these bindings no longer fit the project and what to do; nothing for none. It is no failure.
-void WarnOf(const std::vector<TagUse>& uses);
+enum class Breaks {
+    Would, ///< of a preview
+    Do     ///< of what was done
+};
+
+/// Tells, station by station, that these bindings no longer fit the project and what to do; nothing for none.
+/// It is no failure.
+void WarnOf(const std::vector<TagUse>& uses, Breaks breaks = Breaks::Do);
 
 } // namespace gfc::workshop

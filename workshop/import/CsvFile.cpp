@@ -1,8 +1,8 @@
 #include "workshop/import/CsvFile.h"
 
+#include "workshop/import/Decoding.h"
 #include "workshop/store/Failure.h"
 #include "workshop/store/WholeFile.h"
-#include "workshop/text/CodePage.h"
 #include "workshop/text/Paths.h"
 
 #include <csv.h>
@@ -83,10 +83,9 @@ struct Signature {
     const char* Means;
 };
 
-// What a file starts with that a spreadsheet saves under another choice than CSV.
+// What a file starts with that a spreadsheet saves under another choice than CSV. No library that we could
+// lean on reads these.
 constexpr Signature Strangers[] = {
-    {"\xFF\xFE", "is a text in UTF-16"},
-    {"\xFE\xFF", "is a text in UTF-16"},
     {"PK\x03\x04", "is a workbook of a spreadsheet"},
     {"\xD0\xCF\x11\xE0", "is a workbook of a spreadsheet"},
 };
@@ -100,26 +99,6 @@ void RefuseStrangers(const std::filesystem::path& file, std::string_view bytes) 
     }
 }
 
-std::size_t RowOf(std::string_view text, std::size_t at) {
-    return 1 + static_cast<std::size_t>(std::count(text.begin(), text.begin() + at, '\n'));
-}
-
-// Makes the bytes UTF-8; gives the note on it.
-std::string Decode(std::string& bytes) {
-    if (bytes.starts_with(ByteOrderMark)) {
-        bytes.erase(0, ByteOrderMark.size());
-    }
-    const std::size_t fault = FirstByteNotUtf8(bytes);
-    if (fault == std::string::npos) {
-        return {};
-    }
-    std::string note = "line " + std::to_string(RowOf(bytes, fault)) +
-                       " is not UTF-8, so the whole file was read as Windows-1252; if letters come out "
-                       "wrong, save it as UTF-8";
-    bytes = FromCodePage(bytes);
-    return note;
-}
-
 // Some spreadsheets tell the separator in a first line "sep=;". NUL where there is no such line.
 char ToldSeparator(std::string_view text) {
     constexpr std::string_view Telling = "sep=";
@@ -129,40 +108,101 @@ char ToldSeparator(std::string_view text) {
                                                                                           : '\0';
 }
 
-// The first row holds titles, none of which has a separator in it.
-char SeparatorOf(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \r\n"), text.size()));
-    const std::string_view line = text.substr(0, text.find_first_of(LineEnds));
-    char most = ',';
-    for (const char candidate : {';', '\t'}) {
-        if (std::count(line.begin(), line.end(), candidate) > std::count(line.begin(), line.end(), most)) {
-            most = candidate;
+constexpr std::string_view Separators = ",;\t|";
+
+// The lines up to the titles of any list of points, and some more.
+std::string_view HeadOf(std::string_view text) {
+    constexpr std::size_t Lines = 60;
+    std::string_view rest = text;
+    for (std::size_t line = 0; line < Lines && !rest.empty(); ++line) {
+        static_cast<void>(TakeLine(rest));
+    }
+    return text.substr(0, text.size() - rest.size());
+}
+
+std::vector<CsvRow> ParseHead(std::string_view head, const std::filesystem::path& file, char separator) {
+    try {
+        Parser parser(file, separator);
+        while (!head.empty()) {
+            parser.Take(TakeLine(head));
         }
+        return parser.Finish();
+    } catch (const Failure&) {
+        return {}; // parted by this one, its quotes do not pair
+    }
+}
+
+std::size_t TitlesBy(char separator, std::string_view head, const std::filesystem::path& file,
+                     const CsvReading& reading) {
+    std::size_t most = 0;
+    for (const CsvRow& row : ParseHead(head, file, separator)) {
+        most = std::max(most, reading.Titles(row.Fields));
     }
     return most;
 }
 
-} // namespace
-
-CsvTable ReadCsv(const std::filesystem::path& file) {
-    return ReadCsv(ReadWhole(file), file);
+// Of a table without titles that anybody knows: what its first row has most of.
+char MostIn(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(" \r\n"), text.size()));
+    const std::string_view line = text.substr(0, text.find_first_of(LineEnds));
+    const auto fewer = [&](char a, char b) {
+        return std::count(line.begin(), line.end(), a) < std::count(line.begin(), line.end(), b);
+    };
+    return *std::max_element(Separators.begin(), Separators.end(), fewer);
 }
 
-CsvTable ReadCsv(std::string text, const std::filesystem::path& file) {
-    RefuseStrangers(file, text);
-    CsvTable table;
-    table.Note = Decode(text);
-    const char told = ToldSeparator(text);
-    Parser parser(file, told != '\0' ? told : SeparatorOf(text));
+char SeparatorOf(std::string_view text, const std::filesystem::path& file, const CsvReading& reading) {
+    char best = MostIn(text);
+    if (!reading.Titles) {
+        return best;
+    }
+    const std::string_view head = HeadOf(text);
+    std::size_t most = TitlesBy(best, head, file, reading);
+    for (const char candidate : Separators) {
+        if (const std::size_t titles = TitlesBy(candidate, head, file, reading); titles > most) {
+            best = candidate;
+            most = titles;
+        }
+    }
+    return best;
+}
+
+std::vector<CsvRow> ParseAll(std::string_view text, Parser& parser, const Progress& told) {
+    constexpr std::size_t Often = 1 << 20;
+    std::size_t next = Often;
     std::string_view rest = text;
+    while (!rest.empty()) {
+        parser.Take(TakeLine(rest));
+        if (const std::size_t done = text.size() - rest.size(); done > next) {
+            TellProgress(told, static_cast<double>(done) / static_cast<double>(text.size()));
+            next = done + Often;
+        }
+    }
+    return parser.Finish();
+}
+
+} // namespace
+
+CsvTable ReadCsv(const std::filesystem::path& file, const CsvReading& reading) {
+    return ReadCsv(ReadWhole(file), file, reading);
+}
+
+CsvTable ReadCsv(std::string bytes, const std::filesystem::path& file, const CsvReading& reading) {
+    RefuseStrangers(file, bytes);
+    DecodedText text = reading.Encoding.empty() ? Decode(std::move(bytes), PathText(file))
+                                                : DecodeAs(bytes, reading.Encoding, PathText(file));
+    CsvTable table;
+    table.Note = std::move(text.Note);
+    table.Encoding = std::move(text.Encoding);
+    std::string_view rest = text.Utf8;
+    const char told = ToldSeparator(rest);
+    table.Separator = told != '\0' ? told : SeparatorOf(rest, file, reading);
+    Parser parser(file, table.Separator);
     if (told != '\0') {
         static_cast<void>(TakeLine(rest));
         parser.Take("\n"); // keeps the count of the rows
     }
-    while (!rest.empty()) {
-        parser.Take(TakeLine(rest));
-    }
-    table.Rows = parser.Finish();
+    table.Rows = ParseAll(rest, parser, reading.Told);
     return table;
 }
 

@@ -45,6 +45,7 @@ public:
                 TakeTag(row);
             }
         }
+        TakeAsVirtual();
         CompleteTags();
         CheckRegisters();
         Arrange();
@@ -89,6 +90,25 @@ private:
             return;
         }
         rowTags_.push_back({&row, TagOf(row)});
+    }
+
+    // Only a virtual module has floats and longs that can be bound. One that the project has already stays
+    // what it is there, so that what was written out comes back as it was.
+    void TakeAsVirtual() {
+        for (const RowTag& row : rowTags_) {
+            Module& module = modules_.at(Folded(row.TheTag.Module));
+            const char kind = row.TheTag.Class.front();
+            if ((kind == 'F' || kind == 'L') && module.Type.empty() && module.Told.empty() &&
+                !StoodBefore(module.Name)) {
+                module.Told = "Virtual Module";
+                plan_.TakenAsVirtual.push_back(module.Name);
+            }
+        }
+    }
+
+    [[nodiscard]] bool StoodBefore(const std::string& module) const {
+        return std::any_of(before_.begin(), before_.end(),
+                           [&](const Tag& tag) { return SameName(tag.Module, module); });
     }
 
     // What a module is called, and its type, may be told by a later row than that of the tag.

@@ -48,6 +48,27 @@ void Store(Project& project, const StationPlan& plan) {
     }
 }
 
+CsvTable ReadRequested(const ImportRequest& request) {
+    CsvReading reading;
+    reading.Encoding = request.Wishes.Encoding;
+    reading.Titles = [&](const std::vector<std::string>& fields) {
+        return CountTitles(fields, request.Wishes);
+    };
+    reading.Told = request.Told;
+    return ReadCsv(request.Csv, reading);
+}
+
+std::string ReadingOf(const CsvTable& file) {
+    struct Named {
+        char Sign;
+        const char* Name;
+    };
+    constexpr Named Signs[] = {{',', "commas"}, {';', "semicolons"}, {'\t', "tabs"}, {'|', "bars"}};
+    const auto found = std::find_if(std::begin(Signs), std::end(Signs),
+                                    [&](const Named& sign) { return sign.Sign == file.Separator; });
+    return file.Encoding + ", fields parted by " + found->Name;
+}
+
 } // namespace
 
 bool StationPlan::PropertiesChange() const {
@@ -58,17 +79,20 @@ bool StationPlan::ChangesAnything() const {
     return IsNew() || PropertiesChange() || TagsChange(*this);
 }
 
-ImportPlan PlanImport(Project& project, const std::filesystem::path& csv, ImportMode mode) {
-    return PlanTable(project, ReadCsv(csv), mode);
+ImportPlan PlanImport(Project& project, const ImportRequest& request) {
+    return PlanTable(project, ReadRequested(request), request);
 }
 
-ImportPlan PlanTable(Project& project, CsvTable file, ImportMode mode) {
-    TagTable table = ReadTagTable(file.Rows);
+ImportPlan PlanTable(Project& project, CsvTable file, const ImportRequest& request) {
+    TagTable table = ReadTagTable(file.Rows, request.Wishes, request.Told);
     ImportPlan plan;
     plan.Note = std::move(file.Note);
+    plan.Reading = ReadingOf(file);
     plan.Complaints = std::move(table.Complaints);
+    plan.Notes = std::move(table.Notes);
     for (const auto& rows : ByStation(std::move(table.Rows))) {
-        PlanGroup(project, rows, mode, plan);
+        PlanGroup(project, rows, request.Mode, plan);
+        TellProgress(request.Told, 1.0);
     }
     std::stable_sort(plan.Complaints.begin(), plan.Complaints.end(),
                      [](const Complaint& a, const Complaint& b) { return a.Row < b.Row; });
@@ -78,13 +102,13 @@ ImportPlan PlanTable(Project& project, CsvTable file, ImportMode mode) {
     return plan;
 }
 
-ImportPlan ImportTags(Project& project, const std::filesystem::path& csv, ImportMode mode) {
-    return ImportTable(project, ReadCsv(csv), mode);
+ImportPlan ImportTags(Project& project, const ImportRequest& request) {
+    return ImportTable(project, ReadRequested(request), request);
 }
 
-ImportPlan ImportTable(Project& project, CsvTable file, ImportMode mode) {
+ImportPlan ImportTable(Project& project, CsvTable file, const ImportRequest& request) {
     Transaction transaction(project.Data()); // what was planned on must still hold when it is changed
-    ImportPlan plan = PlanTable(project, std::move(file), mode);
+    ImportPlan plan = PlanTable(project, std::move(file), request);
     for (const StationPlan& station : plan.Stations) {
         Store(project, station);
     }

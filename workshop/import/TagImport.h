@@ -30,6 +30,8 @@ struct StationPlan {
     std::vector<TagChange> Changed; ///< the same tag by name, whatever the case of its letters
     std::vector<Tag> Removed;
     bool Reordered = false; ///< the tags that stay are delivered in another order
+    /// Modules of floats or longs whose type nobody told; a station has such registers in virtual ones alone.
+    std::vector<std::string> TakenAsVirtual;
 
     [[nodiscard]] bool IsNew() const { return Before.Id == 0; }
     [[nodiscard]] bool PropertiesChange() const;
@@ -41,17 +43,28 @@ struct ImportPlan {
     std::vector<StationPlan> Stations; ///< in the order in which the table names them; empty with complaints
     std::vector<Complaint> Complaints; ///< by row; not empty: the table cannot be imported
     std::string Note;                  ///< how the file was read, where its reader should know
+    std::string Reading;               ///< the encoding and what parts the fields, for a preview
+    std::vector<std::string> Notes;    ///< what was taken otherwise than it stands
+};
+
+/// A table and how to take it.
+struct ImportRequest {
+    std::filesystem::path Csv;
+    ImportMode Mode = ImportMode::Merge;
+    TableWishes Wishes = {};
+    Progress Told = {}; ///< empty for nobody to be told
 };
 
 /// Reads table and project and changes nothing. New tags stand behind the last one that their module has so
 /// far, as tags of one module are delivered together, and else at the end, in the order of the rows; a
-/// replacing table gives the order itself. Throws Failure when the file or the project cannot be read.
-[[nodiscard]] ImportPlan PlanImport(Project& project, const std::filesystem::path& csv, ImportMode mode);
-[[nodiscard]] ImportPlan PlanTable(Project& project, CsvTable file, ImportMode mode);
+/// replacing table gives the order itself. Throws Failure when the file or the project cannot be read, or
+/// when the request's Progress gives up.
+[[nodiscard]] ImportPlan PlanImport(Project& project, const ImportRequest& request);
+[[nodiscard]] ImportPlan PlanTable(Project& project, CsvTable file, const ImportRequest& request);
 
 /// Plans and carries the plan out, all of it, or nothing when there are complaints. Throws Failure like
 /// PlanImport, and when the project cannot be written.
-[[nodiscard]] ImportPlan ImportTags(Project& project, const std::filesystem::path& csv, ImportMode mode);
-[[nodiscard]] ImportPlan ImportTable(Project& project, CsvTable file, ImportMode mode);
+[[nodiscard]] ImportPlan ImportTags(Project& project, const ImportRequest& request);
+[[nodiscard]] ImportPlan ImportTable(Project& project, CsvTable file, const ImportRequest& request);
 
 } // namespace gfc::workshop

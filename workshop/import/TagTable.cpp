@@ -1,167 +1,216 @@
 #include "workshop/import/TagTable.h"
 
-#include "workshop/text/CodePage.h"
+#include "workshop/import/TableValues.h"
 #include "workshop/text/Letters.h"
-#include "workshop/text/Paths.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
-#include <optional>
-#include <utility>
+#include <set>
 
 namespace gfc::workshop {
 
 namespace {
 
-enum class Kind { Text, FileName, Number, Class };
-enum class Need { Always, WithTag, Never }; // where the field must not be empty
-
-struct Column {
-    std::string_view Title;
-    std::string TableRow::*Field;
-    Kind Holds;
-    Need Needed;
-    std::size_t Width; // characters, as the library's records have room for
-};
-
-// clang-format off
-constexpr std::array<Column, 10> Columns = {{
-    {"Station",       &TableRow::Station,      Kind::FileName, Need::Always,  80},
-    {"Station Type",  &TableRow::StationType,  Kind::Text,     Need::Never,   80},
-    {"IP Address",    &TableRow::Address,      Kind::Text,     Need::Never,   20},
-    {"Serial Number", &TableRow::SerialNumber, Kind::Number,   Need::Never,   10},
-    {"Module",        &TableRow::Module,       Kind::Text,     Need::WithTag, 40},
-    {"Module Type",   &TableRow::ModuleType,   Kind::Text,     Need::Never,   80},
-    {"Tag",           &TableRow::Tag,          Kind::Text,     Need::WithTag, 40},
-    {"Class",         &TableRow::Class,        Kind::Class,    Need::WithTag, 10},
-    {"Register",      &TableRow::Register,     Kind::Number,   Need::WithTag, 10},
-    {"Description",   &TableRow::Description,  Kind::Text,     Need::Never,   80},
-}};
-// clang-format on
-
-std::optional<std::int32_t> ParseNumber(const std::string& text) {
-    std::int32_t number = 0;
-    const char* end = text.data() + text.size();
-    const auto result = std::from_chars(text.data(), end, number);
-    return result.ec == std::errc{} && result.ptr == end && number >= 0 ? std::optional(number)
-                                                                        : std::nullopt;
-}
-
-bool IsClass(const std::string& text) {
-    return std::find(RegisterClasses.begin(), RegisterClasses.end(), Upper(text)) != RegisterClasses.end();
-}
-
-// Blanks at the ends and line breaks would be lost on the way through a configuration file.
-bool IsPlain(const std::string& text) {
-    const bool control =
-        std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; });
-    return !control && text.front() != ' ' && text.back() != ' ';
-}
-
-// Empty when the text may stand under its column.
-std::string FaultOf(const Column& column, const std::string& text) {
-    if (!FitsCodePage(text)) {
-        return "\"" + text + "\" holds characters outside Windows-1252 or is not UTF-8";
-    }
-    if (CharacterCount(text) > column.Width) {
-        return "\"" + text + "\" is longer than " + std::to_string(column.Width) + " characters";
-    }
-    if (!IsPlain(text)) {
-        return "\"" + text + "\" holds a control character or has a blank at its end";
-    }
-    if (column.Holds == Kind::FileName && !IsFileName(text)) {
-        return "\"" + text + "\" cannot be part of a file name";
-    }
-    if (column.Holds == Kind::Number && !ParseNumber(text)) {
-        return "\"" + text + "\" is not a whole number from 0 to 2147483647";
-    }
-    if (column.Holds == Kind::Class && !IsClass(text)) {
-        return "\"" + text + "\" is no register class; use X, Y, AX, AY, FX, FY, LX or LY";
-    }
-    return {};
-}
-
 bool MustNotBeEmpty(const Column& column, const TableRow& row) {
     return column.Needed == Need::Always || (column.Needed == Need::WithTag && HoldsTag(row));
 }
 
-bool CheckRow(const TableRow& row, std::vector<Complaint>& complaints) {
-    const std::size_t before = complaints.size();
-    for (const Column& column : Columns) {
-        const std::string& text = row.*column.Field;
-        std::string fault;
-        if (!text.empty()) {
-            fault = FaultOf(column, text);
-        } else if (MustNotBeEmpty(column, row)) {
-            fault = "is empty";
-        }
-        if (!fault.empty()) {
-            complaints.push_back({row.Row, std::string(column.Title), fault});
-        }
+std::string FaultIn(const Column& column, const TableRow& row) {
+    const std::string& text = row.*column.Field;
+    if (!text.empty()) {
+        return FaultOf(column, text);
     }
-    return complaints.size() == before;
+    return MustNotBeEmpty(column, row) ? "is empty" : "";
 }
 
-using Heading = std::vector<const Column*>; // one per column of the file
-
-const Column* ColumnNamed(std::string_view title) {
-    const auto found = std::find_if(Columns.begin(), Columns.end(),
-                                    [&](const Column& column) { return SameName(column.Title, title); });
-    return found == Columns.end() ? nullptr : &*found;
-}
-
-Heading ReadHeading(const CsvRow& row, std::vector<Complaint>& complaints) {
-    Heading heading;
-    for (const std::string& title : row.Fields) {
-        const Column* column = ColumnNamed(title);
-        if (column == nullptr) {
-            complaints.push_back({row.Row, title, "no such column is known"});
-        } else if (std::find(heading.begin(), heading.end(), column) != heading.end()) {
-            complaints.push_back({row.Row, title, "stands twice in the first row"});
-        }
-        heading.push_back(column);
-    }
-    for (const Column& column : Columns) {
-        if (column.Needed != Need::Never &&
-            std::find(heading.begin(), heading.end(), &column) == heading.end()) {
-            complaints.push_back({row.Row, std::string(column.Title), "is missing in the first row"});
-        }
-    }
-    return heading;
-}
-
-TableRow ReadRow(const CsvRow& fields, const Heading& heading) {
+TableRow TakeFields(const CsvRow& fields, const Heading& heading) {
     TableRow row;
     row.Row = fields.Row;
-    for (std::size_t at = 0; at < std::min(heading.size(), fields.Fields.size()); ++at) {
-        row.*heading[at]->Field = fields.Fields[at];
+    for (std::size_t at = 0; at < std::min(heading.Columns.size(), fields.Fields.size()); ++at) {
+        if (heading.Columns[at] != nullptr) {
+            row.*heading.Columns[at]->Field = fields.Fields[at];
+        }
     }
     return row;
 }
 
-} // namespace
-
-std::string TextOf(const Complaint& complaint) {
-    std::string place = complaint.Row == 0 ? "" : "row " + std::to_string(complaint.Row);
-    if (!complaint.Column.empty()) {
-        place += (place.empty() ? "column " : ", column ") + complaint.Column;
-    }
-    return place.empty() ? complaint.Text : place + ": " + complaint.Text;
+bool IsComment(const CsvRow& row) {
+    const std::string& first = row.Fields.front();
+    return first.starts_with('#') || first.starts_with("//");
 }
+
+bool IsEmpty(const CsvRow& row) {
+    return std::all_of(row.Fields.begin(), row.Fields.end(),
+                       [](const std::string& text) { return text.empty(); });
+}
+
+// Fields behind the last title count only where they hold something.
+bool HasTooManyFields(const CsvRow& row, const Heading& heading) {
+    return std::any_of(row.Fields.begin() +
+                           static_cast<std::ptrdiff_t>(std::min(row.Fields.size(), heading.Columns.size())),
+                       row.Fields.end(), [](const std::string& text) { return !text.empty(); });
+}
+
+std::string Listed(const std::vector<std::string>& titles) {
+    std::string text;
+    for (const std::string& title : titles) {
+        text += (text.empty() ? "\"" : ", \"") + title + '"';
+    }
+    return text;
+}
+
+class TableReader {
+public:
+    TableReader(const TableWishes& wishes, const Progress& progress) : wishes_(wishes), progress_(progress) {}
+
+    [[nodiscard]] TagTable Read(const std::vector<CsvRow>& rows) {
+        if (rows.size() < 2) {
+            table_.Complaints.push_back({0, "", "the table has no rows below its heading"});
+            return std::move(table_);
+        }
+        heading_ = FindHeading(rows, wishes_, table_.Complaints);
+        otherwise_ = ReadDirection(wishes_.Direction).value_or(Direction::Untold);
+        if (table_.Complaints.empty()) { // without the right columns every row would be at fault
+            NoteHeading(rows);
+            TakeRows(rows);
+            LookForModules();
+            CountRegisters();
+        }
+        return std::move(table_);
+    }
+
+private:
+    void NoteHeading(const std::vector<CsvRow>& rows) {
+        if (heading_.At > 0) {
+            table_.Notes.push_back("the titles were found in row " + std::to_string(rows[heading_.At].Row) +
+                                   "; what stands above them was passed over");
+        }
+        std::string read;
+        for (std::size_t at = 0; at < heading_.Columns.size(); ++at) {
+            const Column* column = heading_.Columns[at];
+            if (column != nullptr && !SameName(column->Title, heading_.Titles[at])) {
+                read += (read.empty() ? "\"" : ", \"") + heading_.Titles[at] + "\" as " +
+                        std::string(column->Title);
+            }
+        }
+        if (!read.empty()) {
+            table_.Notes.push_back("columns read: " + read);
+        }
+        if (!heading_.Ignored.empty()) {
+            table_.Notes.push_back("left out: " + Listed(heading_.Ignored));
+        }
+    }
+
+    void TakeRows(const std::vector<CsvRow>& rows) {
+        constexpr std::size_t Often = 4096;
+        for (std::size_t at = heading_.At + 1; at < rows.size(); ++at) {
+            if (at % Often == 0) {
+                TellProgress(progress_, static_cast<double>(at) / static_cast<double>(rows.size()));
+            }
+            if (!IsComment(rows[at]) && (!heading_.Foreign || !IsEmpty(rows[at]))) {
+                TakeRow(rows[at]);
+            }
+        }
+    }
+
+    void TakeRow(const CsvRow& fields) {
+        if (HasTooManyFields(fields, heading_)) {
+            table_.Complaints.push_back({fields.Row, "", "has more fields than the table has titles"});
+            return;
+        }
+        TableRow row = TakeFields(fields, heading_);
+        GiveWished(row);
+        const std::vector<ValueFault> faults = PutInOurWords(row, otherwise_);
+        if (Passes(row, faults)) {
+            row.Class = Upper(row.Class);
+            table_.Rows.push_back(std::move(row));
+        }
+    }
+
+    void GiveWished(TableRow& row) {
+        row.Station = row.Station.empty() ? wishes_.Station : row.Station;
+        if (row.Module.empty() && HoldsTag(row)) {
+            row.Module = wishes_.Module;
+        }
+        for (const ModuleWish& wish : wishes_.ModuleTypes) {
+            if (SameName(wish.Module, row.Module)) {
+                row.ModuleType = wish.Type;
+                typed_.insert(&wish);
+            }
+        }
+    }
+
+    [[nodiscard]] bool Passes(const TableRow& row, const std::vector<ValueFault>& faults) {
+        const std::size_t before = table_.Complaints.size();
+        for (const Column& column : AllColumns()) {
+            const auto told = std::find_if(faults.begin(), faults.end(),
+                                           [&](const ValueFault& fault) { return fault.Where == &column; });
+            std::string fault = told == faults.end() ? FaultIn(column, row) : told->Text;
+            if (!fault.empty()) {
+                table_.Complaints.push_back({row.Row, heading_.NameOf(column), std::move(fault)});
+            }
+        }
+        return table_.Complaints.size() == before;
+    }
+
+    // A module that a person names and the table lacks is a slip of the pen.
+    void LookForModules() {
+        for (const ModuleWish& wish : wishes_.ModuleTypes) {
+            if (!typed_.contains(&wish)) {
+                table_.Complaints.push_back(
+                    {0, "", "no row is of the module \"" + wish.Module + "\", which --module-type names"});
+            }
+        }
+    }
+
+    // Our own tables say their registers as they are; those of other tools often count from 40001 and the
+    // like.
+    void CountRegisters() {
+        if (wishes_.RegisterBase) {
+            CountFromBase(*wishes_.RegisterBase);
+        } else if (const auto area = heading_.Foreign ? AreaOf(table_.Rows) : std::nullopt) {
+            CountFromBase(area->First);
+            table_.Notes.push_back("all registers stand from " + std::to_string(area->First) + " to " +
+                                   std::to_string(area->Last) + ", so " + std::to_string(area->First) +
+                                   " was taken for register 1; --register-base 1 takes them as they stand");
+        }
+    }
+
+    void CountFromBase(std::int64_t base) {
+        for (TableRow& row : table_.Rows) {
+            if (!row.Register.empty() && !CountFrom(base, row)) {
+                table_.Complaints.push_back({row.Row, heading_.NameOf(*ColumnNamed("Register")),
+                                             "\"" + row.Register + "\" stands before register 1 at " +
+                                                 std::to_string(base) + ", which --register-base names"});
+            }
+        }
+    }
+
+    const TableWishes& wishes_;
+    const Progress& progress_;
+    TagTable table_;
+    Heading heading_;
+    Direction otherwise_ = Direction::Untold;
+    std::set<const ModuleWish*> typed_;
+};
+
+} // namespace
 
 std::vector<std::string> ColumnTitles() {
     std::vector<std::string> titles;
-    for (const Column& column : Columns) {
-        titles.emplace_back(column.Title);
+    for (const Column& column : AllColumns()) {
+        if (column.Holds != Kind::Direction) {
+            titles.emplace_back(column.Title);
+        }
     }
     return titles;
 }
 
 std::vector<std::string> FieldsOf(const TableRow& row) {
     std::vector<std::string> fields;
-    for (const Column& column : Columns) {
-        fields.push_back(row.*column.Field);
+    for (const Column& column : AllColumns()) {
+        if (column.Holds != Kind::Direction) {
+            fields.push_back(row.*column.Field);
+        }
     }
     return fields;
 }
@@ -189,26 +238,8 @@ std::int32_t NumberOf(const std::string& text) {
     return ParseNumber(text).value_or(0);
 }
 
-TagTable ReadTagTable(const std::vector<CsvRow>& rows) {
-    TagTable table;
-    if (rows.size() < 2) {
-        table.Complaints.push_back({0, "", "the table has no rows below its heading"});
-        return table;
-    }
-    const Heading heading = ReadHeading(rows.front(), table.Complaints);
-    if (!table.Complaints.empty()) {
-        return table; // without the right columns every row would be at fault
-    }
-    for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
-        if (row->Fields.size() > heading.size()) {
-            table.Complaints.push_back({row->Row, "", "has more fields than the first row has columns"});
-            continue;
-        }
-        if (TableRow read = ReadRow(*row, heading); CheckRow(read, table.Complaints)) {
-            table.Rows.push_back(std::move(read));
-        }
-    }
-    return table;
+TagTable ReadTagTable(const std::vector<CsvRow>& rows, const TableWishes& wishes, const Progress& progress) {
+    return TableReader(wishes, progress).Read(rows);
 }
 
 } // namespace gfc::workshop

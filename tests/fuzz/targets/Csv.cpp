@@ -29,7 +29,8 @@ bool ChangesNothing(const workshop::ImportPlan& plan) {
 
 void CheckRoundTrip(workshop::Project& project, char separator) {
     const std::string text = TagTableText(StationTagsOf(project, ""), separator);
-    const auto again = PlanTable(project, workshop::ReadCsv(text, "again.csv"), ImportMode::Replace);
+    const auto again =
+        PlanTable(project, workshop::ReadCsv(text, "again.csv"), {"again.csv", ImportMode::Replace});
     Require(ChangesNothing(again), "what was taken in is written out and comes back");
 }
 
@@ -43,7 +44,7 @@ void Csv(std::string_view bytes) {
     bool taken = false;
     try {
         const auto table = workshop::ReadCsv(std::string(input.Rest()), "tags.csv");
-        const auto plan = ImportTable(project, table, mode);
+        const auto plan = ImportTable(project, table, {"tags.csv", mode});
         Require(plan.Complaints.empty() || plan.Stations.empty(), "a table with a fault is not taken");
         taken = !plan.Stations.empty();
         if (taken)
