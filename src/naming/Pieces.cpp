@@ -122,6 +122,34 @@ void AppendMeaning(Part part, std::vector<Part>& parts) {
     parts.push_back(std::move(part));
 }
 
+// "I_BUTANO", "CarbonDioxide": what two parts say together is not what each says alone. Of short ones only
+// those that chemists put in front are taken together: "D_P" may be anything.
+bool BelongsInFront(std::string_view text, std::string_view next) {
+    return text == "I" || text == "N" || (text.size() >= ShortestGrown && next.size() >= ShortestGrown);
+}
+
+std::size_t NextLetters(const std::vector<Part>& parts, std::size_t at) {
+    std::size_t next = at + 1;
+    if (next < parts.size() && parts[next].Kind == PartKind::Sign && parts[next].Text.size() == 1)
+        ++next;
+    const bool letters = next < parts.size() && parts[next].Kind == PartKind::Letters && !parts[next].Device;
+    return letters ? next : 0;
+}
+
+void JoinWords(std::vector<Part>& parts) {
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        if (parts[i].Kind != PartKind::Letters || parts[i].Device)
+            continue;
+        const std::size_t next = NextLetters(parts, i);
+        if (next == 0 || !BelongsInFront(parts[i].Text, parts[next].Text) ||
+            FindWord(parts[i].Text + parts[next].Text) == nullptr)
+            continue;
+        parts[i].Text += parts[next].Text;
+        const auto first = parts.begin() + static_cast<std::ptrdiff_t>(i) + 1;
+        parts.erase(first, parts.begin() + static_cast<std::ptrdiff_t>(next) + 1);
+    }
+}
+
 } // namespace
 
 std::vector<Part> PiecesOf(std::string_view name) {
@@ -143,6 +171,7 @@ std::vector<Part> PiecesOf(std::string_view name) {
 }
 
 void ReadMeanings(std::vector<Part>& parts) {
+    JoinWords(parts);
     std::vector<Part> read;
     for (Part& part : parts) {
         if (part.Kind == PartKind::Letters && !part.Device)

@@ -87,6 +87,13 @@ TEST(TagName, WordsGrownTogetherAndWordsCut) {
     EXPECT_THAT(Parse("STANDARDXYZ").Unknown, ElementsAre("STANDARDXYZ"));
 }
 
+TEST(TagName, TwoPartsThatSayOneThing) {
+    EXPECT_THAT(Parse("I_BUTANO").Subjects, ElementsAre(IsoButane));
+    EXPECT_THAT(Parse("GasNormalButane").Subjects, ElementsAre(Gas, NormalButane));
+    EXPECT_THAT(Parse("HydrogenSulfide").Subjects, ElementsAre(HydrogenSulfide));
+    EXPECT_THAT(Parse("iC5").Subjects, ElementsAre(IsoPentane));
+}
+
 TEST(TagName, TheRunThatAWordNames) {
     EXPECT_EQ(Parse("R1_PRES").Run, 1);
     EXPECT_EQ(Parse("TRAMO 3 TEMP").Run, 3);
