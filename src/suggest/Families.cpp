@@ -60,6 +60,10 @@ std::vector<DigitPlace> DigitPlacesOf(const TagFacts& tag) {
     AddPlaces(tag.Name, type, places);
     if (places.empty())
         AddPlaces(tag.Module, type + "|" + tag.Name.Folded, places);
+    else
+        return places;
+    for (DigitPlace& place : places)
+        place.Module = tag.Tag->ModuleName;
     return places;
 }
 
@@ -164,6 +168,8 @@ Reading Families::Read(std::size_t tag) const {
         const bool loop = place.Number.size() > 1;
         best.Why = {Evidence::RunDigit, (loop ? "loop " : "number ") + place.Number +
                                             " like the other tags of run " + std::to_string(place.Digit)};
+        if (!place.Module.empty())
+            best.Why = {Evidence::RunModule, place.Module};
         if (bound != confirmed_.end())
             best.Why = {Evidence::RunLikeBound, bound->second};
         best.IsSure = !refuted_.contains(place.Manner) && (coverage > 3 || place.Manner.size() > 2);

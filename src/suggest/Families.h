@@ -13,6 +13,7 @@ struct DigitPlace {
     std::string Family; // the name with a star for the digit: who shares it differs by this digit alone
     std::string Manner; // the number with the star and the word before it: "RUN|*", "|10*"
     std::string Place;  // which number, which digit of how many
+    std::string Module; // the module's name, where the digit is its; else empty
     std::string Number; // as it stands
     int Digit = 0;
 };

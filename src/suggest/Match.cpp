@@ -69,23 +69,41 @@ struct Saying {
     bool ByDevice = false;
 };
 
-std::optional<Saying> SayingOf(const TagFacts& tag, const binding::VariableRow& row) {
-    const Subjects words = SubjectsOf(tag, false);
+const Meaning* BestMeaning(const Subjects& said, const binding::VariableRow& row,
+                           const std::vector<const Meaning*>& meanings) {
+    const Meaning* best = nullptr;
+    for (const Meaning* meaning : meanings)
+        if (Says(said, *meaning, row) && (best == nullptr || meaning->Needs.size() > best->Needs.size()))
+            best = meaning;
+    return best;
+}
+
+// "FY-101_STDVOL" says a volume, and by its letters alone a flow: where the words mean a variable of the
+// class by themselves, the letters of a carrier add nothing.
+bool DoWordsMeanAnything(const TagFacts& tag, const Subjects& words) {
+    if (words.empty() || !IsCarrier(tag.Name.Device))
+        return false;
+    return std::ranges::any_of(binding::Catalogue(), [&](const binding::VariableRow& row) {
+        return row.Class == tag.Class && BestMeaning(words, row, MeaningsOf(row)) != nullptr;
+    });
+}
+
+std::optional<Saying> SayingOf(const TagFacts& tag, const binding::VariableRow& row,
+                               const std::vector<const Meaning*>& meanings) {
+    Subjects words = SubjectsOf(tag, false);
     const bool device = !tag.Name.Device.Letters.empty();
-    for (const bool withDevice : {true, false}) {
-        if (withDevice ? !device : (words.empty() || (device && !IsCarrier(tag.Name.Device))))
-            continue;
-        Subjects said = withDevice ? SubjectsOf(tag, true) : words;
-        const Meaning* best = nullptr;
-        for (const Meaning* meaning : MeaningsOf(row))
-            if (Says(said, *meaning, row) && (best == nullptr || meaning->Needs.size() > best->Needs.size()))
-                best = meaning;
-        // An element's own letters never are a result: those are computed.
-        const bool measured = withDevice && words.empty() && tag.Name.Device.Transmits && !IsInput(row);
-        if (best != nullptr && !measured)
-            return Saying{best, std::move(said), withDevice && words.empty()};
-    }
-    return std::nullopt;
+    if (!device || IsCarrier(tag.Name.Device))
+        if (const Meaning* best = words.empty() ? nullptr : BestMeaning(words, row, meanings))
+            return Saying{best, std::move(words), false};
+    if (!device)
+        return std::nullopt;
+    Subjects said = SubjectsOf(tag, true);
+    const Meaning* best = BestMeaning(said, row, meanings);
+    // An element's own letters never are a result: those are computed.
+    const bool measured = words.empty() && tag.Name.Device.Transmits && !IsInput(row);
+    if (best == nullptr || measured || DoWordsMeanAnything(tag, words))
+        return std::nullopt;
+    return Saying{best, std::move(said), words.empty()};
 }
 
 std::string Quoted(const naming::Part& part) {
@@ -159,10 +177,11 @@ bool IsStackedElsewhere(const TagFacts& tag, const binding::VariableRow& row) {
     return tag.Name.Says(Subject::Range) && row.Stem != "GasDPKDIO";
 }
 
-std::optional<Match> MatchOf(const binding::VariableRow& row, const TagFacts& tag) {
+std::optional<Match> MatchOf(const binding::VariableRow& row, const std::vector<const Meaning*>& meanings,
+                             const TagFacts& tag) {
     if (tag.Class != row.Class || IsStackedElsewhere(tag, row))
         return std::nullopt;
-    const auto saying = SayingOf(tag, row);
+    const auto saying = SayingOf(tag, row, meanings);
     if (!saying)
         return std::nullopt;
     Match match;
@@ -188,8 +207,9 @@ bool Has(const std::vector<Found>& evidence, Evidence kind) {
 
 std::vector<Match> MatchesOf(const binding::VariableRow& row, const std::vector<TagFacts>& facts) {
     std::vector<Match> matches;
+    const auto meanings = MeaningsOf(row);
     for (std::size_t i = 0; i < facts.size(); ++i)
-        if (auto match = MatchOf(row, facts[i])) {
+        if (auto match = MatchOf(row, meanings, facts[i])) {
             match->Tag = i;
             matches.push_back(std::move(*match));
         }

@@ -125,7 +125,9 @@ private:
         choice.Best = candidates.front();
         const auto near = static_cast<std::size_t>(std::ranges::count_if(
             candidates, [&](const Candidate& c) { return c.Weight > choice.Best.Weight - ClearMargin; }));
-        if (near > MostAlike)
+        // Where what parts them is not known, any of them would be a guess.
+        const bool unknown = near > 1 && Has(choice.Best.Means->Evidence, Evidence::UnknownWord);
+        if (near > MostAlike || unknown)
             return choice;
         choice.How = choice.Best.IsSure && near == 1 ? Confidence::High : Confidence::Fair;
         for (std::size_t i = 1; i < near; ++i)
@@ -203,7 +205,8 @@ private:
     bool CopyBound(Suggestion& suggestion) const {
         for (const BoundVariable& bound : question_.Bound) {
             if (!IsSameVariable(*bound.Variable.Row, *suggestion.Variable.Row) ||
-                bound.Variable.Run == suggestion.Variable.Run)
+                bound.Variable.Run == suggestion.Variable.Run ||
+                binding::ClassOf(bound.Binding.Type) != suggestion.Variable.Row->Class)
                 continue;
             suggestion.Binding = bound.Binding;
             suggestion.CopiedFrom = bound.Variable.Run;
@@ -265,7 +268,8 @@ private:
                 const auto there = [&](const auto& each) {
                     return each.first.RegAddr == bound.Binding.RegAddr;
                 };
-                if (IsThere(bound.Binding) && std::ranges::none_of(known, there))
+                const bool fits = binding::ClassOf(bound.Binding.Type) == want.Row->Class;
+                if (fits && IsThere(bound.Binding) && std::ranges::none_of(known, there))
                     known.emplace_back(bound.Binding, station.Name);
             }
         return known;
@@ -287,8 +291,8 @@ private:
 
     [[nodiscard]] std::string ReasonOfNone(const Want& want) const {
         const auto candidates = CandidatesFor(want);
-        if (candidates.size() > MostAlike)
-            return std::to_string(candidates.size()) + " tags say the same";
+        if (candidates.size() > 1)
+            return std::to_string(candidates.size()) + " free tags say the same";
         const auto matches =
             std::ranges::count_if(MatchesFor(want), [this](const Match& m) { return MayBeTaken(m); });
         if (matches == 0)
