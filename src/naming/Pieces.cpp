@@ -104,6 +104,14 @@ void Give(Part& part, const Word& word) {
         part.Means.push_back(*word.Also);
 }
 
+// "T3_PRES": in front of a number and of other words a single letter is a place, and no quantity.
+bool IsPlace(const std::vector<Part>& parts) {
+    return parts.size() > 3 && parts[0].Kind == PartKind::Letters && parts[0].Text.size() == 1 &&
+           parts[1].Kind == PartKind::Digits && parts[2].Kind == PartKind::Sign &&
+           parts[3].Kind == PartKind::Letters && FindWord(parts[0].Text) != nullptr &&
+           FindWord(parts[0].Text)->Means != Subject::Run;
+}
+
 void AppendMeaning(Part part, std::vector<Part>& parts) {
     if (const Word* word = FindWord(part.Text)) {
         Give(part, *word);
@@ -172,9 +180,10 @@ std::vector<Part> PiecesOf(std::string_view name) {
 
 void ReadMeanings(std::vector<Part>& parts) {
     JoinWords(parts);
+    const bool place = IsPlace(parts);
     std::vector<Part> read;
     for (Part& part : parts) {
-        if (part.Kind == PartKind::Letters && !part.Device)
+        if (part.Kind == PartKind::Letters && !part.Device && !(place && read.empty()))
             AppendMeaning(std::move(part), read);
         else
             read.push_back(std::move(part));

@@ -94,6 +94,12 @@ TEST(TagName, TwoPartsThatSayOneThing) {
     EXPECT_THAT(Parse("iC5").Subjects, ElementsAre(IsoPentane));
 }
 
+TEST(TagName, ALetterWithANumberInFrontIsAPlace) {
+    EXPECT_THAT(Parse("T3_PRES").Subjects, ElementsAre(Pressure));
+    EXPECT_THAT(Parse("T3").Subjects, ElementsAre(Temperature));
+    EXPECT_THAT(Parse("P_1").Subjects, ElementsAre(Pressure));
+}
+
 TEST(TagName, TheRunThatAWordNames) {
     EXPECT_EQ(Parse("R1_PRES").Run, 1);
     EXPECT_EQ(Parse("TRAMO 3 TEMP").Run, 3);
