@@ -6,9 +6,9 @@ say() { printf '\n== %s\n' "$*"; }
 packages_for_program=(
     clang cmake ninja-build
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 fontconfig fonts-dejavu-core
-    libsqlite3-dev libcli11-dev libcsv-dev
+    libsqlite3-dev libcli11-dev libcsv-dev nlohmann-json3-dev
 )
-packages_for_checks=(libgtest-dev libgmock-dev nlohmann-json3-dev clang-format)
+packages_for_checks=(libgtest-dev libgmock-dev clang-format)
 packages_for_package=(dpkg-dev file lintian desktop-file-utils appstream xvfb xdotool)
 packages_for_windows=(g++-mingw-w64-x86-64-posix wine wine64 googletest)
 packages_for_deep=(g++ libclang-rt-14-dev llvm mold python3)

@@ -1,5 +1,6 @@
 #include "forms/editors/FrAccelabar.h"
 
+#include "config/AccelabarSizes.h"
 #include "forms/editors/NumericFields.h"
 #include "forms/program/HelpFile.h"
 
@@ -12,22 +13,8 @@ namespace {
 using Form = FrAccelabar;
 using Record = config::RunMechanical;
 
-struct MeterSize {
-    const char* Size; // nominal, in
-    const char* Y;
-    const char* K;
-    const char* ThroatDia; // in
-};
-
-// clang-format off
-constexpr std::array<MeterSize, 6> sizes{{
-    {"3",  "0.7432", "0.6566", "1.289"},
-    {"4",  "0.6986", "0.7106", "1.700"},
-    {"6",  "0.6865", "0.6779", "2.560"},
-    {"8",  "0.6407", "0.7123", "3.389"},
-    {"10", "0.6095", "0.7329", "4.251"},
-    {"12", "0.5891", "0.7455", "5.056"},
-}};
+using MeterSize = config::AccelabarSize;
+constexpr auto& sizes = config::AccelabarSizes;
 
 struct Coefficient {
     ui::TextBox Form::*Field; // for "Other"
@@ -36,6 +23,7 @@ struct Coefficient {
     const char* MeterSize::*Constant;
 };
 
+// clang-format off
 constexpr std::array<Coefficient, 3> coefficients{{
     {&Form::Text1, &Form::lbAccelabarY, &Record::AccelabarY,         &MeterSize::Y},
     {&Form::Text2, &Form::lbAccelabarK, &Record::AccelabarK,         &MeterSize::K},

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "config/Materials.h"
+
 #include <array>
 #include <span>
 #include <string_view>
@@ -7,19 +9,9 @@
 // What FrParMec offers: materials, and unit captions and default values of each unit system.
 namespace gfc::forms {
 
-struct Material {
-    std::string_view Shown;
-    std::string_view Stored;
-};
-
-// The last entry of both is "Other", for which a person gives the coefficient.
-inline constexpr std::array<Material, 5> OrificeMaterials{{{"CS - Carbon Steel", "CS"},
-                                                           {"SS - Stainless Steel", "SS"},
-                                                           {"MONEL", "MONEL"},
-                                                           {"1Cr18Ni9Ti", "1Cr18Ni9Ti"},
-                                                           {"Other", "Other"}}};
-inline constexpr std::array<Material, 4> PipeMaterials{
-    {{"CS - Carbon Steel", "CS"}, {"SS - Stainless Steel", "SS"}, {"MONEL", "MONEL"}, {"Other", "Other"}}};
+using config::Material;
+using config::OrificeMaterials;
+using config::PipeMaterials;
 
 // The entry that a stored text selects: the last for one that the list does not hold.
 [[nodiscard]] int PositionOf(std::span<const Material> materials, std::string_view stored);

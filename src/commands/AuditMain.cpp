@@ -1,0 +1,64 @@
+#include "commands/Commands.h"
+#include "platform/Console.h"
+#include "platform/Machine.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <exception>
+#include <iostream>
+
+namespace gfc::commands {
+
+void Tell(std::string_view text) {
+    std::cerr << "gfc-audit: " << text << '\n';
+}
+
+namespace {
+
+int Run(CLI::App& app, std::vector<std::string> arguments, const int& status) {
+    try {
+        std::ranges::reverse(arguments); // as the parser takes them
+        app.parse(arguments);
+        if (!std::cout.flush())
+            throw Failure(exitcode::NotToBeHad,
+                          "the output could not be written; check the disk and the access rights.");
+        return status;
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? exitcode::Clean : exitcode::WrongUse; // asking for help is one, too
+    } catch (const Failure& failure) {
+        Tell(failure.what());
+        return failure.Code;
+    } catch (const std::exception& error) {
+        Tell(error.what());
+        return exitcode::NotToBeHad;
+    }
+}
+
+int Main(int argc, const char* const* argv) {
+    CLI::App app("Looks over the configurations of the stations of a project, and changes nothing.",
+                 "gfc-audit");
+    app.footer("\"gfc-audit COMMAND --help\" explains a command.\n"
+               "Exit codes:\n"
+               "  0  nothing found at the level that was asked for\n"
+               "  1  there are findings\n"
+               "  2  wrong use: no such command, option, folder or station\n"
+               "  3  the project could not be asked");
+    app.set_version_flag("--version", GFC_VERSION);
+    app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    platform::RealMachine real;
+    platform::Machine machine = real.Seams();
+    int status = exitcode::Clean;
+    const Context context{machine, status};
+    AddCheckCommand(app, context);
+    return Run(app, platform::ConsoleArguments(argc, argv), status);
+}
+
+} // namespace
+
+} // namespace gfc::commands
+
+int main(int argc, char** argv) {
+    return gfc::commands::Main(argc, argv);
+}

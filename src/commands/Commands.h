@@ -1,0 +1,38 @@
+#pragma once
+
+#include "commands/ExitCodes.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace CLI {
+class App;
+}
+
+namespace gfc::platform {
+struct Machine;
+}
+
+// The command line of gfc-audit: one source file for each subcommand. None of them writes a station's file.
+namespace gfc::commands {
+
+// Ends a command with a message that says what, where and what to do, and with an exit code.
+class Failure : public std::runtime_error {
+public:
+    Failure(int code, const std::string& text) : std::runtime_error(text), Code(code) {}
+    int Code;
+};
+
+// What the commands work with; status is what the program ends with if no command fails.
+struct Context {
+    platform::Machine& Machine;
+    int& Status;
+};
+
+void AddCheckCommand(CLI::App& app, Context context);
+
+// A line for whoever sits at the screen, apart from what a command gives out.
+void Tell(std::string_view text);
+
+} // namespace gfc::commands

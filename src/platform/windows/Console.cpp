@@ -1,0 +1,22 @@
+#include "platform/Console.h"
+
+#include "platform/windows/Wide.h"
+
+#include <shellapi.h>
+
+namespace gfc::platform {
+
+// The arguments that a program gets by itself are in the machine's own code page, which holds few of the
+// names that a folder can have.
+std::vector<std::string> ConsoleArguments(int, const char* const*) {
+    ::SetConsoleOutputCP(CP_UTF8);
+    int count = 0;
+    wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    std::vector<std::string> arguments;
+    for (int i = 1; words != nullptr && i < count; ++i)
+        arguments.push_back(windows::Utf8(words[i]));
+    ::LocalFree(words);
+    return arguments;
+}
+
+} // namespace gfc::platform
