@@ -1,5 +1,6 @@
 #include "audit/Check.h"
 
+#include "audit/Plausible.h"
 #include "audit/Subject.h"
 #include "platform/Files.h"
 #include "services/Text.h"
@@ -13,15 +14,29 @@ namespace {
 constexpr std::string_view NameStart = "KDOrmAGA_";
 constexpr std::string_view NameEnd = ".ini";
 
+void CheckPlausibility(const Subject& subject, Sink& sink) {
+    const config::StationConfig& station = subject.Station();
+    sink.AboutStation(subject.FlowSection());
+    CheckCommonValues(station, sink);
+    for (const RunSubject& run : subject.Runs())
+        if (run.IsThere()) {
+            sink.About(run.Number, run.On, run.Section);
+            CheckRunValues(station, run.IO, sink);
+            CheckMechanicalValues(station, run.Mechanical, sink);
+            CheckGasValues(station, run.Fixed, sink);
+        }
+}
+
 void CheckAll(const Subject& subject, const project::TagList* tags, Findings& findings) {
     Sink sink(findings);
     CheckNames(subject, sink);
     CheckLayout(subject, sink);
     CheckValues(subject, sink);
     CheckRuns(subject, sink);
-    CheckPlausible(subject, sink);
+    CheckPlausibility(subject, sink);
     if (tags != nullptr)
         CheckTags(subject, *tags, sink);
+    CheckDirections(subject, sink);
     CheckSharedTags(subject, sink);
     CheckTagNames(subject, sink);
     SortBySeverity(findings);

@@ -25,18 +25,16 @@ std::string Line(std::string_view kind, int number, const ExpectedTag& entry, st
 }
 
 std::optional<std::string> Error(const ExpectedTag& entry, int number) {
-    if (entry.Found)
+    const auto fault = ErrorOf(entry);
+    if (!fault)
         return std::nullopt;
     // The blank before the bracket belongs to the note.
-    const std::string fault =
-        entry.Tag == NotConfigured ? std::string(entry.Note) + " " : "No found in I/O data base";
-    return Line("Error", number, entry, fault);
+    return Line("Error", number, entry, std::string(*fault) + (*fault == entry.Note ? " " : ""));
 }
 
 std::optional<std::string> Warning(const ExpectedTag& entry, int number) {
-    if (!entry.Tag.empty())
-        return std::nullopt;
-    return Line("Warning", number, entry, "Tag without name");
+    const auto fault = WarningOf(entry);
+    return fault ? std::optional(Line("Warning", number, entry, *fault)) : std::nullopt;
 }
 
 struct SectionRow {
@@ -103,6 +101,16 @@ std::string ErrorLogPath(std::string_view configFile) {
     if (configFile.ends_with(ending))
         configFile.remove_suffix(ending.size());
     return std::string(configFile) + "_Errors.log";
+}
+
+std::optional<std::string_view> ErrorOf(const ExpectedTag& entry) {
+    if (entry.Found)
+        return std::nullopt;
+    return entry.Tag == NotConfigured ? entry.Note : "No found in I/O data base";
+}
+
+std::optional<std::string_view> WarningOf(const ExpectedTag& entry) {
+    return entry.Tag.empty() ? std::optional<std::string_view>("Tag without name") : std::nullopt;
 }
 
 std::vector<LogSection> ErrorLogSections(const ExpectedTags& expected) {

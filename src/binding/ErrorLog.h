@@ -2,6 +2,7 @@
 
 #include "binding/ExpectedTags.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,11 @@ namespace gfc::binding {
 
 // Beside the station's configuration file, ".ini" replaced by "_Errors.log". Empty for an empty path.
 [[nodiscard]] std::string ErrorLogPath(std::string_view configFile);
+
+// What the log says of an entry that is at fault; nothing for one that is not. The lists must have been
+// checked.
+[[nodiscard]] std::optional<std::string_view> ErrorOf(const ExpectedTag& entry);
+[[nodiscard]] std::optional<std::string_view> WarningOf(const ExpectedTag& entry);
 
 struct LogSection {
     std::string_view Name;

@@ -47,6 +47,10 @@ struct ExpectedTags {
 void BuildExpectedTags(const config::FileIni& ini, const std::string& file, config::StationConfig& station,
                        ExpectedTags& expected);
 
+// The same for the runs that are configured and off, as if they were on, without the atmospheric pressure.
+void BuildExpectedTagsOfRunsOff(const config::FileIni& ini, const std::string& file,
+                                config::StationConfig& station, ExpectedTags& expected);
+
 // Sets Found of every entry: address, type and name of one tag must all be the same, case included. True if
 // every entry was found and none has an empty name.
 [[nodiscard]] bool CheckExpectedTags(ExpectedTags& expected, const project::TagInventory& inventory);

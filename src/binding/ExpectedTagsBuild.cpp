@@ -95,8 +95,6 @@ Conditions CommonConditions(const config::StationConfig& station, const FileRead
 
 void AddRun(int run, Conditions conditions, FileReader& reader, ExpectedTags& expected) {
     const std::string section = "Run" + std::to_string(run);
-    if (!reader.SaysYes(FlowRuns, section))
-        return;
     const RunTexts& texts = reader.ReadRun(section);
     conditions.ExtMech = texts.ExtMechParam() == config::Yes;
     conditions.ExtCorr = texts.ExtCCorrFactors() == config::Yes; // in files edited by hand only
@@ -104,9 +102,20 @@ void AddRun(int run, Conditions conditions, FileReader& reader, ExpectedTags& ex
         Add(*row, section, texts.BindingOf(*row), expected);
 }
 
+std::string FlagOf(int run) {
+    return "Run" + std::to_string(run);
+}
+
+bool IsOn(int run, const FileReader& reader) {
+    return reader.SaysYes(FlowRuns, FlagOf(run));
+}
+
+bool IsOff(int run, const FileReader& reader) {
+    return !IsOn(run, reader) && reader.SaysYes(FlowRuns, FlagOf(run) + std::to_string(run));
+}
+
 bool IsConfigured(int run, const FileReader& reader) {
-    const std::string flag = "Run" + std::to_string(run);
-    return reader.SaysYes(FlowRuns, flag) || reader.SaysYes(FlowRuns, flag + std::to_string(run));
+    return IsOn(run, reader) || IsOff(run, reader);
 }
 
 void AddBound(int run, Conditions conditions, FileReader& reader, ExpectedTags& bound) {
@@ -127,25 +136,41 @@ ExpectedTag WorkingModule(const std::string& stem, const FileReader& reader) {
     return entry;
 }
 
+// Their memory serves on.
+void Clear(ExpectedTags& expected) {
+    for (auto* list : {&expected.ExpectedFloat, &expected.ExpectedAnalog, &expected.ExpectedLong,
+                       &expected.ExpectedDigital})
+        list->clear();
+}
+
 } // namespace
 
 void BuildExpectedTags(const config::FileIni& ini, const std::string& file, config::StationConfig& station,
                        ExpectedTags& expected) {
     FileReader reader(ini, file);
-    // Their memory serves on.
-    for (auto* list : {&expected.ExpectedFloat, &expected.ExpectedAnalog, &expected.ExpectedLong,
-                       &expected.ExpectedDigital})
-        list->clear();
+    Clear(expected);
     ReadChoices(reader, station);
     const Conditions common = CommonConditions(station, reader);
     const VariableRow& atmosphere = CommonPressureRow();
     if (atmosphere.Presence.InCheck(common))
         Add(atmosphere, std::string(CommonSection), reader.BindingOf(atmosphere, CommonSection), expected);
     for (int run = 1; run <= config::MaxRuns; ++run)
-        AddRun(run, common, reader, expected);
+        if (IsOn(run, reader))
+            AddRun(run, common, reader, expected);
     expected.WorkingFloat = WorkingModule("WrkFloat", reader);
     expected.WorkingAnalog = WorkingModule("WrkAnalog", reader);
     expected.WorkingLong = WorkingModule("WrkIntLong", reader);
+}
+
+void BuildExpectedTagsOfRunsOff(const config::FileIni& ini, const std::string& file,
+                                config::StationConfig& station, ExpectedTags& expected) {
+    FileReader reader(ini, file);
+    Clear(expected);
+    ReadChoices(reader, station);
+    const Conditions common = CommonConditions(station, reader);
+    for (int run = 1; run <= config::MaxRuns; ++run)
+        if (IsOff(run, reader))
+            AddRun(run, common, reader, expected);
 }
 
 ExpectedTags TagsInUse(const config::FileIni& ini, const std::string& file) {

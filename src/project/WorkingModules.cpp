@@ -19,19 +19,15 @@ struct KindRow {
     int MinimumRegisters;
 };
 
-constexpr int LongRegisters = 8;
-constexpr int AnalogRegisters = 32;
-constexpr int FloatRegisters = 128;
-
 // The two directions of each kind stand next to each other, the input first.
 // clang-format off
 constexpr std::array<KindRow, 6> Kinds = {{
-    {&Inventory::VirtLX, &Found::NamesLX, &Found::NLX, &Found::LongCandidates,   LongRegisters},
-    {&Inventory::VirtLY, &Found::NamesLY, &Found::NLY, &Found::LongCandidates,   LongRegisters},
-    {&Inventory::VirtAX, &Found::NamesAX, &Found::NAX, &Found::AnalogCandidates, AnalogRegisters},
-    {&Inventory::VirtAY, &Found::NamesAY, &Found::NAY, &Found::AnalogCandidates, AnalogRegisters},
-    {&Inventory::VirtFX, &Found::NamesFX, &Found::NFX, &Found::FloatCandidates,  FloatRegisters},
-    {&Inventory::VirtFY, &Found::NamesFY, &Found::NFY, &Found::FloatCandidates,  FloatRegisters},
+    {&Inventory::VirtLX, &Found::NamesLX, &Found::NLX, &Found::LongCandidates,   WorkingLongRegisters},
+    {&Inventory::VirtLY, &Found::NamesLY, &Found::NLY, &Found::LongCandidates,   WorkingLongRegisters},
+    {&Inventory::VirtAX, &Found::NamesAX, &Found::NAX, &Found::AnalogCandidates, WorkingAnalogRegisters},
+    {&Inventory::VirtAY, &Found::NamesAY, &Found::NAY, &Found::AnalogCandidates, WorkingAnalogRegisters},
+    {&Inventory::VirtFX, &Found::NamesFX, &Found::NFX, &Found::FloatCandidates,  WorkingFloatRegisters},
+    {&Inventory::VirtFY, &Found::NamesFY, &Found::NFY, &Found::FloatCandidates,  WorkingFloatRegisters},
 }};
 // clang-format on
 

@@ -10,6 +10,11 @@ struct Candidate {
     std::string ModuleName;
 };
 
+// What the package needs of each kind for its own work.
+inline constexpr int WorkingLongRegisters = 8;
+inline constexpr int WorkingAnalogRegisters = 32;
+inline constexpr int WorkingFloatRegisters = 128;
+
 // The virtual modules that are large enough for the package's own work: long 8, analog 32, float 128
 // registers. The counts are not cleared by ChooseWorkingModules: whatever opened a station must end in
 // ClearCounts.

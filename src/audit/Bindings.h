@@ -1,0 +1,36 @@
+#pragma once
+
+#include "audit/Subject.h"
+#include "binding/Catalogue.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace gfc::audit {
+
+// A variable that the configuration binds, with its run.
+struct Bound {
+    const binding::VariableRow* Row;
+    const config::TagBinding* Binding; // may be empty; part of the subject
+    int Run;                           // 0 for the common atmospheric pressure
+    bool On;
+    std::string_view Section;
+    bool InCheck; // the check of a file looks there
+
+    [[nodiscard]] bool IsMade() const { return Binding->IsMade(); }
+    [[nodiscard]] bool IsOutput() const;
+    [[nodiscard]] std::string Variable() const { return std::string(Row->Captions.Summary); }
+    [[nodiscard]] std::string WhoseRun() const; // "run 2", "the station"
+};
+
+// All variables of the configured runs, on or off, that their tree shows, and the common atmospheric
+// pressure. They point into the subject.
+[[nodiscard]] std::vector<Bound> BindingsOf(const Subject& subject);
+
+// The sink takes what follows as said of the variable's run.
+void About(const Bound& bound, Sink& sink);
+// A finding about the variable.
+Finding& Add(Sink& sink, RuleId rule, const Bound& bound, std::initializer_list<std::string_view> words);
+
+} // namespace gfc::audit
