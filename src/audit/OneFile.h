@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -18,6 +19,9 @@ public:
         return path == path_ ? std::optional(bytes_) : std::nullopt;
     }
     bool Replace(const std::string&, std::string_view) override { return false; }
+    bool PutAnew(const std::string&, std::string_view, const std::function<bool()>&) override {
+        return false;
+    }
     bool Exists(const std::string& path) override { return path == path_; }
     bool Delete(const std::string&) override { return false; }
     bool CopyNew(const std::string&, const std::string&) override { return false; }
