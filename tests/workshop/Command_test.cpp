@@ -207,7 +207,7 @@ TEST_F(Command, each_one_explains_itself_with_an_example) {
     EXPECT_THAT(Run("--version").Output, testing::MatchesRegex("[0-9]+\\.[0-9]+\\.[0-9]+\n"));
     for (const std::string name :
          {"new", "demo", "open", "close", "import-tags", "export-tags", "stations", "tags", "where-used",
-          "mappings", "rename-tag", "move-tag", "remove-tag", "files", "download"}) {
+          "mappings", "rename-tag", "move-tag", "remove-tag", "files", "download", "window"}) {
         const Outcome help = Run(name + " --help");
         EXPECT_EQ(help.Status, 0) << name;
         EXPECT_THAT(help.Output, HasSubstr("Example:\n  io-workshop " + name));

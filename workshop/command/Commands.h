@@ -25,6 +25,7 @@ void AddTagCommands(CLI::App& app);                ///< stations, tags
 void AddUseCommand(CLI::App& app);                 ///< where-used
 void AddTagEditCommands(CLI::App& app);            ///< rename-tag, move-tag, remove-tag
 void AddFileCommands(CLI::App& app, int& status);  ///< files, download
+void AddWindowCommand(CLI::App& app);              ///< window
 
 /// Adds --project to a command.
 void AddProjectOption(CLI::App& command, std::string& project);

@@ -180,7 +180,9 @@ void Import(const ImportOptions& options, int& status) {
 void AddForeignOptions(CLI::App& command, ImportOptions& options) {
     const auto checked = CLI::IsMember({"in", "out"}, CLI::ignore_case);
     TableWishes& told = options.Told;
-    command.add_option("--map", options.Maps, "Read the column THEIRS as OURS; repeated, quoted as in CSV")
+    command
+        .add_option("--map", options.Maps,
+                    "Read the column THEIRS as OURS, or leave it out for \"-\"; repeated, quoted as in CSV")
         ->type_name("THEIRS=OURS")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)

@@ -61,5 +61,6 @@ int main(int argc, char** argv) {
     AddUseCommand(app);
     AddTagEditCommands(app);
     AddFileCommands(app, status);
+    AddWindowCommand(app);
     return RunCommand(app, argc, argv, status);
 }

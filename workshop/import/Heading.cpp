@@ -69,6 +69,9 @@ private:
             const Column* column = ColumnNamed(wish.Ours);
             if (title == heading_.Titles.end()) {
                 Complain(wish.Theirs, "the table has no such column, which --map names");
+            } else if (wish.Ours == LeftOut) {
+                heading_.Ignored.push_back(*title);
+                heading_.Foreign = true;
             } else if (column == nullptr) {
                 Complain(wish.Theirs, "--map names \"" + wish.Ours + "\", which is no column of ours");
             } else {

@@ -53,7 +53,7 @@ const Line Lines[] = {
      [](TableWishes& w, const std::string& text) {
          const TextPair pair = SplitPair(text, "map");
          w.Columns.push_back({pair.Left, pair.Right});
-         return ColumnNamed(pair.Right) != nullptr;
+         return pair.Right == LeftOut || ColumnNamed(pair.Right) != nullptr;
      }},
     {"module-type",
      [](const TableWishes& w) {

@@ -13,10 +13,13 @@ namespace gfc::workshop {
 /// A column of theirs and the title under which it is to be read.
 struct ColumnWish {
     std::string Theirs; ///< as the table titles it, but for the case of its letters
-    std::string Ours;   ///< one of AllColumns()
+    std::string Ours;   ///< one of AllColumns(), or LeftOut
 
     bool operator==(const ColumnWish&) const = default;
 };
+
+/// Of a column that is not to be read, though its title is known.
+inline constexpr std::string_view LeftOut = "-";
 
 struct ModuleWish {
     std::string Module;

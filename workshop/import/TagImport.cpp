@@ -48,16 +48,6 @@ void Store(Project& project, const StationPlan& plan) {
     }
 }
 
-CsvTable ReadRequested(const ImportRequest& request) {
-    CsvReading reading;
-    reading.Encoding = request.Wishes.Encoding;
-    reading.Titles = [&](const std::vector<std::string>& fields) {
-        return CountTitles(fields, request.Wishes);
-    };
-    reading.Told = request.Told;
-    return ReadCsv(request.Csv, reading);
-}
-
 std::string ReadingOf(const CsvTable& file) {
     struct Named {
         char Sign;
@@ -79,17 +69,28 @@ bool StationPlan::ChangesAnything() const {
     return IsNew() || PropertiesChange() || TagsChange(*this);
 }
 
+CsvTable ReadRequested(const ImportRequest& request) {
+    CsvReading reading;
+    reading.Encoding = request.Wishes.Encoding;
+    reading.Titles = [&](const std::vector<std::string>& fields) {
+        return CountTitles(fields, request.Wishes);
+    };
+    reading.Told = request.Told;
+    return ReadCsv(request.Csv, reading);
+}
+
 ImportPlan PlanImport(Project& project, const ImportRequest& request) {
     return PlanTable(project, ReadRequested(request), request);
 }
 
-ImportPlan PlanTable(Project& project, CsvTable file, const ImportRequest& request) {
+ImportPlan PlanTable(Project& project, const CsvTable& file, const ImportRequest& request) {
     TagTable table = ReadTagTable(file.Rows, request.Wishes, request.Told);
     ImportPlan plan;
-    plan.Note = std::move(file.Note);
+    plan.Note = file.Note;
     plan.Reading = ReadingOf(file);
     plan.Complaints = std::move(table.Complaints);
     plan.Notes = std::move(table.Notes);
+    plan.Titles = std::move(table.Titles);
     for (const auto& rows : ByStation(std::move(table.Rows))) {
         PlanGroup(project, rows, request.Mode, plan);
         TellProgress(request.Told, 1.0);
@@ -106,9 +107,9 @@ ImportPlan ImportTags(Project& project, const ImportRequest& request) {
     return ImportTable(project, ReadRequested(request), request);
 }
 
-ImportPlan ImportTable(Project& project, CsvTable file, const ImportRequest& request) {
+ImportPlan ImportTable(Project& project, const CsvTable& file, const ImportRequest& request) {
     Transaction transaction(project.Data()); // what was planned on must still hold when it is changed
-    ImportPlan plan = PlanTable(project, std::move(file), request);
+    ImportPlan plan = PlanTable(project, file, request);
     for (const StationPlan& station : plan.Stations) {
         Store(project, station);
     }

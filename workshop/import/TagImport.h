@@ -45,6 +45,7 @@ struct ImportPlan {
     std::string Note;                  ///< how the file was read, where its reader should know
     std::string Reading;               ///< the encoding and what parts the fields, for a preview
     std::vector<std::string> Notes;    ///< what was taken otherwise than it stands
+    Heading Titles;                    ///< those of the table, and the columns that they were read as
 };
 
 /// A table and how to take it.
@@ -55,16 +56,19 @@ struct ImportRequest {
     Progress Told = {}; ///< empty for nobody to be told
 };
 
+/// The table alone. Throws Failure when the file cannot be read, or when the request's Progress gives up.
+[[nodiscard]] CsvTable ReadRequested(const ImportRequest& request);
+
 /// Reads table and project and changes nothing. New tags stand behind the last one that their module has so
 /// far, as tags of one module are delivered together, and else at the end, in the order of the rows; a
 /// replacing table gives the order itself. Throws Failure when the file or the project cannot be read, or
 /// when the request's Progress gives up.
 [[nodiscard]] ImportPlan PlanImport(Project& project, const ImportRequest& request);
-[[nodiscard]] ImportPlan PlanTable(Project& project, CsvTable file, const ImportRequest& request);
+[[nodiscard]] ImportPlan PlanTable(Project& project, const CsvTable& file, const ImportRequest& request);
 
 /// Plans and carries the plan out, all of it, or nothing when there are complaints. Throws Failure like
 /// PlanImport, and when the project cannot be written.
 [[nodiscard]] ImportPlan ImportTags(Project& project, const ImportRequest& request);
-[[nodiscard]] ImportPlan ImportTable(Project& project, CsvTable file, const ImportRequest& request);
+[[nodiscard]] ImportPlan ImportTable(Project& project, const CsvTable& file, const ImportRequest& request);
 
 } // namespace gfc::workshop

@@ -75,6 +75,7 @@ public:
             LookForModules();
             CountRegisters();
         }
+        table_.Titles = std::move(heading_);
         return std::move(table_);
     }
 
@@ -169,9 +170,10 @@ private:
             CountFromBase(*wishes_.RegisterBase);
         } else if (const auto area = heading_.Foreign ? AreaOf(table_.Rows) : std::nullopt) {
             CountFromBase(area->First);
-            table_.Notes.push_back("all registers stand from " + std::to_string(area->First) + " to " +
-                                   std::to_string(area->Last) + ", so " + std::to_string(area->First) +
-                                   " was taken for register 1; --register-base 1 takes them as they stand");
+            table_.Notes.push_back(
+                "all registers stand from " + std::to_string(area->First) + " to " +
+                std::to_string(area->Last) + ", so " + std::to_string(area->First) +
+                " was taken for register 1; a register base of 1 takes them as they stand");
         }
     }
 

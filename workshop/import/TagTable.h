@@ -36,6 +36,7 @@ struct TagTable {
     std::vector<Complaint>
         Complaints; ///< of single fields and rows; what the project holds is not looked at here
     std::vector<std::string> Notes; ///< what was taken otherwise than it stands, where its reader should know
+    Heading Titles;                 ///< as far as it was found
 };
 /// The row that has the most titles names the columns, in any order and any case, by our titles or by usual
 /// ones. The rows above it are passed over, and so are those that begin with "#" or "//".

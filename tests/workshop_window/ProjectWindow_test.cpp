@@ -1,0 +1,256 @@
+#include "workshop/WorkshopFixture.h"
+#include "workshop/store/OpenProject.h"
+#include "workshop/window/FilesDialog.h"
+#include "workshop/window/FilteredTable.h"
+#include "workshop/window/ImportDialog.h"
+#include "workshop/window/ProjectWindow.h"
+#include "workshop/window/Told.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTableWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <gmock/gmock.h>
+
+#include <functional>
+
+namespace gfc::workshop {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class ProjectWindowTest : public WorkshopFixture {
+protected:
+    void OpenSample() {
+        ASSERT_TRUE(window_.MakeSampleIn(Folder / "plant"));
+        window_.show();
+    }
+    template <typename Widget>
+    Widget* Find(const char* name, QWidget* in = nullptr) {
+        auto* found = (in != nullptr ? in : &window_)->findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+    FilteredTable* Table(const char* things) {
+        return qobject_cast<FilteredTable*>(Find<QTableView>(things)->parentWidget());
+    }
+    void Type(const char* name, const QString& text, QWidget* in = nullptr) {
+        auto* edit = Find<QLineEdit>(name, in);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClicks(edit, text);
+    }
+    /// Starts the action and answers the window that it opens; fails where none comes.
+    void Do(const char* action, const std::function<void(QDialog&)>& answer) {
+        Answer(answer, [&] { Find<QAction>(action)->trigger(); });
+    }
+    void Answer(const std::function<void(QDialog&)>& answer, const std::function<void()>& work) {
+        bool answered = false;
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, &window_, [&] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                dialog != nullptr && !answered) {
+                answered = true;
+                answer(*dialog);
+            }
+        });
+        look.start(0);
+        work();
+        EXPECT_TRUE(answered);
+    }
+    static void Say(QDialog& dialog, const QString& text) {
+        dynamic_cast<QInputDialog&>(dialog).setTextValue(text);
+        dialog.accept();
+    }
+    static void Press(QDialog& dialog, QMessageBox::StandardButton button) {
+        QTest::mouseClick(dynamic_cast<QMessageBox&>(dialog).button(button), Qt::LeftButton);
+    }
+    std::string Status() { return Run("tags Northgate_Custody").Output; }
+    std::string WriteTable(const std::string& bytes) {
+        WriteBytes(Folder / "points.csv", bytes);
+        return (Folder / "points.csv").string();
+    }
+
+    ProjectWindow window_;
+};
+
+TEST_F(ProjectWindowTest, shows_a_new_sample_and_makes_it_the_open_project) {
+    EXPECT_FALSE(Find<QAction>("ImportTags")->isEnabled());
+    OpenSample();
+    EXPECT_EQ(RecordedProject(), Folder / "plant" / "plant.KPJ");
+    EXPECT_EQ(Table("stations")->Current().value(0), QStringLiteral("Northgate_Custody"));
+    EXPECT_EQ(Find<QTableView>("stations")->model()->rowCount(), 8);
+    EXPECT_TRUE(Find<QAction>("ImportTags")->isEnabled());
+    Table("stations")->SelectFirst(QStringLiteral("Skid_Añelo"));
+    Type("tagsFilter", QStringLiteral("caudal n"));
+    EXPECT_EQ(Table("tags")->Current().value(0), QStringLiteral("Caudal_Ñ"));
+}
+
+TEST_F(ProjectWindowTest, renames_moves_and_removes_the_tag_that_is_highlighted) {
+    OpenSample();
+    ASSERT_TRUE(Table("tags")->SelectFirst(QStringLiteral("PT-302")));
+    Do("RenameTag", [](QDialog& dialog) { Say(dialog, QStringLiteral("PT-302A")); });
+    EXPECT_EQ(Table("tags")->Current().value(0), QStringLiteral("PT-302A"));
+    Do("MoveTag", [](QDialog& dialog) { Say(dialog, QStringLiteral("900")); });
+    EXPECT_THAT(Status(), HasSubstr("PT-302A"));
+    EXPECT_EQ(Table("tags")->Current().value(2), QStringLiteral("900"));
+    Do("RemoveTag", [](QDialog& dialog) { Press(dialog, QMessageBox::No); });
+    EXPECT_THAT(Status(), HasSubstr("PT-302A"));
+    Do("RemoveTag", [](QDialog& dialog) { Press(dialog, QMessageBox::Yes); });
+    EXPECT_THAT(Status(), testing::Not(HasSubstr("PT-302A")));
+}
+
+TEST_F(ProjectWindowTest, tells_why_a_name_is_refused_and_keeps_the_tag) {
+    OpenSample();
+    ASSERT_TRUE(Table("tags")->SelectFirst(QStringLiteral("PT-302")));
+    QStringList told;
+    bool first = true;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &window_, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+            told += box->text();
+            box->accept();
+        } else if (dialog != nullptr && first) {
+            first = false;
+            Say(*dialog, QStringLiteral("PT-301"));
+        }
+    });
+    look.start(0);
+    Find<QAction>("RenameTag")->trigger();
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_THAT(told.first().toStdString(), HasSubstr("has a tag PT-301 at AX 1 already"));
+    EXPECT_EQ(Table("tags")->Current().value(0), QStringLiteral("PT-302"));
+}
+
+TEST_F(ProjectWindowTest, tells_where_a_bound_tag_is_used_before_it_goes) {
+    OpenSample();
+    const auto stations = Run("stations").Output;
+    ASSERT_TRUE(Table("stations")->SelectFirst(QStringLiteral("Eastfield_Meter")) || true);
+    // The sample configures one station; one of its bound tags is asked for by the command, too.
+    bool used = false;
+    for (int row = 0; row < Find<QTableView>("stations")->model()->rowCount() && !used; ++row) {
+        Find<QTableView>("stations")->selectRow(row);
+        const std::string station = Table("stations")->Current().value(0).toStdString();
+        for (int tag = 0; tag < Find<QTableView>("tags")->model()->rowCount() && !used; ++tag) {
+            const std::string name =
+                Find<QTableView>("tags")->model()->index(tag, 0).data().toString().toStdString();
+            if (name.find("PIT") != std::string::npos || name.find("PT") == 0) {
+                used = Run("where-used " + name + " " + station).Output.find("Run1") != std::string::npos;
+                Find<QTableView>("tags")->selectRow(tag);
+            }
+        }
+    }
+    ASSERT_TRUE(used);
+    QString asked;
+    Do("RemoveTag", [&](QDialog& dialog) {
+        asked = dynamic_cast<QMessageBox&>(dialog).text();
+        Press(dialog, QMessageBox::No);
+    });
+    EXPECT_THAT(asked.toStdString(), HasSubstr("The station's configuration names this tag at:\nRun1, "));
+}
+
+TEST_F(ProjectWindowTest, takes_a_dropped_table_in_once_its_columns_are_named) {
+    OpenSample();
+    const std::string table =
+        WriteTable("PT_NAME;KIND;ADR_X;COLOUR\nQ-1;FLOAT;40011;red\nQ-2;FLOAT;40013;blue\n");
+    Answer(
+        [&](QDialog& dialog) {
+            auto* preview = Find<QTreeWidget>("Preview", &dialog);
+            auto* import = Find<QPushButton>("Import", &dialog);
+            ASSERT_TRUE(QTest::qWaitFor([&] { return preview->topLevelItemCount() > 0; }));
+            EXPECT_FALSE(import->isEnabled());
+            const auto choose = [&](int row, const char* ours) {
+                auto* choice =
+                    qobject_cast<QComboBox*>(Find<QTableWidget>("Titles", &dialog)->cellWidget(row, 1));
+                choice->setCurrentText(QLatin1String(ours));
+                Q_EMIT choice->activated(choice->currentIndex());
+            };
+            choose(0, "Tag");
+            choose(1, "Class");
+            choose(2, "Register");
+            choose(3, "left out");
+            Type("Station", QStringLiteral("Newfield"), &dialog);
+            Type("Module", QStringLiteral("V1"), &dialog);
+            auto* direction = Find<QComboBox>("Direction", &dialog);
+            direction->setCurrentIndex(1);
+            Q_EMIT direction->activated(1);
+            ASSERT_TRUE(QTest::qWaitFor([&] { return import->isEnabled(); }));
+            dialog.grab().save(QString::fromStdString(::testing::TempDir() + "import-dialog.png"));
+            QTest::mouseClick(import, Qt::LeftButton);
+        },
+        [&] {
+            QMimeData data;
+            data.setUrls({QUrl::fromLocalFile(QString::fromStdString(table))});
+            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&window_, &enter);
+            QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&window_, &drop);
+        });
+    EXPECT_THAT(Run("tags Newfield").Output, HasSubstr("Q-2  FX     13        V1      Virtual Module"));
+}
+
+TEST_F(ProjectWindowTest, shows_what_a_table_of_another_tool_would_break_and_takes_nothing_on_cancel) {
+    OpenSample();
+    ASSERT_EQ(Run("export-tags " + Quoted("all.csv")).Status, 0);
+    std::string table = ReadBytes(Folder / "all.csv");
+    for (std::size_t at = table.find(",FX,"); at != std::string::npos; at = table.find(",FX,", at + 5)) {
+        table.insert(at + 4, "7");
+    }
+    const std::string file = WriteTable(table);
+    const std::string before = Run("tags").Output;
+    Answer(
+        [&](QDialog& dialog) {
+            auto* preview = Find<QTreeWidget>("Preview", &dialog);
+            const auto broken = [&] {
+                return !preview
+                            ->findItems(QStringLiteral("stored bindings that would break"), Qt::MatchContains)
+                            .isEmpty();
+            };
+            EXPECT_TRUE(QTest::qWaitFor(broken));
+            dialog.reject();
+        },
+        [&] { window_.ImportTable(file); });
+    EXPECT_EQ(Run("tags").Output, before);
+}
+
+TEST_F(ProjectWindowTest, downloads_what_the_stations_are_to_load) {
+    OpenSample();
+    FilesDialog dialog(Folder / "plant" / "plant.KPJ");
+    auto* table =
+        qobject_cast<FilteredTable*>(dialog.findChild<QTableView*>(QStringLiteral("files"))->parentWidget());
+    ASSERT_FALSE(table->Current().isEmpty());
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &dialog, [] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
+        }
+    });
+    look.start(0);
+    dialog.DownloadTo(Folder / "stations");
+    EXPECT_THAT(dialog.findChild<QLabel*>(QStringLiteral("Outcome"))->text().toStdString(),
+                HasSubstr("Files downloaded: 1."));
+    const std::filesystem::path target =
+        Folder / "stations" / table->Current().value(0).toStdString() / "etc" / "stacfg" / "kdormaga.ini";
+    EXPECT_TRUE(std::filesystem::exists(target));
+}
+
+TEST_F(ProjectWindowTest, says_that_no_project_is_open_and_what_to_do) {
+    window_.show();
+    window_.ImportTable(Folder / "none.csv");
+    EXPECT_EQ(window_.windowTitle(), QStringLiteral("I/O Workshop"));
+    EXPECT_FALSE(Find<QAction>("RemoveTag")->isEnabled());
+}
+
+} // namespace gfc::workshop

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "workshop/store/Failure.h"
+#include "workshop/text/Paths.h"
+
+#include <QMessageBox>
+#include <QString>
+
+#include <filesystem>
+#include <string>
+
+namespace gfc::workshop {
+
+[[nodiscard]] inline QString Shown(const std::string& utf8) {
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+[[nodiscard]] inline QString Shown(const std::filesystem::path& path) {
+    return Shown(PathText(path));
+}
+[[nodiscard]] inline std::string Typed(const QString& text) {
+    return text.toStdString();
+}
+
+/// Does it, and tells in a box what refused it; false then.
+template <typename Work>
+bool Attempt(QWidget* parent, Work work) {
+    try {
+        work();
+        return true;
+    } catch (const std::exception& failure) {
+        QMessageBox::warning(parent, QMessageBox::tr("I/O Workshop"), Shown(std::string(failure.what())));
+        return false;
+    }
+}
+
+} // namespace gfc::workshop
