@@ -6,7 +6,7 @@ say() { printf '\n== %s\n' "$*"; }
 packages_for_program=(
     clang cmake ninja-build
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 fontconfig fonts-dejavu-core
-    libsqlite3-dev libcli11-dev libcsv-dev nlohmann-json3-dev
+    libsqlite3-dev libcli11-dev libcsv-dev nlohmann-json3-dev nettle-dev zlib1g-dev
 )
 packages_for_checks=(libgtest-dev libgmock-dev clang-format)
 packages_for_package=(dpkg-dev file lintian desktop-file-utils appstream xvfb xdotool)

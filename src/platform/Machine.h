@@ -40,6 +40,8 @@ public:
     [[nodiscard]] virtual std::string ExecutableFolder() = 0;
     // The folder in which a profile that is named without a folder is looked for; empty if there is none.
     [[nodiscard]] virtual std::string ProfileFolder() = 0;
+    // The name under which the person is logged on; empty if the machine does not tell.
+    [[nodiscard]] virtual std::string UserName() = 0;
 };
 
 // The full path of a profile: a name without a folder stands in the profile folder, a path stays as it is.

@@ -28,6 +28,7 @@ class FakePaths : public platform::Paths {
 public:
     std::string ExecutableFolder() override { return "/opt/gfc"; }
     std::string ProfileFolder() override { return "/etc/profiles"; }
+    std::string UserName() override { return "operator"; }
 };
 
 // The I/O Workshop tool with a project open in it.

@@ -54,6 +54,12 @@ public:
         const std::string home = HomeFolder();
         return home.empty() ? home : home + "/.config";
     }
+
+    // By the account and not by a variable, which anybody can set.
+    std::string UserName() override {
+        const passwd* user = ::getpwuid(::geteuid());
+        return user && user->pw_name ? user->pw_name : "";
+    }
 };
 
 } // namespace

@@ -21,6 +21,16 @@ public:
         path.resize(length < LongestPath ? length : 0);
         return windows::Utf8(path);
     }
+
+    std::string UserName() override {
+        constexpr DWORD longestName = 257; // UNLEN and the closing NUL
+        std::wstring name(longestName, L'\0');
+        DWORD length = longestName;
+        if (!::GetUserNameW(name.data(), &length) || length == 0)
+            return {};
+        name.resize(length - 1);
+        return windows::Utf8(name);
+    }
 };
 
 } // namespace

@@ -1,0 +1,172 @@
+#include "record/ProjectRecorder.h"
+
+#include "record/Compression.h"
+#include "record/History.h"
+#include "record/Sha256.h"
+#include "record/Verification.h"
+#include "services/modLocalTimeAndGMT.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace gfc::record {
+namespace {
+
+using config::FileChange;
+using config::FileState;
+
+std::string UtcText(const services::Clock& clock, const services::TimeZone& zone) {
+    services::SystemTime now;
+    services::GetGMTNow(clock, zone, now);
+    char text[40];
+    (void)std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02dZ", int(now.wYear), int(now.wMonth),
+                        int(now.wDay), int(now.wHour), int(now.wMinute), int(now.wSecond));
+    return text;
+}
+
+std::string HashOfFile(const FileState& file) {
+    return file ? Sha256(*file) : std::string();
+}
+
+std::string_view BytesOf(const FileState& file) {
+    return file ? std::string_view(*file) : std::string_view();
+}
+
+} // namespace
+
+struct ProjectRecorder::Known {
+    bool Ever = false;
+    std::string FileHash;
+    std::string Content; // as it is kept
+
+    [[nodiscard]] bool Is(const FileState& file) const { return FileHash == HashOfFile(file); }
+};
+
+ProjectRecorder::Known ProjectRecorder::LastKnown(History& history, const std::string& station) {
+    auto last = history.LastOf(station);
+    if (!last)
+        return {};
+    return {true, last->Facts.FileHash, std::move(last->Content)};
+}
+
+template <class Work>
+void ProjectRecorder::Trying(Work work) {
+    try {
+        work();
+        trouble_.clear();
+    } catch (const Failure& failure) {
+        trouble_ = failure.what();
+    }
+}
+
+// Without a lock: most that are looked at have not changed.
+bool ProjectRecorder::IsNews(const std::string& record, const std::vector<FileChange>& changes) {
+    auto history = History::OpenToRead(record);
+    return std::ranges::any_of(changes, [&](const FileChange& change) {
+        const Known known = history ? LastKnown(*history, change.Station) : Known{};
+        return !known.Is(change.Before) || change.Before != change.After;
+    });
+}
+
+void ProjectRecorder::Record(std::vector<FileChange> changes) {
+    Trying([&] {
+        if (!changes.empty() && IsNews(changes.front().Record, changes))
+            EnterAll(changes);
+    });
+}
+
+void ProjectRecorder::EnterAll(const std::vector<FileChange>& changes) {
+    History history = History::OpenToWrite(changes.front().Record);
+    Transaction transaction(history.Data());
+    for (const FileChange& change : changes)
+        Enter(history, change);
+    transaction.Commit();
+}
+
+// What something else did to the file comes before what the command did to it.
+void ProjectRecorder::Enter(History& history, const FileChange& change) {
+    const Known known = LastKnown(history, change.Station);
+    if (!known.Is(change.Before)) {
+        const auto command = known.Ever ? config::command::FoundChanged : config::command::Found;
+        FileState before;
+        if (!known.FileHash.empty())
+            before = Expand(known.Content);
+        Append(history,
+               {.Record = change.Record,
+                .Station = change.Station,
+                .Command = std::string(command),
+                .User = {},
+                .Before = {},
+                .After = change.Before},
+               known.Ever ? before : change.Before);
+    }
+    if (change.Before != change.After)
+        Append(history, change, change.Before);
+}
+
+void ProjectRecorder::Append(History& history, const FileChange& change, const FileState& before) {
+    StoredEntry entry;
+    auto& facts = entry.Facts;
+    facts.Time = UtcText(clock_, zone_);
+    facts.User = change.User;
+    facts.MachineUser = machineUser_;
+    facts.Command = change.Command;
+    facts.Station = change.Station;
+    facts.FileHash = HashOfFile(change.After);
+    entry.Changes = Compress(ChangesText(config::ChangesOf(BytesOf(before), BytesOf(change.After))));
+    if (change.After)
+        entry.Content = Compress(*change.After);
+    history.Append(std::move(entry));
+}
+
+std::vector<config::RecordEntry> ProjectRecorder::Entries(const std::string& record,
+                                                          std::string_view station) {
+    std::vector<config::RecordEntry> entries;
+    Trying([&] {
+        if (auto history = History::OpenToRead(record))
+            history->ForEach({.Station = station}, [&](const StoredEntry& entry) {
+                entries.push_back(entry.Facts);
+                return true;
+            });
+    });
+    return entries;
+}
+
+namespace {
+
+std::optional<StoredEntry> EntryOf(const std::string& record, std::int64_t number) {
+    std::optional<StoredEntry> found;
+    if (auto history = History::OpenToRead(record))
+        history->ForEach({.Number = number, .Whole = true}, [&](const StoredEntry& entry) {
+            found = entry;
+            return false;
+        });
+    return found;
+}
+
+} // namespace
+
+std::vector<config::KeyChange> ProjectRecorder::Changes(const std::string& record, std::int64_t number) {
+    std::vector<config::KeyChange> changes;
+    Trying([&] {
+        const auto entry = EntryOf(record, number);
+        const auto text = entry ? Expand(entry->Changes) : std::nullopt;
+        changes = text ? ReadChanges(*text).value_or(changes) : changes;
+    });
+    return changes;
+}
+
+FileState ProjectRecorder::Generation(const std::string& record, std::int64_t number) {
+    FileState file;
+    Trying([&] {
+        if (const auto entry = EntryOf(record, number); entry && !entry->Facts.FileHash.empty())
+            file = Expand(entry->Content);
+    });
+    return file;
+}
+
+config::RecordCheck ProjectRecorder::Verify(const std::string& record) {
+    return VerifyRecord(record);
+}
+
+} // namespace gfc::record

@@ -1,0 +1,213 @@
+#include "RecordRoom.h"
+#include "record/BackgroundRecorder.h"
+#include "record/Sha256.h"
+
+#include <gmock/gmock.h>
+
+#include <chrono>
+#include <filesystem>
+#include <random>
+
+namespace gfc::record {
+namespace {
+
+using config::FileState;
+using config::KeyChange;
+using config::RecordEntry;
+using testing::ElementsAre;
+using testing::Field;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+namespace command = config::command;
+
+const std::string one = "[General]\r\nOrmStation=North\r\nUserID=ana\r\n";
+const std::string two = "[General]\r\nOrmStation=North\r\nUserID=bob\r\nNew=1\r\n";
+
+class ProjectRecorderTest : public testing::Test, protected test::RecordRoom {
+protected:
+    std::vector<std::string> Commands(std::string_view station = {}) {
+        std::vector<std::string> commands;
+        for (const RecordEntry& entry : Recorder.Entries(Record, station))
+            commands.push_back(entry.Command);
+        return commands;
+    }
+};
+
+TEST(Sha256, IsTheOneOfTheStandard) {
+    EXPECT_EQ(Sha256(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+    EXPECT_EQ(Sha256("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+}
+
+TEST_F(ProjectRecorderTest, KeepsWhoDidWhatWhenAndTheWholeFile) {
+    Enter("North", command::Wizard, std::nullopt, one);
+    Clock.Now += 1;
+    Enter("North", command::Configure, one, two, "bob");
+    const auto entries = Recorder.Entries(Record, {});
+    ASSERT_THAT(entries, SizeIs(2));
+    EXPECT_EQ(entries[0].Time, "2023-03-15T12:00:00Z");
+    EXPECT_EQ(entries[1], (RecordEntry{2, "2023-03-16T12:00:00Z", "bob", "operator", "Configure", "North",
+                                       Sha256(two), entries[1].Hash}));
+    EXPECT_THAT(Recorder.Changes(Record, 2), ElementsAre(KeyChange{"General", "UserID", "ana", "bob"},
+                                                         KeyChange{"General", "New", std::nullopt, "1"}));
+    EXPECT_THAT(Recorder.Changes(Record, 1), SizeIs(2));
+    EXPECT_EQ(Recorder.Generation(Record, 1), one);
+    EXPECT_EQ(Recorder.Generation(Record, 2), two);
+    EXPECT_EQ(Recorder.Generation(Record, 3), std::nullopt);
+    EXPECT_FALSE(Recorder.Verify(Record).Damage);
+}
+
+TEST_F(ProjectRecorderTest, KeepsEveryByteAndEveryLetter) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += "[S]\nk" + std::to_string(byte) + "=\\\t" + std::string(1, static_cast<char>(byte)) + "x\n";
+    Enter("Estación \"1\"", command::Wizard, std::nullopt, bytes, "añá\t\n");
+    EXPECT_EQ(Recorder.Generation(Record, 1), bytes);
+    EXPECT_EQ(Recorder.Changes(Record, 1), config::ChangesOf("", bytes));
+    EXPECT_EQ(Recorder.Entries(Record, "Estación \"1\"").at(0).User, "añá\t\n");
+    EXPECT_FALSE(Recorder.Verify(Record).Damage);
+}
+
+TEST_F(ProjectRecorderTest, LookingAtWhatIsKnownWritesNothing) {
+    Enter("North", command::Wizard, std::nullopt, one);
+    const std::string before = test::BytesAt(Record);
+    Enter("North", {}, one, one);
+    Enter("South", {}, std::nullopt, std::nullopt);
+    EXPECT_EQ(test::BytesAt(Record), before);
+    EXPECT_EQ(Recorder.Trouble(), "");
+}
+
+TEST_F(ProjectRecorderTest, LookingWhereNothingIsMakesNoRecord) {
+    Enter("North", {}, std::nullopt, std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists(Record));
+    EXPECT_THAT(Recorder.Entries(Record, {}), IsEmpty());
+    EXPECT_FALSE(Recorder.Verify(Record).Damage);
+    EXPECT_EQ(Recorder.Trouble(), "");
+}
+
+TEST_F(ProjectRecorderTest, EntersAFileThatWasThereBeforeTheRecordAsFound) {
+    Enter("North", command::Delete, one, std::nullopt);
+    EXPECT_THAT(Commands(), ElementsAre("Found", "Delete"));
+    EXPECT_EQ(Recorder.Generation(Record, 1), one);
+    EXPECT_THAT(Recorder.Changes(Record, 1), IsEmpty());
+    EXPECT_EQ(Recorder.Entries(Record, {}).at(0).User, "");
+    EXPECT_EQ(Recorder.Entries(Record, {}).at(1).FileHash, "");
+    EXPECT_EQ(Recorder.Generation(Record, 2), std::nullopt);
+}
+
+TEST_F(ProjectRecorderTest, EntersWhatSomethingElseChangedBeforeTheCommand) {
+    Enter("North", command::Wizard, std::nullopt, one);
+    Enter("North", command::DisableRun, two, one);
+    EXPECT_THAT(Commands(), ElementsAre("Configuration Wizard", "Found changed", "Disable run"));
+    EXPECT_THAT(Recorder.Changes(Record, 2), ElementsAre(KeyChange{"General", "UserID", "ana", "bob"},
+                                                         KeyChange{"General", "New", std::nullopt, "1"}));
+    Enter("North", {}, std::nullopt, std::nullopt);
+    EXPECT_THAT(Commands(), SizeIs(4)) << "a file that something else deleted";
+    Enter("North", {}, two, two);
+    EXPECT_THAT(Commands("North"), SizeIs(5)) << "and one that came back";
+    EXPECT_FALSE(Recorder.Verify(Record).Damage);
+}
+
+TEST_F(ProjectRecorderTest, AnEmptyFileIsNotNone) {
+    Enter("North", command::Wizard, std::nullopt, "");
+    EXPECT_EQ(Recorder.Generation(Record, 1), FileState(""));
+    Enter("North", {}, "", "");
+    EXPECT_THAT(Commands(), SizeIs(1));
+    EXPECT_FALSE(Recorder.Verify(Record).Damage);
+}
+
+TEST_F(ProjectRecorderTest, SaysWhyItCannotBeWrittenAndGoesOnWhenItCan) {
+    const std::string good = std::exchange(Record, Folder.Path("missing/x.sqlite"));
+    Enter("North", command::Wizard, std::nullopt, one);
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("cannot be opened"));
+    Record = good;
+    test::PutBytes(Record, "no database at all, whatever it is called");
+    Enter("North", command::Wizard, std::nullopt, one);
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("is not a record of this program"));
+    EXPECT_EQ(test::BytesAt(Record), "no database at all, whatever it is called");
+    std::filesystem::remove(Record);
+    Enter("North", command::Wizard, std::nullopt, one);
+    EXPECT_EQ(Recorder.Trouble(), "");
+    EXPECT_THAT(Commands(), SizeIs(1));
+}
+
+TEST_F(ProjectRecorderTest, LeavesAnotherProgramsDatabaseAlone) {
+    ASSERT_TRUE(Tamper("CREATE TABLE other (x)", false));
+    const std::string before = test::BytesAt(Record);
+    Enter("North", command::Wizard, std::nullopt, one);
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("not a record"));
+    EXPECT_EQ(test::BytesAt(Record), before);
+}
+
+TEST_F(ProjectRecorderTest, TwoAtATimeLeaveOneChain) {
+    constexpr int each = 15;
+    const auto work = [this](const std::string& station) {
+        ProjectRecorder own(Clock, Zone, station);
+        for (int save = 0; save < each; ++save) {
+            const auto state = [&](int number) { return "[S]\nk=" + std::to_string(number) + "\n"; };
+            own.Record(
+                {{Record, station, "Configure", "", save == 0 ? FileState() : state(save), state(save + 1)}});
+            EXPECT_EQ(own.Trouble(), "");
+        }
+    };
+    std::thread other(work, "North");
+    work("South");
+    other.join();
+    EXPECT_THAT(Commands("North"), SizeIs(each));
+    EXPECT_THAT(Commands("South"), SizeIs(each));
+    const auto check = Recorder.Verify(Record);
+    EXPECT_FALSE(check.Damage) << check.Damage->Reason;
+    EXPECT_EQ(check.Entries, 2 * each);
+}
+
+// As a station of many bindings has it: the same keys in each run, and values that follow no rule.
+std::string LargeFile(std::mt19937& random, int change) {
+    std::string file = "[General]\r\nChange=" + std::to_string(change) + "\r\n";
+    for (int run = 1; file.size() < 32 * 1024; ++run) {
+        file += "[Run" + std::to_string(run) + "]\r\n";
+        for (int key = 0; key < 60; ++key)
+            file += "Variable" + std::to_string(key) + "KDIOTag=PIT-" + std::to_string(run) +
+                    std::to_string(random() % 100) + "\r\nVariable" + std::to_string(key) +
+                    "KDIOType=FX\r\nVariable" + std::to_string(key) +
+                    "KDIORegAddr=" + std::to_string(random() % 500) + "\r\n";
+    }
+    return file;
+}
+
+TEST_F(ProjectRecorderTest, TenThousandLargeGenerationsStayWithinSixtyMegabytes) {
+    constexpr int generations = 200;
+    std::mt19937 random(20);
+    std::vector<config::FileChange> changes;
+    FileState before;
+    const std::string file = LargeFile(random, 0);
+    for (int number = 1; number <= generations; ++number) {
+        std::string after = file;
+        after.replace(after.find("Change=") + 7, 1, std::to_string(number));
+        changes.push_back({Record, "North", "Configure", "ana", before, after});
+        before = after;
+    }
+    Recorder.Record(changes);
+    EXPECT_LE(std::filesystem::file_size(Record) / generations, 60'000'000U / 10'000U);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(Recorder.Generation(Record, generations), before);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100));
+}
+
+TEST_F(ProjectRecorderTest, InTheBackgroundNothingIsLostAndReadersWait) {
+    {
+        BackgroundRecorder behind(Recorder);
+        behind.Record({});
+        behind.Record({{Record, "North", "Configure", "ana", std::nullopt, one}});
+        EXPECT_THAT(behind.Entries(Record, {}), SizeIs(1));
+        EXPECT_EQ(behind.Generation(Record, 1), one);
+        behind.Record({{Folder.Path("no/x.sqlite"), "North", "Configure", "ana", std::nullopt, one}});
+        behind.Settle();
+        EXPECT_THAT(behind.Trouble(), HasSubstr("cannot be opened"));
+        behind.Record({{Record, "North", "Configure", "ana", one, two}});
+    }
+    EXPECT_THAT(Commands(), SizeIs(2)) << "the end waits for what was handed over";
+}
+
+} // namespace
+} // namespace gfc::record
