@@ -2,7 +2,7 @@
 
 namespace gfc::bench {
 
-Plant::Plant(ui::Screen& screen, int stations) : program_(seams_, *library_, screen) {
+Plant::Plant(ui::Screen& screen, int stations) : program_(seams_, *library_, screen, noRecord_) {
     auto& project = program_.Session.Project;
     project.ProjectFile = folder_.File("plant.KPJ");
     project.ProjectName = "plant";

@@ -23,6 +23,7 @@ private:
     std::unique_ptr<project::AddOnLibrary> library_ = LibraryOver(noTags_);
     platform::RealMachine machine_;
     platform::Machine seams_ = machine_.Seams();
+    config::NoRecorder noRecord_;
     forms::Program program_;
 };
 

@@ -13,7 +13,7 @@ bool Application::Start(const project::LibraryLoader& load) {
                      .TheIcon = ui::Icon::Critical});
         return false;
     }
-    program_ = std::make_unique<forms::Program>(machine_, *library_, screen_);
+    program_ = std::make_unique<forms::Program>(machine_, *library_, screen_, recorder_);
     forms::StartProgram(*program_);
     return true;
 }

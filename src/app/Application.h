@@ -11,8 +11,9 @@ namespace gfc::app {
 // The program's objects, put together before any screen: the window's or another.
 class Application {
 public:
-    // The machine's parts and the screen must outlive it.
-    Application(platform::Machine machine, ui::Screen& screen) : machine_(machine), screen_(screen) {}
+    // The machine's parts, the screen and the recorder must outlive it.
+    Application(platform::Machine machine, ui::Screen& screen, config::Recorder& recorder)
+        : machine_(machine), screen_(screen), recorder_(recorder) {}
 
     // Loads the add-on library from the program's own folder and shows the first window. False, once a box
     // has said why, if there is no library to work with.
@@ -23,6 +24,7 @@ public:
 private:
     platform::Machine machine_;
     ui::Screen& screen_;
+    config::Recorder& recorder_;
     std::unique_ptr<project::AddOnLibrary> library_;
     std::unique_ptr<forms::Program> program_;
 };

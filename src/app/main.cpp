@@ -1,6 +1,8 @@
 #include "app/Application.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
+#include "record/BackgroundRecorder.h"
+#include "record/ProjectRecorder.h"
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -29,7 +31,9 @@ int main(int argc, char* argv[]) {
     gfc::qt::QtScreen screen([&seams](const std::string& path, gfc::ui::WindowState) {
         return seams.Launcher.OpenTextFile(path);
     });
-    gfc::app::Application program(seams, screen);
+    gfc::record::ProjectRecorder entries(seams.Clock, seams.TimeZone, seams.Paths.UserName());
+    gfc::record::BackgroundRecorder recorder(entries);
+    gfc::app::Application program(seams, screen, recorder);
     if (!program.Start(gfc::platform::LoadLibraryAt))
         return EXIT_FAILURE;
     return screen.Run();

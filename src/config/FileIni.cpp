@@ -125,6 +125,16 @@ std::string ConfigFilePath(const ProjectPaths& paths, std::string_view project, 
     return path.append(FileEnding);
 }
 
+std::optional<std::string> NameInConfigFile(std::string_view path) {
+    std::string_view name = path.substr(path.find_last_of("/\\") + 1); // the whole where there is none
+    if (!name.starts_with(FilePrefix) || !name.ends_with(FileEnding) ||
+        name.size() < FilePrefix.size() + FileEnding.size())
+        return std::nullopt;
+    name.remove_prefix(FilePrefix.size());
+    name.remove_suffix(FileEnding.size());
+    return std::string(name);
+}
+
 bool ConfigFileExists(const FileIni& ini, const ProjectPaths& paths, std::string_view project,
                       std::string_view station) {
     return ini.FileExists(ConfigFilePath(paths, project, station));
@@ -205,6 +215,7 @@ bool FileIni::FileExists(const std::string& file) const {
 }
 
 bool FileIni::DeleteConfigFile(const std::string& file) {
+    Touch(file);
     FileBatch* batch = OpenBatch(file);
     if (batch != nullptr)
         batch->Save();
@@ -215,6 +226,7 @@ bool FileIni::DeleteConfigFile(const std::string& file) {
 }
 
 bool FileIni::CopyConfigFile(const std::string& from, const std::string& to) {
+    Touch(to);
     for (const std::string* file : {&from, &to})
         if (FileBatch* batch = OpenBatch(*file))
             batch->Save();
@@ -230,9 +242,15 @@ FileBatch* FileIni::OpenBatch(const std::string& file) const {
     return found == batches_.end() ? nullptr : *found;
 }
 
+void FileIni::Touch(const std::string& file) const {
+    if (OnTouch && !file.empty())
+        OnTouch(file);
+}
+
 bool FileIni::Change(const std::string& file, const Edit& edit) {
     if (file.empty())
         return false;
+    Touch(file);
     if (FileBatch* batch = OpenBatch(file)) {
         if (!batch->profile_)
             return false;

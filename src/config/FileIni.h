@@ -34,6 +34,10 @@ struct ProjectPaths {
 [[nodiscard]] std::string ConfigFilePath(const ProjectPaths& paths, std::string_view project,
                                          std::string_view station);
 
+// The reverse for a full path: what stands between "KDOrmAGA_" and ".ini", project and station with "_"
+// between them. Nothing for any other file.
+[[nodiscard]] std::optional<std::string> NameInConfigFile(std::string_view path);
+
 // One line of a section: the key in the form in which it is written, and its value.
 struct KeyValue {
     std::string Key;
@@ -84,12 +88,17 @@ public:
     // False if the target exists already.
     bool CopyConfigFile(const std::string& from, const std::string& to);
 
+    // Told of each file before it is written, made or deleted; what stands on disk then is what stood there
+    // before the first change of a batch. May be empty.
+    std::function<void(const std::string& file)> OnTouch;
+
 private:
     friend class FileBatch;
     using Edit = std::function<void(platform::Profile&)>;
 
     [[nodiscard]] FileBatch* OpenBatch(const std::string& file) const;
     bool Change(const std::string& file, const Edit& edit);
+    void Touch(const std::string& file) const;
 
     platform::Files& files_;
     mutable std::vector<FileBatch*> batches_; // one per file at most

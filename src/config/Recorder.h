@@ -30,6 +30,12 @@ inline constexpr std::string_view Found = "Found";
 inline constexpr std::string_view FoundChanged = "Found changed";
 } // namespace command
 
+struct ProjectPaths;
+
+// The file in which the record of a project stands, beside the configurations. Empty where those have no
+// place, or the project's name cannot be that of a file.
+[[nodiscard]] std::string RecordPath(const ProjectPaths& paths, std::string_view project);
+
 // The bytes of a file; nothing where there is none.
 using FileState = std::optional<std::string>;
 
@@ -78,6 +84,8 @@ public:
     virtual void Record(std::vector<FileChange> changes) = 0;
     // Waits until all that was handed over is entered or has failed.
     virtual void Settle() = 0;
+    // Whether it would wait.
+    [[nodiscard]] virtual bool IsBusy() = 0;
     // Why the last entries could not be written, as a sentence; empty where they could.
     [[nodiscard]] virtual std::string Trouble() = 0;
 
@@ -98,6 +106,7 @@ class NoRecorder : public Recorder {
 public:
     void Record(std::vector<FileChange>) override {}
     void Settle() override {}
+    bool IsBusy() override { return false; }
     std::string Trouble() override { return {}; }
     std::vector<RecordEntry> Entries(const std::string&, std::string_view) override { return {}; }
     std::vector<KeyChange> Changes(const std::string&, std::int64_t) override { return {}; }

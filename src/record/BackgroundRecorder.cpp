@@ -54,6 +54,11 @@ void BackgroundRecorder::Settle() {
     nothing_.wait(lock, [this] { return waiting_.empty() && !busy_; });
 }
 
+bool BackgroundRecorder::IsBusy() {
+    const std::lock_guard lock(mutex_);
+    return busy_ || !waiting_.empty();
+}
+
 std::string BackgroundRecorder::Trouble() {
     const std::lock_guard lock(mutex_);
     return trouble_;

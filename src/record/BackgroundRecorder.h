@@ -21,6 +21,7 @@ public:
 
     void Record(std::vector<config::FileChange> changes) override;
     void Settle() override;
+    bool IsBusy() override;
     // Of what has been worked off; does not wait.
     std::string Trouble() override;
     std::vector<config::RecordEntry> Entries(const std::string& record, std::string_view station) override;

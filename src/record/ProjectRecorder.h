@@ -22,6 +22,7 @@ public:
     void Record(std::vector<config::FileChange> changes) override;
     // All is entered when Record returns.
     void Settle() override {}
+    bool IsBusy() override { return false; }
     std::string Trouble() override { return trouble_; }
     std::vector<config::RecordEntry> Entries(const std::string& record, std::string_view station) override;
     std::vector<config::KeyChange> Changes(const std::string& record, std::int64_t number) override;

@@ -29,7 +29,7 @@ private:
 };
 
 struct Application : testing::Test, World {
-    app::Application TheApplication{Machine, Screen};
+    app::Application TheApplication{Machine, Screen, NoRecord};
     const std::string Path = std::string("/opt/gfc") + platform::Separator + "kdaddon_VBwrapper" +
                              project::AddOnFileName().substr(project::AddOnFileName().rfind('.'));
 

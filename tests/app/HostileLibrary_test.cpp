@@ -106,11 +106,12 @@ TEST_P(HostileLibrary, leaves_the_program_alive) {
         std::string Folder;
         std::string ExecutableFolder() override { return Folder; }
         std::string ProfileFolder() override { return "/etc/profiles"; }
+        std::string UserName() override { return {}; }
     } paths;
     paths.Folder = Folder.Path();
     app::Application program(
-        {world.Files, world.TimeZone, world.Clock, world.SingleInstance, world.Launcher, paths},
-        world.Screen);
+        {world.Files, world.TimeZone, world.Clock, world.SingleInstance, world.Launcher, paths}, world.Screen,
+        world.NoRecord);
     int calls = 0;
     meanwhile = [&] {
         ++calls;

@@ -8,7 +8,7 @@ namespace gfc::test {
 TEST(Application, says_why_it_does_not_start_without_its_library) {
     World world;
     HeadlessScreen& screen = world.Screen;
-    app::Application application(world.Machine, screen);
+    app::Application application(world.Machine, screen, world.NoRecord);
     screen.TheStory.Box("Gas Flow Computer", "", ui::Icon::Critical);
     std::string asked;
     EXPECT_FALSE(application.Start([&asked](const std::string& path) {

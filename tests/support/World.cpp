@@ -7,7 +7,14 @@ namespace gfc::test {
 FakeProgram::FakeProgram(ui::Screen& screen) : FakeProgram(screen, Files) {}
 
 FakeProgram::FakeProgram(ui::Screen& screen, platform::Files& onDisk)
-    : Machine{onDisk, TimeZone, Clock, SingleInstance, Launcher, Paths}, Program(Machine, Library, screen) {
+    : FakeProgram(screen, onDisk, NoRecord) {}
+
+FakeProgram::FakeProgram(ui::Screen& screen, config::Recorder& recorder)
+    : FakeProgram(screen, Files, recorder) {}
+
+FakeProgram::FakeProgram(ui::Screen& screen, platform::Files& onDisk, config::Recorder& recorder)
+    : Machine{onDisk, TimeZone, Clock, SingleInstance, Launcher, Paths},
+      Program(Machine, Library, screen, recorder) {
     Session.Station.UserId = "4711";
 }
 

@@ -15,6 +15,8 @@ struct FakeProgram {
     explicit FakeProgram(ui::Screen& screen);
     // The same, but for the files: these in the place of those in memory, which then stay empty.
     FakeProgram(ui::Screen& screen, platform::Files& onDisk);
+    FakeProgram(ui::Screen& screen, config::Recorder& recorder);
+    FakeProgram(ui::Screen& screen, platform::Files& onDisk, config::Recorder& recorder);
 
     MemoryFiles Files;
     FixedZone TimeZone{0};
@@ -23,6 +25,7 @@ struct FakeProgram {
     FakeLauncher Launcher;
     FakePaths Paths;
     FakeLibrary Library;
+    config::NoRecorder NoRecord;
     platform::Machine Machine;
     forms::Program Program;
 
@@ -49,6 +52,7 @@ struct HasHeadlessScreen {
 // The same on the headless screen, to which the test tells its story.
 struct World : HasHeadlessScreen, FakeProgram {
     World() : FakeProgram(Screen) {}
+    explicit World(config::Recorder& recorder) : FakeProgram(Screen, recorder) {}
     Story& TheStory = Screen.TheStory;
 };
 

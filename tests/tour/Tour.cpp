@@ -6,6 +6,8 @@
 #include "forms/program/StartUp.h"
 #include "platform/DynamicLibrary.h"
 #include "qt/support/Offscreen.h"
+#include "record/BackgroundRecorder.h"
+#include "record/ProjectRecorder.h"
 #include "scenarios/Moves.h"
 #include "tour/RunsTour.h"
 #include "tour/TourScreen.h"
@@ -136,7 +138,10 @@ bool PrintResults(const QDir& folder) {
 int Play(const QDir& folder) {
     platform::RealMachine machine;
     tour::TourScreen screen(folder.absolutePath());
-    app::Application program(machine.Seams(), screen);
+    record::ProjectRecorder entries(machine.Seams().Clock, machine.Seams().TimeZone,
+                                    machine.Seams().Paths.UserName());
+    record::BackgroundRecorder recorder(entries);
+    app::Application program(machine.Seams(), screen, recorder);
     Tell(screen.TheStory, folder);
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;

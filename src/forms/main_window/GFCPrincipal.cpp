@@ -1,6 +1,7 @@
 #include "forms/main_window/GFCPrincipal.h"
 
 #include "forms/main_window/StationNodes.h"
+#include "forms/program/CommandRecord.h"
 #include "forms/station/StationCommands.h"
 #include "platform/Machine.h"
 #include "platform/ProfileFile.h"
@@ -35,6 +36,7 @@ GFCPrincipal::GFCPrincipal(Program& program)
         label->SetVisible(false);
     ConnectMenu();
     ConnectPanes();
+    recordTimer.OnTimer = [this] { TellTrouble(); };
 }
 
 void GFCPrincipal::Load() {
@@ -53,6 +55,7 @@ void GFCPrincipal::Load() {
         return;
     BuildTree();
     MarkRunNodes();
+    LookAtAllStations(program_);
     SetCaption(version);
     for (auto* combo : {&Combo3, &Combo2, &Combo1})
         combo->Clear();
@@ -108,6 +111,20 @@ bool GFCPrincipal::LoadProjectAndStations() {
         RefuseToStart(title, "Error: no stations in project");
     // A list that could not be had leaves an empty tree, without a word.
     return !IsUnloaded();
+}
+
+void GFCPrincipal::WatchRecord() {
+    recordTimer.SetEnabled(true);
+}
+
+void GFCPrincipal::TellTrouble() {
+    if (program_.Recorder.IsBusy())
+        return;
+    recordTimer.SetEnabled(false);
+    const std::string trouble = program_.Recorder.Trouble();
+    if (!trouble.empty() && trouble != toldTrouble_)
+        StatusBar1.SetPanelText(1, "History not written. " + trouble);
+    toldTrouble_ = trouble;
 }
 
 void GFCPrincipal::Activate() {

@@ -60,6 +60,8 @@ public:
     ui::DropDownList Combo2{*this, "Combo2"};
     ui::DropDownList Combo3{*this, "Combo3"};
     ui::StatusBar StatusBar1{*this, "StatusBar1"};
+    // Runs while the record is at work behind the program.
+    ui::Timer recordTimer{*this, "recordTimer", 300};
     ui::ImageList ImageList1{
         *this, "ImageList1", {"Carpeta", "CarpetaOpen", "StationConfig", "StationNoConfig", "Run", "NoRun"}};
     // Pictures of the menu, in the order in which the list counts them from 1.
@@ -75,6 +77,10 @@ public:
     void ShowPaneFor(const std::string& path);
     // The node of the path gets the image "Run" or "NoRun"; nothing happens if there is no such node.
     void SetRunImage(const std::string& path, bool enabled);
+
+    // Once the record has done what it was handed, says in the status bar if that could not be written; of
+    // the same trouble once only.
+    void WatchRecord();
 
     // For those who fill the three lists: rows and columns away, all three hidden.
     void ClearLists();
@@ -97,6 +103,7 @@ private:
     [[nodiscard]] bool LoadProjectAndStations();
     void RefuseToStart(const std::string& title, const std::string& text);
 
+    void TellTrouble();
     void Exit();
     void RegisterFiles();
     void OpenHelp(ui::Key key);
@@ -124,6 +131,7 @@ private:
 
     SummaryTabs summary_{*this, program_};
     bool listShowsStations_ = false;
+    std::string toldTrouble_; // of the record
     int exitCode_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "forms/files/CopyCommands.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
+#include "forms/program/CommandRecord.h"
 #include "forms/program/HelpFile.h"
 #include "forms/runs/RunCommands.h"
 #include "forms/station/StationCommands.h"
@@ -28,17 +29,34 @@ constexpr std::array<TabHelp, 4> helpOfRunTabs = {{
 }};
 // clang-format on
 
+// The commands on a station, and what the record calls them; empty where that depends on the node.
+struct CommandRow {
+    ui::MenuEntry GFCPrincipal::*Entry;
+    std::string_view Name;
+    void (*Run)(Program& program);
+};
+
+// clang-format off
+constexpr std::array<CommandRow, 7> commands = {{
+    {&GFCPrincipal::ConfigWiard, config::command::Wizard,        ConfigWiardCommand},
+    {&GFCPrincipal::ConfigPar,   {},                             ConfigParCommand},
+    {&GFCPrincipal::erun,        config::command::EnableRun,     EnableRunCommand},
+    {&GFCPrincipal::dRun,        config::command::DisableRun,    DisableRunCommand},
+    {&GFCPrincipal::copiar1,     config::command::CopyToStation, CopyToStationCommand},
+    {&GFCPrincipal::copiar2,     config::command::CopyToProject, CopyToProjectCommand},
+    {&GFCPrincipal::undo,        config::command::Delete,        DeleteCommand},
+}};
+// clang-format on
+
 } // namespace
 
 void GFCPrincipal::ConnectMenu() {
     Config.OnClick = [this] { ApplyMenuState(); };
-    ConfigWiard.OnClick = [this] { ConfigWiardCommand(program_); };
-    ConfigPar.OnClick = [this] { ConfigParCommand(program_); };
-    erun.OnClick = [this] { EnableRunCommand(program_); };
-    dRun.OnClick = [this] { DisableRunCommand(program_); };
-    copiar1.OnClick = [this] { CopyToStationCommand(program_); };
-    copiar2.OnClick = [this] { CopyToProjectCommand(program_); };
-    undo.OnClick = [this] { DeleteCommand(program_); };
+    for (const CommandRow& row : commands)
+        (this->*row.Entry).OnClick = [this, &row] {
+            const auto name = row.Name.empty() ? NameOfConfigure(program_) : row.Name;
+            RunRecorded(program_, name, [this, &row] { row.Run(program_); });
+        };
     exit.OnClick = [this] { Exit(); };
     HelpPrincipal.OnClick = [this] { OpenHelp(ui::Key::F1); };
 }

@@ -4,7 +4,9 @@
 
 namespace gfc::forms {
 
-Program::Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen)
-    : Machine(machine), Library(library, screen), Screen(screen), Ini(machine.Files), Forms(*this) {}
+Program::Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen,
+                 config::Recorder& recorder)
+    : Machine(machine), Library(library, screen), Screen(screen), Ini(machine.Files), Recorder(recorder),
+      Forms(*this) {}
 
 } // namespace gfc::forms

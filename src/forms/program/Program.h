@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/FileIni.h"
+#include "config/Recorder.h"
 #include "forms/program/FormStore.h"
 #include "forms/program/PatientLibrary.h"
 #include "forms/program/Session.h"
@@ -14,12 +15,15 @@ namespace gfc::forms {
 
 // All that a form can reach.
 struct Program {
-    Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen);
+    // All must outlive it.
+    Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen,
+            config::Recorder& recorder);
 
     platform::Machine& Machine;
     PatientLibrary Library;
     ui::Screen& Screen;
     config::FileIni Ini;
+    config::Recorder& Recorder;
     forms::Session Session;
     FormStore Forms;
 };
