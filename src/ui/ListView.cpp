@@ -57,7 +57,10 @@ void ListView::RemoveRows(int first, int count) {
     if (first < 1 || count < 1)
         return;
     rows_.erase(rows_.begin() + (first - 1), rows_.begin() + (first - 1 + count));
-    if (selected_ >= first)
+    // The row itself stays selected, whatever its number is now.
+    if (selected_ >= first + count)
+        selected_ -= count;
+    else if (selected_ >= first)
         selected_ = 0;
     if (observer_ != nullptr)
         observer_->RowsRemoved(first, first + count - 1);

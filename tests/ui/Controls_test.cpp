@@ -278,6 +278,16 @@ TEST_F(Controls, list_view_counts_rows_from_one_and_renumbers_them) {
     EXPECT_EQ(panel_->List.Count(), 1);
 }
 
+TEST_F(Controls, list_view_keeps_its_selection_when_rows_above_it_go) {
+    panel_->List.AddRows({{"1"}, {"2"}, {"3"}, {"4"}});
+    panel_->List.SelectRow(4);
+    panel_->List.RemoveRows(1, 2);
+    EXPECT_EQ(panel_->List.SelectedRow(), 2);
+    EXPECT_EQ(panel_->List.Cell(2, 0), "4");
+    panel_->List.RemoveRows(2, 1);
+    EXPECT_EQ(panel_->List.SelectedRow(), 0);
+}
+
 TEST_F(Controls, tree_counts_nodes_in_order_of_addition_and_knows_their_paths) {
     auto& tree = panel_->Branches;
     const int root = tree.Add(0, "Stations", "All Stations");

@@ -65,6 +65,9 @@ public:
     ui::MenuEntry AutoAsociar{*this, "AutoAsociar", "&Auto-Assign"};
     ui::MenuEntry salirform{*this, "salirform", "&Cancel"};
 
+    // The row, from 1, that the next Assign takes from that list; past the end it takes nothing.
+    [[nodiscard]] int RowToTake(binding::OfferList list) { return RowFieldOf(list); }
+
 protected:
     void Load() override;
     bool KeyDown(ui::Key key) override;
@@ -90,6 +93,7 @@ private:
     [[nodiscard]] int SelectedPosition() const;
     [[nodiscard]] ui::ListView& ListOf(binding::OfferList list);
     [[nodiscard]] int& RowFieldOf(binding::OfferList list);
+    void ShowRowFields();
     void ReadRowFields();
     [[nodiscard]] bool IsBound(int position) const;
     [[nodiscard]] config::TagBinding ShownBinding(int position) const;

@@ -17,6 +17,12 @@ void TagRuns::ReadRowFields() {
         *field = std::max(*field, 1);
 }
 
+// A field that points past the end of its list shows no row, and takes none.
+void TagRuns::ShowRowFields() {
+    for (const OfferList list : AllLists)
+        ListOf(list).SelectRow(RowFieldOf(list));
+}
+
 void TagRuns::Assign() {
     ReadRowFields();
     const int position = SelectedPosition();
@@ -33,8 +39,7 @@ void TagRuns::Assign() {
     ShowBinding(position, BindingInRow(list, row));
     list.RemoveRows(row, 1);
     list.Renumber();
-    // The row that the next Assign takes.
-    list.SelectRow(row);
+    ShowRowFields();
 }
 
 void TagRuns::UndoTag() {
@@ -48,6 +53,8 @@ void TagRuns::UndoTag() {
     PutBack(list, ShownBinding(position));
     ShowUnbound(position);
     list.Renumber();
+    // The row that has come back may be the one that a field points at.
+    ShowRowFields();
 }
 
 // In the modify flow the tags go back one at a time. Elsewhere the form returns to the state in which it
@@ -58,11 +65,7 @@ void TagRuns::UndoAll() {
     else
         PrepareStage();
     floatRow_ = analogDigRow_ = longRow_ = 1;
-    ListViewRuns.SelectRow(1);
-    if (needed_.Long > 0)
-        ListLong.SelectRow(1);
-    if (needed_.Analog + needed_.Digital > 0)
-        ListAnalogDig.SelectRow(1);
+    ShowRowFields();
 }
 
 // An unbound variable is deliberately not left out: the first one of a list adds a row that reads "Not
@@ -117,10 +120,8 @@ void TagRuns::TakeRows() {
 
 // Also after a refusal: the rows that were clicked are forgotten.
 void TagRuns::SelectFirstRows() {
-    for (const OfferList list : AllLists) {
-        ListOf(list).SelectRow(1);
-        RowFieldOf(list) = 1;
-    }
+    floatRow_ = analogDigRow_ = longRow_ = 1;
+    ShowRowFields();
 }
 
 } // namespace gfc::forms

@@ -73,9 +73,7 @@ void TagRuns::Load() {
     configFilePath_ = session_.ConfigFile();
     ShowCopySources();
     PrepareStage();
-    // The rows that the first Assign takes.
-    for (ui::ListView* list : {&ListViewRuns, &ListLong, &ListAnalogDig})
-        list->SelectRow(1);
+    ShowRowFields();
 }
 
 void TagRuns::ShowCopySources() {

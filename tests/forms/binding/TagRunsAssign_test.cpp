@@ -56,6 +56,20 @@ TEST(TagRunsAssign, walks_down_the_list_from_the_clicked_row) {
     world.Show(RunInputs);
 }
 
+// The row that the next Assign would take is the one that is shown, also where it has come back meanwhile.
+TEST(TagRunsAssign, shows_the_row_that_it_takes_next) {
+    TagRunsWorld world;
+    world.TheStory.ClickRow("TagRuns", "ListViewRuns", 40);
+    world.Assign(0);
+    world.SeeSelectedRow("ListViewRuns", 0);
+    world.TheStory.Click("TagRuns", "Command4");
+    world.SeeSelectedRow("ListViewRuns", 40);
+    world.Assign(1);
+    world.SeeBound(1, "F40 FX 1040");
+    world.LeaveByCancel();
+    world.Show(RunInputs);
+}
+
 TEST(TagRunsAssign, takes_the_first_row_where_none_was_clicked) {
     TagRunsWorld world;
     world.SeeSelectedRow("ListViewRuns", 1);
