@@ -26,11 +26,12 @@ bool Changes(Subject subject) {
     return subject == Subject::Differential || subject == Subject::Atmospheric;
 }
 
-// A single letter says too little to doubt a binding for it: "T1012" may as well be a tag as a temperature.
+// A single letter, or the beginning of a longer word, says too little to doubt a binding for it: "T1012" may as
+// well be a tag as a temperature.
 Subjects SaidBy(const naming::TagName& name) {
     Subjects said(name.Device.Means.begin(), name.Device.Means.end());
     for (const naming::Part& part : name.Parts)
-        if (part.Text.size() > 1)
+        if (part.Text.size() > 1 && !part.Cut)
             said.insert(part.Means.begin(), part.Means.end());
     return said;
 }
