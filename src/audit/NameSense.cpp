@@ -26,8 +26,8 @@ bool Changes(Subject subject) {
     return subject == Subject::Differential || subject == Subject::Atmospheric;
 }
 
-// A single letter, or the beginning of a longer word, says too little to doubt a binding for it: "T1012" may as
-// well be a tag as a temperature.
+// A single letter, or the beginning of a longer word, says too little to doubt a binding for it: "T1012" may
+// as well be a tag as a temperature.
 Subjects SaidBy(const naming::TagName& name) {
     Subjects said(name.Device.Means.begin(), name.Device.Means.end());
     for (const naming::Part& part : name.Parts)
