@@ -1,5 +1,6 @@
 #include "workshop/command/Commands.h"
 #include "workshop/command/Listing.h"
+#include "workshop/load/Audit.h"
 #include "workshop/load/Download.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/text/Paths.h"
@@ -9,6 +10,7 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <set>
 
 namespace gfc::workshop {
 
@@ -32,9 +34,24 @@ void AddFiles(CLI::App& app) {
     command->callback([path] { ShowFiles(*path); });
 }
 
-void CarryOut(const std::string& path, const std::string& folder, int& status) {
+// What the configurator's own check has against the files to be brought over. A file that is missing is told
+// of by the download itself.
+std::set<std::string> RefusedStations(Project& project) {
+    const std::filesystem::path program = AuditProgram();
+    std::set<std::string> stations;
+    for (const FileToLoad& file : ListFilesToLoad(project)) {
+        std::error_code error;
+        if (std::filesystem::is_regular_file(LocalPath(project, file.Local), error)) {
+            stations.insert(file.Station);
+        }
+    }
+    return program.empty() ? std::set<std::string>() : StationsWithErrors(program, project, stations);
+}
+
+void CarryOut(const std::string& path, const std::string& folder, bool force, int& status) {
     Project project = ProjectFor(path, Access::Read);
-    const DownloadResult result = Download(project, PathOf(folder));
+    const auto refused = force ? std::set<std::string>() : RefusedStations(project);
+    const DownloadResult result = Download(project, PathOf(folder), refused);
     for (const auto& file : result.Written) {
         std::cout << PathText(file) << '\n';
     }
@@ -49,6 +66,7 @@ void AddDownload(CLI::App& app, int& status) {
     struct Options {
         std::string Project;
         std::string Folder;
+        bool Force = false;
     };
     auto options = std::make_shared<Options>();
     CLI::App* command =
@@ -56,8 +74,12 @@ void AddDownload(CLI::App& app, int& status) {
     command->add_option("FOLDER", options->Folder, "Folder that stands for the stations, made if needed")
         ->required();
     AddProjectOption(*command, options->Project);
-    command->footer("Example:\n  io-workshop download ~/stations");
-    command->callback([options, &status] { CarryOut(options->Project, options->Folder, status); });
+    command->add_flag("--force", options->Force, "Bring over the files of stations with errors, too");
+    command->footer(
+        "Where gfc-audit stands beside this program it looks the files over first, and stations with "
+        "errors are left out.\nExample:\n  io-workshop download ~/stations");
+    command->callback(
+        [options, &status] { CarryOut(options->Project, options->Folder, options->Force, status); });
 }
 
 } // namespace

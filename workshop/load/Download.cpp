@@ -77,10 +77,14 @@ fs::path LocalPath(const Project& project, const std::string& local) {
     return path.is_absolute() ? path : project.File().parent_path() / path;
 }
 
-DownloadResult Download(Project& project, const fs::path& folder) {
+DownloadResult Download(Project& project, const fs::path& folder, const std::set<std::string>& refused) {
     DownloadResult result;
     for (const FileToLoad& file : ListFilesToLoad(project)) {
-        DownloadOne(project, file, folder, result);
+        if (refused.contains(file.Station)) {
+            result.Faults.push_back(Fault(file, "has errors and was left out; mend them, or use --force."));
+        } else {
+            DownloadOne(project, file, folder, result);
+        }
     }
     return result;
 }

@@ -4,6 +4,7 @@
 #include "workshop/store/Project.h"
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,9 @@ struct DownloadResult {
 [[nodiscard]] std::filesystem::path LocalPath(const Project& project, const std::string& local);
 
 /// Copies each listed file to `folder`/station/target, replacing what stands there. A file at fault is told
-/// and the others are copied all the same; nothing is written outside `folder`.
-[[nodiscard]] DownloadResult Download(Project& project, const std::filesystem::path& folder);
+/// and the others are copied all the same; nothing is written outside `folder`. Files of the stations in
+/// `refused` are left out, each with a fault.
+[[nodiscard]] DownloadResult Download(Project& project, const std::filesystem::path& folder,
+                                      const std::set<std::string>& refused = {});
 
 } // namespace gfc::workshop
