@@ -1,18 +1,18 @@
 #include "app/Application.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
+#include "qt/SystemLook.h"
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 
 #include <cstdlib>
 
 namespace {
 
 void SetUp(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    gfc::qt::TakeSystemLook();
     QApplication::setOrganizationName(QStringLiteral("Orm"));
     QApplication::setApplicationName(QStringLiteral("gfc-configurator"));
     QApplication::setApplicationDisplayName(QString());
@@ -24,6 +24,7 @@ void SetUp(QApplication& application) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    gfc::qt::PrepareSystemLook();
     QApplication application(argc, argv);
     SetUp(application);
     gfc::platform::RealMachine machine;

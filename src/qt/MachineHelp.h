@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QStringList>
-
 #include <string>
 
 namespace gfc::qt {
 
-// Opens the page in the machine's own help viewer; false if it has none, or if the file is not there.
+// Opens the page of that number in the machine's own help viewer, 0 for the first one; the file lies in the folder that
+// is current. False if the machine has no viewer, if the file is not there, or if the viewer does not take it.
 [[nodiscard]] bool OpenMachineHelp(const std::string& file, int context);
-
-// What the machine's viewer is started with; context 0 is the contents page.
-[[nodiscard]] QStringList MachineHelpArguments(const QString& path, int context);
 
 } // namespace gfc::qt

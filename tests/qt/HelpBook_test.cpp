@@ -115,10 +115,8 @@ TEST_F(HelpBooks, show_the_beginning_where_only_the_title_has_the_word) {
     EXPECT_EQ(hits[0].Count, 1);
 }
 
-TEST(MachineHelp, names_the_page_and_the_whole_path_to_the_viewer) {
-    EXPECT_EQ(qt::MachineHelpArguments("/Program Files/Flow/AGA.chm", 7300),
-              (QStringList{"-mapid", "7300", "ms-its:/Program Files/Flow/AGA.chm"}));
-    EXPECT_EQ(qt::MachineHelpArguments("AGA.chm", 0), QStringList{"ms-its:AGA.chm"});
+TEST(MachineHelp, is_not_there_without_its_file) {
+    EXPECT_FALSE(qt::OpenMachineHelp("no-such-file.chm", 7300));
 }
 
 } // namespace gfc::test
