@@ -3,16 +3,18 @@
 #include "services/CodePage.h"
 
 #include <bit>
+#include <cstdint>
 #include <utility>
 
 namespace gfc::platform {
 namespace {
 
+// In 64 bits on every machine, and folded into those that an address of this one has.
 std::size_t Hash(std::string_view name) {
-    std::size_t hash = 14695981039346656037U;
+    std::uint64_t hash = 14695981039346656037U;
     for (const char byte : name)
         hash = (hash ^ services::FoldByte(byte)) * 1099511628211U;
-    return hash ^ (hash >> 32);
+    return static_cast<std::size_t>(hash ^ (hash >> 32));
 }
 
 } // namespace

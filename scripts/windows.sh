@@ -1,0 +1,79 @@
+# Sourced by ./test: the Windows form, built on Debian on what scripts/windows-kit makes, and tried under Wine.
+# shellcheck shell=bash
+
+# Of MACHINE FORM; of the form "core" what needs no Qt.
+windows_preset() {
+    case $1-$2 in
+    i686-whole) echo windows ;;
+    i686-core) echo windows-core ;;
+    x86_64-whole) echo windows64 ;;
+    *) echo "There is no such form: $1 $2" >&2; return 2 ;;
+    esac
+}
+
+windows_parts() {
+    echo libraries
+    [ "$2" = core ] || echo qt
+    [ "$1" = x86_64 ] || echo wine
+}
+
+# Whether everything that it stands on is there.
+windows_kit_stands() {
+    # shellcheck disable=SC2046 # words are wanted
+    scripts/windows-kit have "$1" $(windows_parts "$1" "$2") 2>/dev/null
+}
+
+# install_windows MACHINE
+install_windows() {
+    install_missing "${packages_for_checks[@]}" "${packages_for_windows[@]}" "g++-mingw-w64-${1/_/-}-posix"
+}
+
+# build_windows MACHINE FORM
+build_windows() {
+    local preset parts
+    preset=$(windows_preset "$1" "$2")
+    mapfile -t parts < <(windows_parts "$1" "$2")
+    scripts/windows-kit make "$1" "${parts[@]}"
+    say "Windows, $1: build"
+    GFC_WINDOWS_ROOTS=$(scripts/windows-kit roots "$1" "${parts[@]}") cmake --preset "$preset" >/dev/null
+    cmake --build "build/$preset"
+}
+
+# A screen of its own for as long as the shell lives.
+open_windows_screen() {
+    local number
+    exec {number}< <(exec Xvfb -displayfd 1 -screen 0 1920x1200x24 -nolisten tcp 2>/dev/null)
+    windows_screen=$!
+    trap 'kill "$windows_screen" 2>/dev/null' EXIT
+    read -r -t 30 DISPLAY <&"$number" || { echo "no virtual screen" >&2; return 1; }
+    export DISPLAY=:$DISPLAY
+}
+
+# The suite as it is, with windows in memory; ctest starts each program by scripts/windows-run.
+run_windows_tests() {
+    say "Windows, $1: tests"
+    export QT_QPA_PLATFORM=offscreen
+    ctest --test-dir "build/$(windows_preset "$1" "$2")" --output-on-failure --no-tests=error -j "$(nproc)"
+}
+
+# The same program in its real windows, from splash to exit.
+tour_windows() {
+    local build
+    build=build/$(windows_preset "$1" whole)
+    say "Windows, $1: tour in real windows"
+    QT_QPA_PLATFORM=windows scripts/windows-run "$1" "$build/wine" "$build/bin/gfc-tour.exe" "$build/tour" \
+        >"$build/tour.log" 2>&1 || { tail -n 60 "$build/tour.log"; return 1; }
+    tail -n 1 "$build/tour.log"
+}
+
+# check_windows MACHINE FORM
+check_windows() {
+    install_windows "$1"
+    build_windows "$1" "$2"
+    open_windows_screen
+    run_windows_tests "$1" "$2"
+    [ "$2" = whole ] || return 0
+    tour_windows "$1"
+    say "Windows, $1: setup"
+    packaging/windows/check "$1" "build/$(windows_preset "$1" "$2")"
+}
