@@ -17,15 +17,16 @@ windows_parts() {
     [ "$1" = x86_64 ] || echo wine
 }
 
-# Whether everything that it stands on is there.
-windows_kit_stands() {
-    # shellcheck disable=SC2046 # words are wanted
-    scripts/windows-kit have "$1" $(windows_parts "$1" "$2") 2>/dev/null
-}
-
 # install_windows MACHINE
 install_windows() {
     install_missing "${packages_for_checks[@]}" "${packages_for_windows[@]}" "g++-mingw-w64-${1/_/-}-posix"
+}
+
+# make_windows_kit MACHINE FORM: for most, a look at what was made long ago.
+make_windows_kit() {
+    install_windows "$1"
+    # shellcheck disable=SC2046 # words are wanted
+    scripts/windows-kit make "$1" $(windows_parts "$1" "$2")
 }
 
 # build_windows MACHINE FORM
@@ -33,7 +34,6 @@ build_windows() {
     local preset parts
     preset=$(windows_preset "$1" "$2")
     mapfile -t parts < <(windows_parts "$1" "$2")
-    scripts/windows-kit make "$1" "${parts[@]}"
     say "Windows, $1: build"
     GFC_WINDOWS_ROOTS=$(scripts/windows-kit roots "$1" "${parts[@]}") cmake --preset "$preset" >/dev/null
     cmake --build "build/$preset"
@@ -68,7 +68,7 @@ tour_windows() {
 
 # check_windows MACHINE FORM
 check_windows() {
-    install_windows "$1"
+    make_windows_kit "$1" "$2"
     build_windows "$1" "$2"
     open_windows_screen
     run_windows_tests "$1" "$2"

@@ -4,8 +4,11 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace gfc::qt {
 
@@ -57,8 +60,23 @@ void SideWindow::Fill(QWidget& content, QSize size) {
     auto* whole = new QVBoxLayout(this);
     whole->addWidget(&content);
     resize(size);
+    StandWithinScreen();
     show();
     activateWindow();
+}
+
+// In the middle of what it stands over, as far as the screen reaches. Left to themselves some systems place a window a
+// step beyond the last one, wherever its far edges come to be.
+void SideWindow::StandWithinScreen() {
+    constexpr QMargins frame(8, 32, 8, 8);
+    const QRect room = screen()->availableGeometry().marginsRemoved(frame);
+    QRect place(QPoint(), size());
+    place.moveCenter(under_ == nullptr ? room.center() : under_->geometry().center());
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    place.moveLeft(std::max(place.left(), room.left()));
+    place.moveTop(std::max(place.top(), room.top()));
+    move(place.topLeft() - QPoint(frame.left(), frame.top()));
 }
 
 // A modal window that has just opened keeps all others from being used but those that stand over it.

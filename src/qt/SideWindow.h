@@ -30,6 +30,7 @@ protected:
 
 private:
     void StandOver(QWindow* under);
+    void StandWithinScreen();
 
     QPointer<QWindow> under_;
 };

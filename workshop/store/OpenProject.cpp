@@ -17,7 +17,12 @@ namespace fs = std::filesystem;
 
 // A relative path in such a variable is to be ignored.
 std::optional<fs::path> FolderFrom(const char* variable) {
+#ifdef _WIN32
+    // Wide, since a user's name may have letters that the machine's code page lacks.
+    const wchar_t* value = ::_wgetenv(fs::path(variable).c_str());
+#else
     const char* value = std::getenv(variable);
+#endif
     if (value == nullptr || !fs::path(value).is_absolute()) {
         return std::nullopt;
     }
@@ -28,10 +33,17 @@ fs::path StateFolder() {
     if (const auto state = FolderFrom("XDG_STATE_HOME")) {
         return *state;
     }
+#ifdef _WIN32
+    if (const auto local = FolderFrom("LOCALAPPDATA")) {
+        return *local;
+    }
+    throw Failure("There is no folder to remember the open project in; set LOCALAPPDATA.");
+#else
     if (const auto home = FolderFrom("HOME")) {
         return *home / ".local" / "state";
     }
     throw Failure("There is no folder to remember the open project in; set XDG_STATE_HOME or HOME.");
+#endif
 }
 
 } // namespace
