@@ -2,7 +2,8 @@
 
 namespace gfc::qt {
 
-// The look of the machine's own programs. The first is called before the application is made, the second after.
+// The look of the machine's own programs. The first is called before the application is made, the second
+// after.
 void PrepareSystemLook();
 void TakeSystemLook();
 
