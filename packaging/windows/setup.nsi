@@ -1,5 +1,5 @@
 ; The setup for Windows, made by packaging/windows/make, which hands in VERSION, TREE (the folder with what is to be
-; installed), PAGES (a file with a Delete for each page of the manual), SIZE (in KiB) and OUT.
+; installed), LISTS (the folder with what goes in and out by name), SIZE (in KiB) and OUT.
 ;   setup.exe /S [/AllUsers | /CurrentUser] [/STANDIN] [/D=folder]      silently; /D comes last and without quotes
 ; The program goes where the library of the I/O Workshop is. A library that is not of this program's making is never
 ; written over nor removed.
@@ -138,7 +138,7 @@ FunctionEnd
 Section "!Configurator" SecProgram
     SectionIn RO
     SetOutPath "$INSTDIR"
-    File "${TREE}\gfc-configurator.exe"
+    !include "${LISTS}\programs-in.nsh"
     File "${TREE}\LICENSE.txt"
     File "${TREE}\LICENCES-OF-OTHERS.txt"
     File "/oname=gfc-configurator README.txt" "${TREE}\README.txt"
@@ -173,8 +173,7 @@ Section /o "Stand-in for the I/O Workshop" SecStandIn
     ${If} $0 == foreign
         DetailPrint "${LIBRARY} is the I/O Workshop's and stays as it is; the stand-in is left out."
     ${Else}
-        File "${TREE}\stand-in\${LIBRARY}"
-        File "${TREE}\stand-in\io-workshop.exe"
+        !include "${LISTS}\stand-in-in.nsh"
     ${EndIf}
 SectionEnd
 
@@ -228,14 +227,13 @@ FunctionEnd
 Section Uninstall
     Call un.WhoseLibrary
     ${If} $0 == ours
-        Delete "$INSTDIR\${LIBRARY}"
-        Delete "$INSTDIR\io-workshop.exe"
+        !include "${LISTS}\stand-in-out.nsh"
     ${EndIf}
-    Delete "$INSTDIR\gfc-configurator.exe"
+    !include "${LISTS}\programs-out.nsh"
     Delete "$INSTDIR\LICENSE.txt"
     Delete "$INSTDIR\LICENCES-OF-OTHERS.txt"
     Delete "$INSTDIR\gfc-configurator README.txt"
-    !include "${PAGES}"
+    !include "${LISTS}\manual-out.nsh"
     RMDir "$INSTDIR\manual"
     Delete "$INSTDIR\gfc-configurator-uninstall.exe"
     RMDir "$INSTDIR"
