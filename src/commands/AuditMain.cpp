@@ -52,6 +52,7 @@ int Main(int argc, const char* const* argv) {
     int status = exitcode::Clean;
     const Context context{machine, status};
     AddCheckCommand(app, context);
+    AddSuggestCommand(app, context);
     return Run(app, platform::ConsoleArguments(argc, argv), status);
 }
 

@@ -31,6 +31,7 @@ struct Context {
 };
 
 void AddCheckCommand(CLI::App& app, Context context);
+void AddSuggestCommand(CLI::App& app, Context context);
 
 // A line for whoever sits at the screen, apart from what a command gives out.
 void Tell(std::string_view text);

@@ -45,6 +45,17 @@ expect 0 '"configured": true' check --json
 expect 0 "Lakeside_Delivery: nothing to report" check --folder "$work/plant"
 expect 2 'no file of a station "Nowhere"' check --folder "$work/plant" Nowhere
 
+# Suggestions, for a station without a file under choices that are given.
+northgate="Northgate_Custody --runs 1,3 --standard AGA3 --source AGA8 --measured"
+expect 0 '"run":3,"stage":"run inputs","variable":"Pressure","tag":"PIT-203_PV","confidence":"high"' suggest $northgate --json
+expect 0 'run 1: Temperature <- TIT-201_PV (high)' suggest $northgate
+expect 0 "" suggest Lakeside_Delivery
+expect 2 'no station "Nowhere"' suggest Nowhere
+expect 2 "say its runs by --runs" suggest Northgate_Custody
+expect 2 "by --standard and --source" suggest Northgate_Custody --runs 1
+expect 2 "" suggest Northgate_Custody --runs 6
+expect 2 "" suggest
+
 change OrificeDia 99.9
 expect 1 "bore-not-below-pipe" check
 expect 1 "bore-not-below-pipe" check Lakeside_Delivery
