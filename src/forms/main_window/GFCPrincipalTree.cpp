@@ -203,13 +203,12 @@ void GFCPrincipal::PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden) {
 
 void GFCPrincipal::ShowCommon(const std::string& station) {
     const std::string file = session_.ConfigFile();
-    // The first page reads a few keys of each enabled run besides.
     const config::FileBatch batch(program_.Ini, file);
     config::LoadStationConfig(program_.Ini, session_.Station, file);
+    summary_.LookAt(station, 0);
     PlacePane(SSTab1, SSTab2);
     SSTab1.SetTab(0);
     summary_.FillCommon();
-    StatusBar1.SetPanelText(1, std::string(node::CommonParameters) + " (" + station + ")");
 }
 
 void GFCPrincipal::LoadRun(int run) {
@@ -220,12 +219,12 @@ void GFCPrincipal::LoadRun(int run) {
 }
 
 void GFCPrincipal::ShowRun(const std::string& station, int run) {
+    const config::FileBatch batch(program_.Ini, session_.ConfigFile());
     LoadRun(run);
+    summary_.LookAt(station, run);
     PlacePane(SSTab2, SSTab1);
     SSTab2.SetTab(0);
     summary_.FillRun();
-    StatusBar1.SetPanelText(1, std::string(node::IndividualParameters) + " (" + station +
-                                   ") : " + node::RunText(run));
 }
 
 } // namespace gfc::forms

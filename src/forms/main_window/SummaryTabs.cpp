@@ -1,8 +1,10 @@
 #include "forms/main_window/SummaryTabs.h"
 
 #include "binding/SummaryRun.h"
+#include "config/ConfigReader.h"
 #include "config/Vocabulary.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/main_window/StationNodes.h"
 #include "platform/Machine.h"
 #include "services/modLocalTimeAndGMT.h"
 
@@ -24,11 +26,31 @@ SummaryPage RunPage(const config::StationConfig& station, int tab) {
 
 } // namespace
 
+void SummaryTabs::LookAt(const std::string& station, int run) {
+    station_ = station;
+    run_ = run;
+}
+
+config::StationConfig SummaryTabs::Read() const {
+    const auto& project = program_.Session.Project;
+    config::StationConfig station;
+    station.ProjectFile = project.ProjectFile;
+    station.ProjectName = project.ProjectName;
+    station.CurrentStation = station_;
+    config::LoadStationConfig(program_.Ini, station, File());
+    if (run_ > 0)
+        config::LoadRun(program_.Ini, station, File(), run_);
+    return station;
+}
+
 void SummaryTabs::FillCommon() {
-    const auto& station = program_.Session.Station;
+    // The first page reads a few keys of each enabled run besides.
+    const config::FileBatch batch(program_.Ini, File());
+    const auto station = Read();
+    window_.StatusBar1.SetPanelText(1, std::string(node::CommonParameters) + " (" + station_ + ")");
     switch (window_.SSTab1.Tab()) {
     case 0:
-        return Show(binding::CommonParametersPage(station, ReadEnabledRuns()));
+        return Show(binding::CommonParametersPage(station, ReadEnabledRuns(station)));
     case 1:
         return Show(binding::WorkingModulesPage(station));
     default:
@@ -37,7 +59,10 @@ void SummaryTabs::FillCommon() {
 }
 
 void SummaryTabs::FillRun() {
-    const auto& station = program_.Session.Station;
+    const config::FileBatch batch(program_.Ini, File());
+    const auto station = Read();
+    window_.StatusBar1.SetPanelText(1, std::string(node::IndividualParameters) + " (" + station_ +
+                                           ") : " + node::RunText(run_));
     const auto captions = binding::RunTabCaptions(station);
     auto& pane = window_.SSTab2;
     for (std::size_t tab = 0; tab < captions.size(); ++tab)
@@ -45,14 +70,12 @@ void SummaryTabs::FillRun() {
     Show(RunPage(station, pane.Tab()));
 }
 
-std::vector<binding::EnabledRun> SummaryTabs::ReadEnabledRuns() const {
-    const std::string file = program_.Session.ConfigFile();
-    const config::FileBatch batch(program_.Ini, file);
+std::vector<binding::EnabledRun> SummaryTabs::ReadEnabledRuns(const config::StationConfig& station) const {
     std::vector<binding::EnabledRun> runs;
     for (int run = 1; run <= config::MaxRuns; ++run)
         // As in the tree, a run is enabled by exactly this word.
-        if (program_.Session.Station.Run.at(static_cast<std::size_t>(run - 1)) == config::Yes)
-            runs.push_back(ReadRun(run, file));
+        if (station.Run.at(static_cast<std::size_t>(run - 1)) == config::Yes)
+            runs.push_back(ReadRun(run, File()));
     return runs;
 }
 

@@ -103,6 +103,35 @@ TEST_F(SummaryTabs, common_node_shows_the_parameters_and_those_of_the_enabled_ru
     EXPECT_EQ(list.At(26), (Names{"24", "Density @ Std. Cond. (Run5)", "0.75 kg/m^3"}));
 }
 
+// Whatever is selected in the tree meanwhile.
+TEST_F(SummaryTabs, read_the_file_of_the_station_that_they_show_and_name_it) {
+    Configure("aga7_densimeter");
+    Files.Content["/jobs/KDOrmAGA_plant_South.ini"] = Golden("config/aga3_detail_fixed.ini");
+    const auto see = [this](const std::string& bar) {
+        TheStory.Check([this, bar](Driver&) {
+            EXPECT_EQ(Window().StatusBar1.PanelText(1), bar);
+            EXPECT_EQ(Session.Station.CurrentStation, "South");
+        });
+    };
+    TheStory.ClickNode(window, "TreeGFC", common)
+        .ClickNode(window, "TreeGFC", "All Stations\\South\\Individual Parameters")
+        .SelectTab(window, "SSTab1", 1)
+        .SelectTab(window, "SSTab1", 0);
+    see("Common Parameters (North)");
+    TheStory
+        .Check([this](Driver&) {
+            EXPECT_EQ(ValueOf(Window().ListView1, "Orm Station"), "North");
+            EXPECT_EQ(ValueOf(Window().ListView1, "Algorithm"), "AGA7");
+            EXPECT_EQ(ValueOf(Window().ListView1, "Meter K-Factor (Run2)"), "2.02 pulses/m^3");
+        })
+        .ClickNode(window, "TreeGFC", runNode + "5")
+        .ClickNode(window, "TreeGFC", "All Stations\\South\\Individual Parameters")
+        .SelectTab(window, "SSTab2", 1);
+    see("Individual Parameters (North) : Run 5");
+    TheStory.Check([this](Driver&) { EXPECT_EQ(RunCaptions()[1], "AGA-7 Output Tags"); });
+    Play();
+}
+
 TEST_F(SummaryTabs, leaves_out_a_run_that_is_not_enabled_by_exactly_yes) {
     Configure("aga3_detail_fixed");
     Replace("Run2=Yes", "Run2=yes");
@@ -379,7 +408,7 @@ TEST_F(SummaryTabs, headings_follow_the_station_on_every_page) {
                          "AGA8/ISO-12213-2 Output Tags", "Parameters"}));
     });
     Play();
-    Station.AGA8CalInput = "FIXED";
+    Replace("AGA8CalInput=MEASURED", "AGA8CalInput=FIXED");
     TheStory.SelectTab(window, "SSTab2", 1).Check([this](Driver&) {
         EXPECT_EQ(Window().SSTab2.TabCaption(2), "AGA8/ISO-12213-2 Gas Composition");
     });
