@@ -32,6 +32,7 @@ int main(int argc, char* argv[]) {
     gfc::qt::QtScreen screen([&seams](const std::string& path, gfc::ui::WindowState) {
         return seams.Launcher.OpenTextFile(path);
     });
+    screen.WatchViewer([&seams] { return seams.Launcher.ViewerFailed(); });
     gfc::record::ProjectRecorder entries(seams.Clock, seams.TimeZone, seams.Paths.UserName());
     gfc::record::BackgroundRecorder recorder(entries);
     gfc::app::Application program(seams, screen, recorder);

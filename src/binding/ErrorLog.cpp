@@ -121,6 +121,19 @@ std::vector<LogSection> ErrorLogSections(const ExpectedTags& expected) {
     return sections;
 }
 
+std::vector<std::string> Findings(const ExpectedTags& expected) {
+    std::vector<std::string> lines;
+    for (const auto list : {Float, Analog, Digital, Long})
+        for (const ExpectedTag& entry : expected.*list) {
+            const int number = static_cast<int>(lines.size()) + 1;
+            if (auto error = Error(entry, number))
+                lines.push_back(*std::move(error));
+            else if (auto warning = Warning(entry, number))
+                lines.push_back(*std::move(warning));
+        }
+    return lines;
+}
+
 bool LogsGasInputErrors(const ExpectedTags& expected) {
     return std::ranges::any_of(expected.ExpectedFloat, [](const ExpectedTag& entry) {
         return !entry.Found && (entry.Group == group::Composition || entry.Group == group::GasParameters);

@@ -26,6 +26,10 @@ struct LogSection {
 // The sections that have lines, in the order of writing. The lists must have been checked.
 [[nodiscard]] std::vector<LogSection> ErrorLogSections(const ExpectedTags& expected);
 
+// What was not found or bears no name, one line for each, for a person to read where there is no log. The
+// lists must have been checked.
+[[nodiscard]] std::vector<std::string> Findings(const ExpectedTags& expected);
+
 // True if the log has an error of a gas input, be it of the composition or of the gas parameters.
 [[nodiscard]] bool LogsGasInputErrors(const ExpectedTags& expected);
 

@@ -31,6 +31,9 @@ public:
                                      const std::vector<std::string>& arguments) = 0;
     // Shows a text file in the viewer of the machine.
     [[nodiscard]] virtual bool OpenTextFile(const std::string& path) = 0;
+    // True, once, if the viewer that was started last has ended by now, and badly: it has shown nothing.
+    // False too where the machine does not tell.
+    [[nodiscard]] virtual bool ViewerFailed() { return false; }
 };
 
 class Paths {

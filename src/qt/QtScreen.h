@@ -3,6 +3,8 @@
 #include "qt/Designs.h"
 #include "ui/Screen.h"
 
+#include <QObject>
+
 #include <functional>
 #include <memory>
 #include <string>
@@ -25,6 +27,9 @@ public:
     // of the program's own shows it.
     using Viewer = std::function<bool(const std::string& path, ui::WindowState state)>;
     explicit QtScreen(Viewer viewer = {});
+    // Asked for a while after the viewer was opened: true if it has ended badly, and shown nothing. The
+    // window of the program's own then takes its place.
+    void WatchViewer(std::function<bool()> hasFailed) { viewerFailed_ = std::move(hasFailed); }
     ~QtScreen() override;
     QtScreen(const QtScreen&) = delete;
     QtScreen& operator=(const QtScreen&) = delete;
@@ -69,7 +74,11 @@ private:
     [[nodiscard]] bool IsModal(const ui::Form& form) const;
     int Execute(QDialog& dialog);
 
+    void LookAfterViewer(const std::string& path, ui::WindowState state, int looks);
+
     Viewer viewer_;
+    std::function<bool()> viewerFailed_;
+    QObject looking_; // for as long as a viewer is looked after
     std::vector<Design> designs_;
     std::unordered_map<const ui::Form*, FormWindow*> windows_;
     std::vector<ui::Form*> shown_; // the one shown last stands at the end

@@ -13,9 +13,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 #include <QWindow>
 
 #include <array>
@@ -23,6 +25,8 @@
 namespace gfc::qt {
 
 namespace {
+
+constexpr int looksAfterViewer = 100; // ten seconds
 
 constexpr std::array<QMessageBox::Icon, 5> icons{QMessageBox::NoIcon, QMessageBox::Information,
                                                  QMessageBox::Question, QMessageBox::Warning,
@@ -44,6 +48,14 @@ void SetUpButtons(QMessageBox& message, ui::Buttons buttons) {
     message.setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
     // What closes the box without an answer is its last button.
     message.setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Ok);
+}
+
+// Its words are no markup, whatever they are.
+void ShowAtStake(QMessageBox& message, const QString& name) {
+    message.setInformativeText(name);
+    if (auto* line = message.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        line->setTextFormat(Qt::PlainText);
+    message.setDefaultButton(QMessageBox::No);
 }
 
 ui::Answer AnswerOf(int button, ui::Buttons buttons) {
@@ -81,6 +93,8 @@ ui::Answer QtScreen::Ask(const ui::Box& box) {
     message.setText(LinesOf(box.Text));
     message.setIcon(icons.at(static_cast<std::size_t>(box.TheIcon)));
     SetUpButtons(message, box.TheButtons);
+    if (!box.AtStake.empty())
+        ShowAtStake(message, ToQt(box.AtStake));
     if (box.HelpContext != 0)
         AddHelp(message, [this, &box] { OpenHelp(box.HelpFile, box.HelpContext); });
     return AnswerOf(Execute(message), box.TheButtons);
@@ -129,7 +143,24 @@ void QtScreen::OpenHelp(const std::string& file, int context) {
 bool QtScreen::ViewText(const std::string& path, ui::WindowState state) {
     if (ended_)
         return false;
-    return (viewer_ && viewer_(path, state)) || ShowTextWindow(path, state, TopWindow());
+    if (!viewer_ || !viewer_(path, state))
+        return ShowTextWindow(path, state, TopWindow());
+    if (viewerFailed_)
+        LookAfterViewer(path, state, looksAfterViewer);
+    return true;
+}
+
+// Nobody waits for a viewer, and one that has not ended by then is being read.
+void QtScreen::LookAfterViewer(const std::string& path, ui::WindowState state, int looks) {
+    constexpr int pause = 100; // milliseconds
+    QTimer::singleShot(pause, &looking_, [this, path, state, looks] {
+        if (ended_)
+            return;
+        if (viewerFailed_())
+            (void)ShowTextWindow(path, state, TopWindow());
+        else if (looks > 1)
+            LookAfterViewer(path, state, looks - 1);
+    });
 }
 
 } // namespace gfc::qt

@@ -89,7 +89,8 @@ void Form::RemoveCloseCommand() {
 bool Form::PersonCloses() {
     if (!hasCloseCommand_ || !enabled_)
         return false;
-    Unload();
+    const auto alive = KeepAlive();
+    CloseAsked();
     return true;
 }
 

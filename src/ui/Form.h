@@ -58,7 +58,7 @@ public:
     // A form without a close command is left by its own buttons only.
     void RemoveCloseCommand();
     [[nodiscard]] bool HasCloseCommand() const { return hasCloseCommand_; }
-    // A person used the window's close command; false if the form has none.
+    // A person used the window's close command; false if the form has none. What becomes of it the form says.
     bool PersonCloses();
     // A person pressed a key that no control has used; true if the form made use of it.
     bool PersonPresses(Key key);
@@ -91,6 +91,8 @@ protected:
     virtual void Unloading() {}
     virtual void Activate() {}
     virtual bool KeyDown(Key) { return false; }
+    // A person used the window's close command.
+    virtual void CloseAsked() { Unload(); }
 
     void SetDefaultButton(CommandButton& button) { defaultButton_ = &button; }
     void SetCancelButton(CommandButton& button) { cancelButton_ = &button; }

@@ -19,6 +19,9 @@ struct Box {
     std::string Text;
     Icon TheIcon = Icon::None;
     Buttons TheButtons = Buttons::Ok;
+    // Whose work a Yes would throw away, as the station's: a line of its own below the text, and the answer
+    // that Enter gives is No. Empty where nothing is lost.
+    std::string AtStake = {};
     // The box has a help button that opens HelpFile at this number; 0 for none.
     int HelpContext = 0;
     std::string HelpFile = {};

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <csignal>
 #include <cstdlib>
@@ -15,6 +16,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -52,38 +54,56 @@ int InChild(Work work) {
 
 class SingleInstanceTest : public testing::Test {
 protected:
+    ~SingleInstanceTest() override { std::filesystem::remove(Common); }
+
     TempFolder Folder;
     Environment Runtime{"XDG_RUNTIME_DIR", Folder.Path().c_str()};
+    // The tests of others go on at the same time in the same common folder.
+    const std::string Name = "gfc-test-" + std::to_string(::getpid());
+    const std::string Common = "/tmp/" + Name + "-" + std::to_string(::geteuid()) + ".lock";
 };
+
+TEST_F(SingleInstanceTest, finds_the_other_start_that_has_no_folder_of_its_own) {
+    for (const bool firstHasOne : {true, false}) {
+        const auto acquire = [this](bool hasOne) {
+            const Environment runtime("XDG_RUNTIME_DIR", hasOne ? Folder.Path().c_str() : nullptr);
+            auto instance = MakeSingleInstance();
+            return instance->Acquire(Name) ? std::move(instance) : nullptr;
+        };
+        const auto first = acquire(firstHasOne);
+        EXPECT_NE(first, nullptr);
+        EXPECT_EQ(acquire(!firstHasOne), nullptr) << "the first has one: " << firstHasOne;
+    }
+}
 
 TEST_F(SingleInstanceTest, a_second_process_does_not_get_the_name) {
     const auto first = MakeSingleInstance();
-    EXPECT_TRUE(first->Acquire("gfc"));
-    EXPECT_TRUE(first->Acquire("gfc")) << "its holder keeps it";
-    EXPECT_EQ(InChild([] { return MakeSingleInstance()->Acquire("gfc") ? 0 : 1; }), 1);
-    EXPECT_EQ(InChild([] { return MakeSingleInstance()->Acquire("other") ? 0 : 1; }), 0);
+    EXPECT_TRUE(first->Acquire(Name));
+    EXPECT_TRUE(first->Acquire(Name)) << "its holder keeps it";
+    EXPECT_EQ(InChild([this] { return MakeSingleInstance()->Acquire(Name) ? 0 : 1; }), 1);
+    EXPECT_EQ(InChild([this] { return MakeSingleInstance()->Acquire(Name + "-other") ? 0 : 1; }), 0);
 }
 
 TEST_F(SingleInstanceTest, the_name_is_free_again_after_its_holder) {
-    ASSERT_TRUE(MakeSingleInstance()->Acquire("gfc"));
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    ASSERT_TRUE(MakeSingleInstance()->Acquire(Name));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(Name));
 }
 
 TEST_F(SingleInstanceTest, a_killed_holder_leaves_the_name_free) {
-    EXPECT_EQ(InChild([] {
+    EXPECT_EQ(InChild([this] {
                   const auto instance = MakeSingleInstance();
-                  if (instance->Acquire("gfc"))
+                  if (instance->Acquire(Name))
                       ::raise(SIGKILL);
                   return 0;
               }),
               -1);
     EXPECT_EQ(Folder.Count(), 1u) << "the file is still there";
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(Name));
 }
 
 TEST_F(SingleInstanceTest, a_stale_file_fools_nobody) {
-    Folder.Put("gfc.lock", "12345");
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    Folder.Put(Name + ".lock", "12345");
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(Name));
 }
 
 TEST_F(SingleInstanceTest, a_started_program_does_not_hold_the_name_on) {
@@ -91,35 +111,36 @@ TEST_F(SingleInstanceTest, a_started_program_does_not_hold_the_name_on) {
     ASSERT_EQ(::mkfifo(pipes.Path("hold").c_str(), 0600), 0);
     {
         const auto instance = MakeSingleInstance();
-        ASSERT_TRUE(instance->Acquire("gfc"));
+        ASSERT_TRUE(instance->Acquire(Name));
         ASSERT_TRUE(MakeLauncher()->Start("/bin/sh", {"-c", "read x < \"$0\"", pipes.Path("hold")}));
     }
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(Name));
     const int release = ::open(pipes.Path("hold").c_str(), O_WRONLY);
     EXPECT_GE(release, 0);
     ::close(release);
 }
 
 TEST_F(SingleInstanceTest, lets_the_program_run_where_no_lock_can_be_had) {
-    std::filesystem::create_directory(Folder.Path("gfc.lock"));
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    std::filesystem::create_directory(Folder.Path(Name + ".lock"));
+    std::filesystem::create_directory(Common);
+    EXPECT_TRUE(MakeSingleInstance()->Acquire(Name));
 }
 
 // Another one may have put it there; and the program must not wait at it.
 TEST_F(SingleInstanceTest, locks_nothing_that_is_no_plain_file) {
-    ASSERT_EQ(::mkfifo(Folder.Path("gfc.lock").c_str(), 0600), 0);
+    ASSERT_EQ(::mkfifo(Folder.Path(Name + ".lock").c_str(), 0600), 0);
     const auto first = MakeSingleInstance();
-    EXPECT_TRUE(first->Acquire("gfc"));
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    EXPECT_TRUE(first->Acquire(Name));
+    EXPECT_FALSE(MakeSingleInstance()->Acquire(Name)) << "the common folder tells";
 }
 
 TEST_F(SingleInstanceTest, locks_no_file_of_another_user) {
     if (::geteuid() != 0)
         GTEST_SKIP() << "only the superuser may give files away";
-    ASSERT_EQ(::chown(Folder.Put("gfc.lock", "").c_str(), 65534, 65534), 0);
+    ASSERT_EQ(::chown(Folder.Put(Name + ".lock", "").c_str(), 65534, 65534), 0);
     const auto first = MakeSingleInstance();
-    EXPECT_TRUE(first->Acquire("gfc"));
-    EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc"));
+    EXPECT_TRUE(first->Acquire(Name));
+    EXPECT_FALSE(MakeSingleInstance()->Acquire(Name)) << "the common folder tells";
 }
 
 TEST(SingleInstanceFolder, must_be_the_users_own_full_path) {
@@ -224,6 +245,48 @@ TEST_F(LauncherTest, opens_a_text_file_in_the_machines_viewer) {
     const Environment search("PATH", path.c_str());
     EXPECT_TRUE(Real->OpenTextFile("/srv/jobs/North Gate_Errors.log"));
     EXPECT_EQ(Said(), "/srv/jobs/North Gate_Errors.log");
+}
+
+// The script goes on once it is told to; then its end is waited for.
+TEST_F(LauncherTest, tells_of_a_viewer_that_ends_badly) {
+    Script("xdg-open", "read x < \"$(dirname \"$0\")/said\"; exit \"$x\"");
+    const std::string path = Folder.Path() + ":/usr/bin:/bin";
+    const Environment search("PATH", path.c_str());
+    for (const char* code : {"3", "0"}) {
+        ASSERT_TRUE(Real->OpenTextFile("/srv/jobs/x.log"));
+        EXPECT_FALSE(Real->ViewerFailed()) << "it is still there";
+        EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "there is no child to wait for";
+        Folder.Put("said", std::string(code) + "\n");
+        bool failed = false;
+        for (int look = 0; look < 500 && !failed && (*code != '0' || look < 20); ++look) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            failed = Real->ViewerFailed();
+        }
+        EXPECT_EQ(failed, *code == '3');
+        EXPECT_FALSE(Real->ViewerFailed()) << "once is enough";
+    }
+}
+
+// Nor its watch, which lives as long as the viewer does.
+TEST_F(SingleInstanceTest, a_viewer_does_not_hold_the_name_on) {
+    TempFolder pipes;
+    ASSERT_EQ(::mkfifo(pipes.Path("hold").c_str(), 0600), 0);
+    pipes.Put("xdg-open", "#!/bin/sh\nread x < \"$1\"\n");
+    std::filesystem::permissions(pipes.Path("xdg-open"), std::filesystem::perms::owner_all);
+    const std::string path = pipes.Path() + ":/usr/bin:/bin";
+    const Environment search("PATH", path.c_str());
+    {
+        const auto instance = MakeSingleInstance();
+        ASSERT_TRUE(instance->Acquire(Name));
+        ASSERT_TRUE(MakeLauncher()->OpenTextFile(pipes.Path("hold")));
+    }
+    bool free = false; // the watch closes what it has inherited a moment after the viewer has started
+    for (int look = 0; look < 500 && !free; ++look) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        free = MakeSingleInstance()->Acquire(Name);
+    }
+    EXPECT_TRUE(free);
+    ::close(::open(pipes.Path("hold").c_str(), O_WRONLY));
 }
 
 TEST_F(LauncherTest, says_so_where_there_is_no_viewer) {

@@ -185,6 +185,22 @@ TEST_F(Windows, ask_in_a_box_with_title_text_icon_and_buttons) {
     EXPECT_TRUE(Form->Log.empty());
 }
 
+TEST_F(Windows, name_what_is_at_stake_below_the_text_and_answer_no_to_enter) {
+    OnBox([](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "All of it?");
+        EXPECT_EQ(box.informativeText(), "North <b>");
+        const auto* line = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+        ASSERT_NE(line, nullptr);
+        EXPECT_EQ(line->textFormat(), Qt::PlainText);
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    EXPECT_EQ(Screen.Ask({.Title = "Title",
+                          .Text = "All of it?",
+                          .TheButtons = ui::Buttons::YesNo,
+                          .AtStake = "North <b>"}),
+              ui::Answer::No);
+}
+
 TEST_F(Windows, take_a_box_closed_without_an_answer_for_its_last_button) {
     for (const auto buttons : {ui::Buttons::YesNo, ui::Buttons::Ok}) {
         OnBox([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
@@ -206,6 +222,20 @@ TEST_F(Windows, show_a_text_themselves_where_no_viewer_does) {
     EXPECT_EQ(page->toPlainText(), QString::fromUtf8("First\nA\xC3\xB1o\n"));
     viewer->close();
     EXPECT_FALSE(Screen.ViewText(path + ".missing", ui::WindowState::Normal));
+}
+
+TEST_F(Windows, show_a_text_themselves_where_the_viewer_ends_badly) {
+    const TempFolder folder;
+    const std::string path = folder.Path() + "/station_Errors.log";
+    std::ofstream(path, std::ios::binary) << "First\r\n";
+    qt::QtScreen screen([](const std::string&, ui::WindowState) { return true; });
+    int looks = 0;
+    screen.WatchViewer([&looks] { return ++looks == 2; });
+    EXPECT_TRUE(screen.ViewText(path, ui::WindowState::Normal));
+    EXPECT_EQ(FindWindow("TextWindow"), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([] { return FindWindow("TextWindow") != nullptr; }));
+    FindWindow("TextWindow")->close();
+    EXPECT_EQ(looks, 2);
 }
 
 TEST(Screens, leave_texts_to_the_viewer_that_there_is) {

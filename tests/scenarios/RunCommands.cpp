@@ -153,9 +153,7 @@ Scenario LogAskedFor() {
                                 });
                                 Choose(story, RunNode(2), "erun");
                                 story.Box("Failed enable run", "", Icon::Question, Answer::Yes)
-                                    .Box("Gas Flow Computer",
-                                         "There is no error log file for this station:\r\n" + log,
-                                         Icon::Exclamation)
+                                    .Box("Gas Flow Computer", "", Icon::Exclamation)
                                     .Do("a log is there", [=](Driver&) {
                                         outside->Program->Files.Content[log] = "[Errors]\r\n";
                                     });

@@ -3,6 +3,7 @@
 #include "config/Vocabulary.h"
 #include "forms/editors/NumericFields.h"
 #include "forms/program/HelpFile.h"
+#include "forms/program/Loss.h"
 #include "forms/station/GiveBack.h"
 
 namespace gfc::forms {
@@ -56,12 +57,9 @@ void TagRuns::SaySomethingIsBound() {
 }
 
 void TagRuns::Cancel() {
-    const auto answer = program_.Screen.Ask(
-        {.Title = "Gas Flow Computer",
-         .Text = "Are you sure you want to discard the changes made to the current configuration?",
-         .TheIcon = ui::Icon::Question,
-         .TheButtons = ui::Buttons::YesNo});
-    if (answer == ui::Answer::Yes)
+    if (MayLose(program_, "Gas Flow Computer",
+                "Are you sure you want to discard the changes made to the current configuration?",
+                ui::Icon::Question))
         GiveBackFromTagRuns(program_);
 }
 

@@ -1,6 +1,7 @@
 #include "forms/configurador/Configurador.h"
 
 #include "forms/program/HelpFile.h"
+#include "forms/program/Loss.h"
 #include "forms/program/MainWindow.h"
 
 namespace gfc::forms {
@@ -88,11 +89,8 @@ void Configurador::TabEntered() {
 }
 
 void Configurador::Quit() {
-    const auto answer = program_.Screen.Ask(
-        {.Title = "Orm Gas Flow Computer",
-         .Text = "Do you want to cancel and discard any changes made to the current configuration?",
-         .TheButtons = ui::Buttons::YesNo});
-    if (answer != ui::Answer::Yes)
+    if (!MayLose(program_, "Orm Gas Flow Computer",
+                 "Do you want to cancel and discard any changes made to the current configuration?"))
         return;
     ShowMainWindow(program_);
     Unload();

@@ -91,6 +91,8 @@ protected:
     void Load() override;
     void Unloading() override;
     bool KeyDown(ui::Key key) override;
+    // The close box asks what Cancel asks.
+    void CloseAsked() override { Quit(); }
 
 private:
     // The ways in and out (Configurador.cpp)

@@ -1,6 +1,7 @@
 #include "forms/editors/EditorParts.h"
 
 #include "forms/program/HelpFile.h"
+#include "forms/program/Loss.h"
 #include "forms/station/GiveBack.h"
 
 namespace gfc::forms {
@@ -45,11 +46,8 @@ void OpenEditorHelp(ui::Screen& screen, const ui::CommandButton& helpButton, int
 }
 
 void CancelEditor(Program& program, ui::Form& editor, const std::string& title, const std::string& question) {
-    const auto answer =
-        program.Screen.Ask({.Title = title, .Text = question, .TheButtons = ui::Buttons::YesNo});
-    if (answer != ui::Answer::Yes || program.Screen.Ended())
-        return;
-    GiveBackFromEditor(program, editor);
+    if (MayLose(program, title, question))
+        GiveBackFromEditor(program, editor);
 }
 
 void CancelMechanicalEditor(Program& program, ui::Form& editor) {

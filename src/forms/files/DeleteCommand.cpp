@@ -2,6 +2,7 @@
 #include "forms/files/CopyCommands.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
+#include "forms/program/Loss.h"
 
 namespace gfc::forms {
 
@@ -13,11 +14,8 @@ bool HasConfiguration(const Program& program) {
 }
 
 bool MayDelete(Program& program) {
-    const auto answer =
-        program.Screen.Ask({.Title = "Delete Configuration",
-                            .Text = "Are you sure that you want to delete the configuration of this station?",
-                            .TheButtons = ui::Buttons::YesNo});
-    return answer == ui::Answer::Yes && !program.Screen.Ended();
+    return MayLose(program, "Delete Configuration",
+                   "Are you sure that you want to delete the configuration of this station?");
 }
 
 // What holds the file, another program perhaps, may let it go a little later. Deliberately without a word and

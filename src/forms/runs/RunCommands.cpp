@@ -65,7 +65,7 @@ void Refuse(Program& program, int run, const EnableFault& fault) {
                                             .TheIcon = ui::Icon::Question,
                                             .TheButtons = ui::Buttons::YesNo});
     if (answer == ui::Answer::Yes && !program.Screen.Ended())
-        ViewErrorLog(program, log, ui::WindowState::Maximised);
+        ViewFindings(program, log, binding::Findings(program.Session.Expected));
 }
 
 // The station as its file has it, but with all runs off in memory: adding a run needs that one alone.

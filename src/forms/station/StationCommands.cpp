@@ -2,6 +2,7 @@
 
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
+#include "forms/program/Loss.h"
 #include "forms/station/IOReports.h"
 #include "forms/wizard/SelectRuns.h"
 #include "forms/wizard/WizardFC.h"
@@ -52,12 +53,10 @@ void ReportShortageOfBoth(Program& program) {
 
 // Asked for a station without a configuration too.
 bool MayReplaceConfiguration(Program& program) {
-    const auto answer = program.Screen.Ask({.Title = "Flow Gas Computer",
-                                            .Text = "Creating a new configuration for the station.\r\n"
-                                                    "The current configuration will be deleted.\r\n"
-                                                    "Proceed?",
-                                            .TheButtons = ui::Buttons::YesNo});
-    return answer == ui::Answer::Yes;
+    return MayLose(program, "Flow Gas Computer",
+                   "Creating a new configuration for the station.\r\n"
+                   "The current configuration will be deleted.\r\n"
+                   "Proceed?");
 }
 
 // The wizard starts on the algorithm that the station carries.

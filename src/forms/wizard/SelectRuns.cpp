@@ -1,6 +1,7 @@
 #include "forms/wizard/SelectRuns.h"
 
 #include "config/Vocabulary.h"
+#include "forms/program/Loss.h"
 #include "forms/station/IOReports.h"
 #include "forms/wizard/WizardFC.h"
 #include "project/Requirements.h"
@@ -88,26 +89,26 @@ bool SelectRuns::Fits() const {
 }
 
 void SelectRuns::Refuse() {
-    if (FlagAGA7)
-        (void)MaximumRuns(program_, true, true);
-    ReportOverSelection();
+    const int fit = MaximumRuns(program_, FlagAGA7, FlagAGA7);
+    const bool said = FlagAGA7 && !project::MaximumRunsText(fit).empty();
+    // Neither of the two knows why fewer runs than fit, or one where none fits, are refused.
+    if (!ReportOverSelection(fit) && !said)
+        ReportIOShortage(program_,
+                         FlagAGA7 ? project::ShortageKind::AGA7 : project::ShortageKind::AGA3Family);
     session_.Station.ActiveRunCount = 0;
 }
 
-void SelectRuns::ReportOverSelection() {
-    const int fit = MaximumRuns(program_, FlagAGA7, false);
+bool SelectRuns::ReportOverSelection(int fit) {
     if (fit < 1 || fit > 4 || SetBoxes() <= fit)
-        return;
+        return false;
     program_.Screen.Ask(
         {.Title = OverSelectionTitles.at(static_cast<std::size_t>(fit)), .Text = "Unselect Runs"});
+    return true;
 }
 
 void SelectRuns::Cancel() {
-    const auto answer =
-        program_.Screen.Ask({.Title = "Gas flow Computer",
-                             .Text = "Are you sure do you want to cancel the configuration process?",
-                             .TheButtons = ui::Buttons::YesNo});
-    if (answer != ui::Answer::Yes)
+    if (!MayLose(program_, "Gas flow Computer",
+                 "Are you sure do you want to cancel the configuration process?"))
         return;
     // The command has preset the wizard; kept loaded, it would show this station's modules for the next one.
     program_.Forms.Unload<WizardFC>();

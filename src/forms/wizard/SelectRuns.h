@@ -36,7 +36,8 @@ private:
     void Cancel();
     [[nodiscard]] int SetBoxes() const;
     [[nodiscard]] bool Fits() const;
-    void ReportOverSelection();
+    // False if it has nothing to say: no more runs are selected than fit.
+    [[nodiscard]] bool ReportOverSelection(int fit);
 };
 
 } // namespace gfc::forms

@@ -125,25 +125,29 @@ void WizardFC::Next() {
 }
 
 void WizardFC::OfferFinish() {
-    siguiente.SetVisible(false);
-    siguiente.SetEnabled(false);
     finalizar.SetVisible(true);
     finalizar.SetEnabled(true);
+    // Before the other button goes: the focus would fall to the one that throws all away.
+    finalizar.SetFocus();
+    siguiente.SetVisible(false);
+    siguiente.SetEnabled(false);
     atras.SetEnabled(true);
 }
 
 void WizardFC::Back() {
-    finalizar.SetVisible(false);
     siguiente.SetVisible(true);
     siguiente.SetEnabled(true);
+    finalizar.SetVisible(false);
     if (nStep_ >= 1 && nStep_ <= lastPage_) {
         const bool skips = general.ShowsDensimeter() && nStep_ == Gas && session_.Station.FlagAGA7;
         nStep_ -= skips ? 2 : 1;
     }
     ShowPage(nStep_);
     finalizar.SetEnabled(false);
-    if (nStep_ == 0)
-        atras.SetEnabled(false);
+    if (nStep_ != 0)
+        return;
+    siguiente.SetFocus();
+    atras.SetEnabled(false);
 }
 
 void WizardFC::TabClicked() {

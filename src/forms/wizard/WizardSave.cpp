@@ -1,6 +1,7 @@
 // The end of the wizard: the pass over the runs, the save, and the ways out.
 #include "config/ConfigWriter.h"
 #include "forms/binding/TagRuns.h"
+#include "forms/program/Loss.h"
 #include "forms/program/MainWindow.h"
 #include "forms/station/Step.h"
 #include "forms/station/WizardPass.h"
@@ -73,10 +74,7 @@ void WizardFC::Save() {
 }
 
 void WizardFC::Quit() {
-    const auto answer = program_.Screen.Ask({.Title = "Gas Flow Computer",
-                                             .Text = "Do you want to quit the configuration wizard ?",
-                                             .TheButtons = ui::Buttons::YesNo});
-    if (answer != ui::Answer::Yes)
+    if (!MayLose(program_, "Gas Flow Computer", "Do you want to quit the configuration wizard ?"))
         return;
     Unload();
     ShowMainWindow(program_);

@@ -77,13 +77,36 @@ struct Command {
     ::_exit(127);
 }
 
+// Keeps nothing that this program has open, its locks least of all: the watch may outlive it.
+int KeepOnly(int end) {
+    constexpr int kept = STDERR_FILENO + 1;
+    if (end != kept)
+        ::dup2(end, kept);
+    ::close_range(kept + 1, ~0U, 0);
+    return kept;
+}
+
+// Runs in the grandchild, which starts the program in its turn, and says a word if that ends badly.
+[[noreturn]] void Watch(const Command& command, int report, int outcome) {
+    const pid_t watched = ::fork();
+    if (watched == 0)
+        Become(command, report);
+    const int out = KeepOnly(outcome);
+    int status = 0;
+    while (watched > 0 && ::waitpid(watched, &status, 0) < 0 && errno == EINTR) {
+    }
+    if (watched < 0 || !WIFEXITED(status) || WEXITSTATUS(status) != 0)
+        (void)!::write(out, "x", 1);
+    ::_exit(0);
+}
+
 // Runs in the child, which ends at once: the grandchild then belongs to the system, and leaves no zombie
-// here.
-[[noreturn]] void StepAside(const Command& command, int report) {
+// here. An outcome of -1 is that of a program that nobody watches.
+[[noreturn]] void StepAside(const Command& command, int report, int outcome) {
     ::setsid();
     const pid_t grandchild = ::fork();
     if (grandchild == 0)
-        Become(command, report);
+        outcome < 0 ? Become(command, report) : Watch(command, report, outcome);
     ::_exit(grandchild < 0 ? 1 : 0);
 }
 
@@ -108,26 +131,54 @@ bool HeardNothing(int report) {
     return got == 0;
 }
 
+struct Pipe {
+    Descriptor Reader, Writer;
+};
+
+std::optional<Pipe> MakePipe(int flags) {
+    std::array<int, 2> ends{-1, -1};
+    if (::pipe2(ends.data(), O_CLOEXEC | flags) != 0)
+        return std::nullopt;
+    return Pipe{Descriptor(ends[0]), Descriptor(ends[1])};
+}
+
+bool Launch(const std::string& program, const std::vector<std::string>& arguments, int outcome) {
+    const auto path = Resolve(program);
+    auto report = MakePipe(0);
+    if (!path || !report)
+        return false;
+    const Command command(*path, arguments);
+    const pid_t child = ::fork();
+    if (child == 0)
+        StepAside(command, report->Writer.Get(), outcome);
+    (void)report->Writer.Close();
+    return child > 0 && ChildSucceeded(child) && HeardNothing(report->Reader.Get());
+}
+
 class PosixLauncher : public Launcher {
 public:
     bool Start(const std::string& program, const std::vector<std::string>& arguments) override {
-        const auto path = Resolve(program);
-        std::array<int, 2> ends{-1, -1};
-        if (!path || ::pipe(ends.data()) != 0)
-            return false;
-        Descriptor reader(ends[0]);
-        Descriptor writer(ends[1]);
-        ::fcntl(reader.Get(), F_SETFD, FD_CLOEXEC);
-        ::fcntl(writer.Get(), F_SETFD, FD_CLOEXEC);
-        const Command command(*path, arguments);
-        const pid_t child = ::fork();
-        if (child == 0)
-            StepAside(command, writer.Get());
-        (void)writer.Close();
-        return child > 0 && ChildSucceeded(child) && HeardNothing(reader.Get());
+        return Launch(program, arguments, -1);
     }
 
-    bool OpenTextFile(const std::string& path) override { return Start(TextViewer, {path}); }
+    bool OpenTextFile(const std::string& path) override {
+        auto outcome = MakePipe(O_NONBLOCK);
+        if (!outcome || !Launch(TextViewer, {path}, outcome->Writer.Get()))
+            return false;
+        outcome_ = std::move(outcome->Reader);
+        return true;
+    }
+
+    bool ViewerFailed() override {
+        char word = 0;
+        const auto said = outcome_ ? ::read(outcome_.Get(), &word, 1) : 0;
+        if (said >= 0)
+            outcome_ = Descriptor();
+        return said > 0;
+    }
+
+private:
+    Descriptor outcome_; // of the viewer that was started last
 };
 
 } // namespace

@@ -124,14 +124,23 @@ TEST(ConfiguradorMenu, help_opens_the_topic_of_the_tab) {
     EXPECT_EQ(world.Screen.HelpOpened, topics);
 }
 
-TEST(ConfiguradorMenu, the_windows_own_close_command_discards_and_brings_the_main_window_back) {
+TEST(ConfiguradorMenu, the_windows_own_close_command_asks_as_cancel_does) {
     ConfiguradorWorld world(WizardFile("aga3_densimeter"));
     const std::string before = world.File();
     auto& main = world.Program.Forms.Get<forms::GFCPrincipal>();
     main.Show();
     main.Hide();
-    world.TheStory.CloseWindow(Configurator).SeeShown("GFCPrincipal");
+    const std::string question =
+        "Do you want to cancel and discard any changes made to the current configuration?";
+    world.TheStory.CloseWindow(Configurator)
+        .Box("Orm Gas Flow Computer", question, ui::Icon::None, ui::Answer::No)
+        .SeeShown(Configurator)
+        .CloseWindow(Configurator)
+        .Box("Orm Gas Flow Computer", question, ui::Icon::None, ui::Answer::Yes)
+        .SeeShown(Configurator, false)
+        .SeeShown("GFCPrincipal");
     world.Show();
+    EXPECT_EQ(world.Screen.BoxesShown.back().AtStake, "North");
     EXPECT_EQ(world.File(), before);
     EXPECT_EQ(world.Session.Modules.NFX, 0);
     EXPECT_EQ(world.Session.EditMode, forms::EditMode::None);

@@ -64,6 +64,7 @@ TEST_F(DeleteCommand, does_nothing_unless_it_is_confirmed) {
     ChooseAt("All Stations\\North");
     Confirm(Answer::No);
     Play();
+    EXPECT_EQ(Screen.BoxesShown.back().AtStake, "North");
     EXPECT_TRUE(Files.Content.contains(file));
     EXPECT_EQ(Library.FilesToLoad.size(), 1U);
 }

@@ -148,6 +148,10 @@ TEST_P(SelectRunsFloor, refuses_one_register_less) {
         world.TheStory.Box("Gas Flow Computer", project::MaximumRunsText(fit), ui::Icon::Information);
     if (fit == 1)
         world.TheStory.Box("Missing tags", "Unselect Runs", ui::Icon::None);
+    // Somebody always says why.
+    if (fit != 1 && (!GetParam().AGA7 || fit < 1))
+        world.TheStory.Box(GetParam().AGA7 ? "Error: Configuring AGA7" : "Error: Configuring AGA3", "",
+                           ui::Icon::Exclamation);
     world.TheStory.SeeShown("SelectRuns").SeeShown("WizardFC", false).Check([&](Driver&) {
         EXPECT_EQ(world.Station.ActiveRunCount, 0);
     });
@@ -188,15 +192,18 @@ TEST_P(OverSelection, is_reported_under_its_own_title) {
     World.Show();
 }
 
+// But that the station does not carry them is said.
 TEST_P(OverSelection, is_not_reported_for_as_many_runs_as_fit) {
     const int fit = GetParam().Fit;
     std::vector<int> runs;
     for (int n = 1; n <= fit; ++n)
         runs.push_back(n);
-    World.Accept(runs);
+    World.Accept(runs).Box("Error: Configuring AGA3",
+                           project::IOShortageText(project::ShortageKind::AGA3Family, fit),
+                           ui::Icon::Exclamation);
     World.ThenCancel();
     World.Show();
-    ASSERT_EQ(World.Screen.BoxesShown.size(), 1U);
+    ASSERT_EQ(World.Screen.BoxesShown.size(), 2U);
 }
 
 // clang-format off

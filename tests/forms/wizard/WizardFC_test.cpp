@@ -134,6 +134,8 @@ TEST(WizardFC, walks_four_pages_forward) {
         .SeeVisible(Form, "finalizar")
         .SeeEnabled(Form, "finalizar")
         .SeeEnabled(Form, "atras");
+    // Enter once more must not throw all away.
+    world.TheStory.Check([](Driver& eyes) { EXPECT_EQ(eyes.Focused(Form), "finalizar"); });
     world.PlayPages();
 }
 
@@ -157,7 +159,8 @@ TEST(WizardFC, walks_back_to_the_first_page) {
         .SeeText(Form, "lbStep", "Step 1 of 4")
         // With a capital now, unlike at load.
         .SeeText(Form, "lbInfo", "Common Parameters to all runs")
-        .SeeEnabled(Form, "atras", false);
+        .SeeEnabled(Form, "atras", false)
+        .Check([](Driver& eyes) { EXPECT_EQ(eyes.Focused(Form), "siguiente"); });
     world.PlayPages();
 }
 
