@@ -18,11 +18,8 @@ constexpr auto Temperature = Quantity::Temperature;
 constexpr auto Pressure = Quantity::AbsolutePressure;
 
 std::string StationName(Station station) {
-    const std::string name = services::TrimFixedString(station.CurrentStation);
-    const auto first = name.find_first_not_of(' ');
-    if (first == std::string::npos)
-        return OrNotConfigured({});
-    return name.substr(first, name.find_last_not_of(' ') - first + 1);
+    // Cut at the first NUL; its blanks are part of it, as in the tree and in the file's name.
+    return OrNotConfigured(services::TrimFixedString(station.CurrentStation));
 }
 
 std::string Viscosity(Station station) {

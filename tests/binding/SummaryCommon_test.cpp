@@ -79,11 +79,13 @@ TEST(CommonParametersPage, shows_algorithm_and_source_as_stored) {
         }
 }
 
-TEST(CommonParametersPage, cuts_and_trims_the_station_name) {
+TEST(CommonParametersPage, cuts_the_station_name_at_its_end_and_keeps_its_blanks) {
     auto station = Filled("AGA3", "AGA8");
     station.CurrentStation = std::string("  North West \0\0\0", 16);
-    EXPECT_EQ(ValueAt(CommonParametersPage(station, {}), "2"), "North West");
+    EXPECT_EQ(ValueAt(CommonParametersPage(station, {}), "2"), "  North West ");
     station.CurrentStation = "   ";
+    EXPECT_EQ(ValueAt(CommonParametersPage(station, {}), "2"), "   ");
+    station.CurrentStation = "";
     EXPECT_EQ(ValueAt(CommonParametersPage(station, {}), "2"), "Not Configured");
 }
 

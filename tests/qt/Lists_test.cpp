@@ -2,6 +2,7 @@
 
 #include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
+#include <QApplication>
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
@@ -127,11 +128,19 @@ TEST_F(Lists, of_nodes_tell_in_words_what_picture_and_colour_tell) {
     EXPECT_EQ(NodeAt(Tree(), "Root").data(Qt::AccessibleTextRole).toString(), "Root");
 }
 
-TEST_F(Lists, of_nodes_use_shades_that_can_be_read) {
-    for (const auto colour : {ui::Colour::Blue, ui::Colour::Red, ui::Colour::Green}) {
+TEST_F(Lists, of_nodes_have_pure_colours_on_a_light_ground_and_light_ones_on_a_dark) {
+    const std::pair<ui::Colour, QRgb> pure[] = {
+        {ui::Colour::Blue, 0xFF0000FF}, {ui::Colour::Red, 0xFFFF0000}, {ui::Colour::Green, 0xFF008000}};
+    const auto shade = [this] {
+        return NodeAt(Tree(), "Root\\Branch\\Leaf").data(Qt::ForegroundRole).value<QColor>();
+    };
+    const QPalette usual = QApplication::palette();
+    for (const auto& [colour, rgb] : pure) {
         Form->tree.SetColour(3, colour);
-        const auto shade = NodeAt(Tree(), "Root\\Branch\\Leaf").data(Qt::ForegroundRole).value<QColor>();
-        EXPECT_LT(shade.lightness(), 110) << "on a light ground";
+        EXPECT_EQ(shade().rgb(), rgb);
+        QApplication::setPalette(QPalette(Qt::darkGray, QColor(0x22, 0x22, 0x22)));
+        EXPECT_GT(shade().lightness(), 140);
+        QApplication::setPalette(usual);
     }
 }
 

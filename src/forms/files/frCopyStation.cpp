@@ -28,6 +28,9 @@ std::vector<std::string> StationsWithoutConfiguration(const Program& program) {
     std::vector<std::string> names;
     for (const auto& station : project.Stations) {
         std::string name = services::TrimFixedString(station.Name);
+        // No file can bear the name: nothing can be copied to it.
+        if (config::ConfigFilePath(project.Paths, project.ProjectName, name).empty())
+            continue;
         if (!config::ConfigFileExists(program.Ini, project.Paths, project.ProjectName, name))
             names.push_back(std::move(name));
     }

@@ -7,6 +7,8 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace gfc::platform {
 namespace {
@@ -19,12 +21,13 @@ bool IsOwnFolder(const char* path) {
            state.st_uid == ::geteuid();
 }
 
-// The user's own folder for such files, else one file per user in the common one.
-std::string LockPath(std::string_view name) {
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (IsOwnFolder(runtime))
-        return std::string(runtime) + '/' + std::string(name) + ".lock";
-    return "/tmp/" + std::string(name) + '-' + std::to_string(::geteuid()) + ".lock";
+// One file per user in the common folder, where every start finds it, and one in the user's own folder for
+// such files, if there is one: nobody else can have put it there first.
+std::vector<std::string> LockPaths(std::string_view name) {
+    std::vector<std::string> paths{"/tmp/" + std::string(name) + '-' + std::to_string(::geteuid()) + ".lock"};
+    if (const char* runtime = std::getenv("XDG_RUNTIME_DIR"); IsOwnFolder(runtime))
+        paths.push_back(std::string(runtime) + '/' + std::string(name) + ".lock");
+    return paths;
 }
 
 bool IsOwnFile(int fd) {
@@ -37,20 +40,29 @@ bool IsOwnFile(int fd) {
 class PosixSingleInstance : public SingleInstance {
 public:
     bool Acquire(std::string_view name) override {
-        if (lock_)
+        if (!locks_.empty())
             return true;
-        Descriptor file =
-            posix::Open(LockPath(name).c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0600);
-        if (!file || !IsOwnFile(file.Get()))
-            return true;
-        if (::flock(file.Get(), LOCK_EX | LOCK_NB) != 0)
-            return errno != EWOULDBLOCK;
-        lock_ = std::move(file);
+        std::vector<Descriptor> locks;
+        for (const std::string& path : LockPaths(name))
+            if (!Lock(path, locks))
+                return false;
+        locks_ = std::move(locks);
         return true;
     }
 
 private:
-    Descriptor lock_;
+    // False if another process holds it. A file that cannot be locked at all tells nothing.
+    static bool Lock(const std::string& path, std::vector<Descriptor>& locks) {
+        Descriptor file = posix::Open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0600);
+        if (!file || !IsOwnFile(file.Get()))
+            return true;
+        if (::flock(file.Get(), LOCK_EX | LOCK_NB) != 0)
+            return errno != EWOULDBLOCK;
+        locks.push_back(std::move(file));
+        return true;
+    }
+
+    std::vector<Descriptor> locks_;
 };
 
 } // namespace

@@ -19,11 +19,12 @@ struct Shades {
     const char* OnDark;
 };
 
-// In the order of ui::Colour without the default: shades that are readable on the background.
+// In the order of ui::Colour without the default. Those on a light ground are 16711680, 255 and 32768, blue
+// counted highest; on a dark one they could not be read.
 constexpr std::array<Shades, 3> shades{{
-    {"#0b3fb5", "#8fb6ff"}, // blue
-    {"#b00020", "#ff9a9a"}, // red
-    {"#146c2e", "#7fd88f"}, // green
+    {"#0000ff", "#8fb6ff"}, // blue
+    {"#ff0000", "#ff9a9a"}, // red
+    {"#008000", "#7fd88f"}, // green
 }};
 
 QVariant ColourOf(ui::Colour colour) {

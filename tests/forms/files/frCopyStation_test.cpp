@@ -36,6 +36,19 @@ TEST_F(CopyStationForm, offers_the_stations_without_a_configuration_in_the_proje
     EXPECT_FALSE(Program.Forms.IsLoaded<forms::frCopyStation>());
 }
 
+TEST_F(CopyStationForm, offers_no_station_whose_name_no_file_can_bear) {
+    for (const char* name : {"Skid/4", "Skid\\4", ".."})
+        AddStation(name, {});
+    OpenProject();
+    TheStory
+        .Check([this](Driver&) {
+            EXPECT_EQ(Program.Forms.Get<forms::frCopyStation>().Combo1.Entries(),
+                      (Names{"West", "South", "East", ".."}));
+        })
+        .Click("frCopyStation", "Command2");
+    Show();
+}
+
 TEST_F(CopyStationForm, hands_back_the_selected_station) {
     TheStory.Select("frCopyStation", "Combo1", 2).Click("frCopyStation", "Command1");
     Show();

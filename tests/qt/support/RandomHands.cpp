@@ -49,6 +49,13 @@ constexpr std::array<Qt::Key, 22> keys{
 
 } // namespace
 
+RandomHands::~RandomHands() {
+    while (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+    if (down_ != Qt::NoButton && still_ != nullptr && still_->windowHandle() != nullptr)
+        QTest::mouseRelease(still_->windowHandle(), down_);
+}
+
 QPoint RandomHands::SomePoint() {
     const auto targets = Targets(window_);
     // The button that is down may be let go of beside them all, too.
@@ -113,7 +120,6 @@ std::string RandomHands::Popup(QWidget& popup) {
 
 std::string RandomHands::Act() {
     if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr) {
-        down_ = Qt::NoButton;
         return Popup(*popup);
     }
     switch (Draw(8)) {

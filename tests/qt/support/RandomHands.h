@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QPoint>
+#include <QPointer>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -20,7 +21,11 @@ namespace gfc::test {
 class RandomHands {
 public:
     // The same seed does the same to the same window.
-    RandomHands(QWidget& window, unsigned seed) : window_(window), random_(seed) {}
+    RandomHands(QWidget& window, unsigned seed) : window_(window), still_(&window), random_(seed) {}
+    // Lets go of what is pressed: the next hands find the mouse as it should be.
+    ~RandomHands();
+    RandomHands(const RandomHands&) = delete;
+    RandomHands& operator=(const RandomHands&) = delete;
 
     // Sends one event and tells which.
     std::string Act();
@@ -36,6 +41,7 @@ private:
     std::string Popup(QWidget& popup);
 
     QWidget& window_;
+    QPointer<QWidget> still_; // null once the window has gone
     std::mt19937 random_;
     Qt::MouseButton down_ = Qt::NoButton;
     QPoint last_; // where the pointer stands, in the window
