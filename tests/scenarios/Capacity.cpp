@@ -80,7 +80,9 @@ void SelectUntilItFits(Story& story) {
     Tick(story, {1, 2, 3, 4, 5});
     story.Click(selection, "Command1").Box("Missing Tags", "Unselect Runs", Icon::None);
     Tick(story, {1, 3});
-    story.Click(selection, "Command1").SeeShown(selection).SeeShown(wizard, false);
+    story.Click(selection, "Command1");
+    moves::ShortageBox(story, ShortageKind::AGA3Family, 3);
+    story.SeeShown(selection).SeeShown(wizard, false);
     Tick(story, {5});
     story.Click(selection, "Command1").SeeShown(wizard);
     QuitWizard(story);

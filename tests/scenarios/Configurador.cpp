@@ -191,7 +191,15 @@ void CancelledPassLeadsBack(Story& story) {
 
 void WindowsOwnCommandCloses(Story& story) {
     Configure(story, north);
-    story.Menu(configurador, "PG").CloseWindow(configurador).SeeShown("GFCPrincipal");
+    const std::string question =
+        "Do you want to cancel and discard any changes made to the current configuration?";
+    story.Menu(configurador, "PG")
+        .CloseWindow(configurador)
+        .Box("Orm Gas Flow Computer", question, Icon::None, Answer::No)
+        .SeeShown(configurador)
+        .CloseWindow(configurador)
+        .Box("Orm Gas Flow Computer", question, Icon::None, Answer::Yes)
+        .SeeShown("GFCPrincipal");
 }
 
 void ARunThatDoesNotFit(Story& story) {

@@ -147,6 +147,9 @@ void SayTooMany(Story& story, const Room& room, bool isAGA7, int runs) {
     const std::string title = OverTitle(most, runs);
     if (!title.empty())
         story.Box(title, "Unselect Runs", Icon::None);
+    // Nobody is refused without a word.
+    else if (!isAGA7 || most == 0)
+        story.Box(isAGA7 ? "Error: Configuring AGA7" : "Error: Configuring AGA3", "", Icon::Exclamation);
 }
 
 void AcceptRuns(bool isAGA7, int runs, const Room& room, bool fits) {
