@@ -189,6 +189,26 @@ TEST_F(WithTheMouse, the_close_box_of_the_configurator_asks) {
     Play();
 }
 
+// Enter once too often begins the pass, and does not throw away what was entered.
+TEST_F(WithTheMouse, the_last_page_of_the_wizard_stands_on_finish) {
+    moves::OpenWizard(Tale, "North");
+    moves::SelectRuns(Tale, {1});
+    Tale.Select("WizardFC", "CombStandard", 0).Select("WizardFC", "cbSourceGas", 1);
+    Do(
+        "go on with Next to the last page",
+        [](Pointer& pointer) {
+            for (int page = 0; page < 3; ++page)
+                pointer.Click(pointer.Button("siguiente"));
+        },
+        "WizardFC");
+    Tale.SeeVisible("WizardFC", "finalizar")
+        .Check([](Driver& eyes) { EXPECT_EQ(eyes.Focused("WizardFC"), "finalizar"); })
+        .Click("WizardFC", "cancelar")
+        .Box("Gas Flow Computer", "Do you want to quit the configuration wizard ?", ui::Icon::None,
+             ui::Answer::Yes);
+    Play();
+}
+
 // The tags that are offered for the inputs of a run.
 class WithTheMouseOnTags : public ::testing::Test {
 protected:
