@@ -76,8 +76,9 @@ Conditions ConditionsOf(const config::StationConfig& station, int element) {
     conditions.GasDensitySource = station.GasDensitySource;
     conditions.Measured = station.Measured;
     conditions.CompositionMeasured = station.AGA8CalInput == config::CompositionMeasured;
-    conditions.ExtAtmPress = station.ExtAtmPress == config::Yes;
-    conditions.ExtMech = mechanical != nullptr && mechanical->ExtMechParam == config::Yes;
+    conditions.ExtAtmPress = services::EqualNoCase(station.ExtAtmPress, config::Yes);
+    conditions.ExtMech =
+        mechanical != nullptr && services::EqualNoCase(mechanical->ExtMechParam, config::Yes);
     return conditions;
 }
 

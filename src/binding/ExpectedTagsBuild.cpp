@@ -89,15 +89,16 @@ Conditions CommonConditions(const config::StationConfig& station, const FileRead
     conditions.GasDensitySource = station.GasDensitySource;
     conditions.Measured = station.GasDensitySource == config::source::Measured;
     conditions.CompositionMeasured = station.AGA8CalInput == config::CompositionMeasured;
-    conditions.ExtAtmPress = reader.SaysYes(CommonSection, "ExtAtmPress");
+    conditions.ExtAtmPress = reader.SaysYesInAnyCase(CommonSection, "ExtAtmPress");
     return conditions;
 }
 
 void AddRun(int run, Conditions conditions, FileReader& reader, ExpectedTags& expected) {
     const std::string section = "Run" + std::to_string(run);
     const RunTexts& texts = reader.ReadRun(section);
-    conditions.ExtMech = texts.ExtMechParam() == config::Yes;
-    conditions.ExtCorr = texts.ExtCCorrFactors() == config::Yes; // in files edited by hand only
+    conditions.ExtMech = services::EqualNoCase(texts.ExtMechParam(), config::Yes);
+    conditions.ExtCorr =
+        services::EqualNoCase(texts.ExtCCorrFactors(), config::Yes); // in files edited by hand only
     for (const VariableRow* row : CheckRows(conditions))
         Add(*row, section, texts.BindingOf(*row), expected);
 }

@@ -94,6 +94,12 @@ void ReadInto(std::span<std::string*> places, const platform::ProfileKeys& keys,
     });
 }
 
+// For the empty path.
+Outcome NoPlace() {
+    return {"The name of the station, or the path of the project, cannot be that of a file",
+            Standing::Missing};
+}
+
 bool IsComplete(std::span<std::string* const> places) {
     return std::ranges::all_of(places, [](const std::string* place) { return place == nullptr; });
 }
@@ -214,26 +220,64 @@ bool FileIni::FileExists(const std::string& file) const {
     return !file.empty() && files_.Exists(file);
 }
 
-bool FileIni::DeleteConfigFile(const std::string& file) {
+Outcome FileIni::Store(const std::string& file, const Changes& changes) {
+    FileBatch batch(*this, file);
+    changes(*this);
+    return batch.Store();
+}
+
+Outcome FileIni::StoreAnew(const std::string& file, const Changes& changes,
+                           const std::function<bool()>& makeWay) {
+    if (file.empty())
+        return NoPlace();
+    std::string bytes;
+    {
+        FileBatch batch(*this, file, FileBatch::Beginning::FromNothing);
+        changes(*this);
+        bytes = batch.TakeBytes();
+    }
+    const auto before = files_.Read(file);
+    return files_.PutAnew(file, bytes, makeWay) ? Outcome() : Failure(file, before.value_or(""), bytes);
+}
+
+Outcome FileIni::DeleteConfigFile(const std::string& file) {
+    if (file.empty())
+        return NoPlace();
     Touch(file);
     FileBatch* batch = OpenBatch(file);
     if (batch != nullptr)
         batch->Save();
-    const bool gone = !file.empty() && files_.Delete(file);
+    Outcome outcome;
+    if (!files_.Delete(file))
+        outcome = {files_.LastFailure(), files_.Exists(file) ? Standing::AsBefore : Standing::Missing};
     if (batch != nullptr)
         batch->Reload();
-    return gone;
+    return outcome;
 }
 
-bool FileIni::CopyConfigFile(const std::string& from, const std::string& to) {
+Outcome FileIni::CopyConfigFile(const std::string& from, const std::string& to) {
+    if (from.empty() || to.empty())
+        return NoPlace();
     Touch(to);
     for (const std::string* file : {&from, &to})
         if (FileBatch* batch = OpenBatch(*file))
             batch->Save();
-    const bool copied = !from.empty() && !to.empty() && files_.CopyNew(from, to);
+    Outcome outcome;
+    if (!files_.CopyNew(from, to))
+        outcome = {files_.LastFailure(), files_.Exists(to) ? Standing::Other : Standing::Missing};
     if (FileBatch* batch = OpenBatch(to))
         batch->Reload();
-    return copied;
+    return outcome;
+}
+
+Outcome FileIni::Failure(const std::string& file, std::string_view before, std::string_view wanted) const {
+    std::string reason = files_.LastFailure();
+    const auto now = files_.Read(file);
+    if (!now)
+        return {std::move(reason), files_.Exists(file) ? Standing::Unreadable : Standing::Missing};
+    return {std::move(reason), *now == wanted   ? Standing::AsWanted
+                               : *now == before ? Standing::AsBefore
+                                                : Standing::Other};
 }
 
 FileBatch* FileIni::OpenBatch(const std::string& file) const {
@@ -266,11 +310,17 @@ bool FileIni::Change(const std::string& file, const Edit& edit) {
 }
 
 FileBatch::FileBatch(const FileIni& ini, const std::string& file)
+    : FileBatch(ini, file, Beginning::AsItStands) {}
+
+FileBatch::FileBatch(const FileIni& ini, const std::string& file, Beginning beginning)
     : ini_(ini), outermost_(ini.OpenBatch(file) == nullptr) {
     if (!outermost_)
         return;
     file_ = file;
-    Reload();
+    if (beginning == Beginning::FromNothing)
+        profile_ = platform::ProfileFile::New(ini_.files_, file_);
+    else
+        Reload();
     ini_.batches_.push_back(this);
 }
 
@@ -279,6 +329,25 @@ FileBatch::~FileBatch() {
         return;
     Save();
     std::erase(ini_.batches_, this);
+}
+
+// What cannot be stored is dropped: whoever is told begins again from the file as it stands then.
+Outcome FileBatch::Store() {
+    if (!outermost_)
+        return {};
+    if (file_.empty())
+        return NoPlace();
+    if (!profile_)
+        return {unreadable_, Standing::AsBefore};
+    if (Save())
+        return {};
+    changed_ = false;
+    return ini_.Failure(file_, profile_->BytesBefore(), profile_->Profile().Bytes());
+}
+
+std::string FileBatch::TakeBytes() {
+    changed_ = false;
+    return profile_->Profile().Bytes();
 }
 
 // A batch that only read does not touch the file.
@@ -301,6 +370,8 @@ void FileBatch::Reload() {
     profile_.reset();
     if (!file_.empty())
         profile_ = platform::ProfileFile::Open(ini_.files_, file_);
+    if (!profile_)
+        unreadable_ = ini_.files_.LastFailure();
 }
 
 } // namespace gfc::config

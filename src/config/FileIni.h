@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/Outcome.h"
 #include "platform/ProfileFile.h"
 
 #include <functional>
@@ -71,9 +72,9 @@ public:
     // lines, if all keys are found there. The result is that of FileExists.
     bool ReadFirstKeys(std::string_view section, const platform::ProfileKeys& keys, const std::string& file,
                        std::span<std::string*> places) const;
-    // An absent value deletes the key. False if the file could not be written; no caller acts on it. A value
-    // ends at its first NUL or line break, since it would otherwise break the lines of the file; a character
-    // that the code page lacks is written as "?".
+    // An absent value deletes the key. False if the file could not be written; within Store that says so. A
+    // value ends at its first NUL or line break, since it would otherwise break the lines of the file; a
+    // character that the code page lacks is written as "?".
     bool WriteKey(std::string_view section, std::string_view key, const std::optional<std::string>& value,
                   const std::string& file);
     // Replaces the whole content of the section; adds it at the end of the file, or makes the file, where it
@@ -83,10 +84,17 @@ public:
     // next write of the section replaces that one too.
     bool WriteLines(std::string_view section, const std::vector<std::string>& lines, const std::string& file);
     [[nodiscard]] bool FileExists(const std::string& file) const;
-    // True if a file was there and is gone.
-    bool DeleteConfigFile(const std::string& file);
-    // False if the target exists already.
-    bool CopyConfigFile(const std::string& from, const std::string& to);
+
+    using Changes = std::function<void(FileIni&)>;
+    // Runs these changes of the file in a batch; done once all of them stand on the disk, else none does.
+    Outcome Store(const std::string& file, const Changes& changes);
+    // The same on a file that starts from nothing. What stands in its place is taken away by makeWay, once
+    // all the new bytes stand safe beside it.
+    Outcome StoreAnew(const std::string& file, const Changes& changes, const std::function<bool()>& makeWay);
+    // Done if a file was there and is gone.
+    Outcome DeleteConfigFile(const std::string& file);
+    // Not done if the target exists already.
+    Outcome CopyConfigFile(const std::string& from, const std::string& to);
 
     // Told of each file before it is written, made or deleted; what stands on disk then is what stood there
     // before the first change of a batch. May be empty.
@@ -97,6 +105,9 @@ private:
     using Edit = std::function<void(platform::Profile&)>;
 
     [[nodiscard]] FileBatch* OpenBatch(const std::string& file) const;
+    // For what has just failed; wanted: what the file was to hold.
+    [[nodiscard]] Outcome Failure(const std::string& file, std::string_view before,
+                                  std::string_view wanted) const;
     bool Change(const std::string& file, const Edit& edit);
     void Touch(const std::string& file) const;
 
@@ -111,13 +122,20 @@ private:
 class FileBatch {
 public:
     FileBatch(const FileIni& ini, const std::string& file);
+    // What is changed and not stored by then is stored, and whether that succeeds is nobody's business: for
+    // what must not fail without a word there is FileIni::Store.
     ~FileBatch();
     FileBatch(const FileBatch&) = delete;
     FileBatch& operator=(const FileBatch&) = delete;
 
 private:
     friend class FileIni;
+    enum class Beginning { AsItStands, FromNothing };
+    FileBatch(const FileIni& ini, const std::string& file, Beginning beginning);
 
+    Outcome Store();
+    // Nothing is stored of it then.
+    [[nodiscard]] std::string TakeBytes();
     bool Save();
     void Reload();
     // The profile must be there.
@@ -128,6 +146,7 @@ private:
     std::string file_; // of the outermost alone
     bool changed_ = false;
     std::optional<platform::ProfileFile> profile_;  // none where the file cannot be read
+    std::string unreadable_;                        // the system's reason, where it cannot
     std::unique_ptr<platform::ProfileIndex> index_; // of the profile as it stands, from a reading to a change
 };
 

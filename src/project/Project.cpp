@@ -40,10 +40,14 @@ void RegisterAllStations(AddOnLibrary& library, const config::FileIni& ini, cons
     for (const Station& station : project.Stations) {
         const std::string name = services::TrimFixedString(station.Name);
         if (config::ConfigFileExists(ini, project.Paths, project.ProjectName, name))
-            library.AddFileToLoad(name, project.ConfigFileOf(name), TargetOnStation);
+            RegisterStation(library, project, name);
         else
             UnregisterStation(library, project, name, currentStation);
     }
+}
+
+void RegisterStation(AddOnLibrary& library, const Project& project, const std::string& station) {
+    library.AddFileToLoad(services::TrimFixedString(station), project.ConfigFileOf(station), TargetOnStation);
 }
 
 int UnregisterStation(AddOnLibrary& library, const Project& project, const std::string& station,

@@ -29,6 +29,7 @@ LoadOutcome LoadProject(AddOnLibrary& library, Project& project);
 // Enters each station's file in its list of files to load, and takes a station without a file out of it.
 void RegisterAllStations(AddOnLibrary& library, const config::FileIni& ini, const Project& project,
                          const std::string& currentStation);
+void RegisterStation(AddOnLibrary& library, const Project& project, const std::string& station);
 // The result of the library; 0 or not, nobody acts on it. The local path is that of currentStation.
 int UnregisterStation(AddOnLibrary& library, const Project& project, const std::string& station,
                       const std::string& currentStation);

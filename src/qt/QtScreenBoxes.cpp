@@ -42,12 +42,19 @@ void AddHelp(QMessageBox& message, const std::function<void()>& openHelp) {
     QObject::connect(key, &QShortcut::activated, &message, openHelp);
 }
 
+// In the order of ui::Answer.
+constexpr std::array<QMessageBox::StandardButton, 5> buttonsOfAnswers{
+    QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Retry, QMessageBox::Close};
+
+QMessageBox::StandardButton ButtonOf(ui::Answer answer) {
+    return buttonsOfAnswers.at(static_cast<std::size_t>(answer));
+}
+
 void SetUpButtons(QMessageBox& message, ui::Buttons buttons) {
-    const bool yesNo = buttons == ui::Buttons::YesNo;
-    message.setStandardButtons(yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-    message.setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
-    // What closes the box without an answer is its last button.
-    message.setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Ok);
+    const auto [first, last] = ui::AnswersOf(buttons);
+    message.setStandardButtons(ButtonOf(first) | ButtonOf(last));
+    message.setDefaultButton(ButtonOf(first));
+    message.setEscapeButton(ButtonOf(last));
 }
 
 // Its words are no markup, whatever they are.
@@ -59,9 +66,8 @@ void ShowAtStake(QMessageBox& message, const QString& name) {
 }
 
 ui::Answer AnswerOf(int button, ui::Buttons buttons) {
-    if (buttons == ui::Buttons::Ok)
-        return ui::Answer::Ok;
-    return button == QMessageBox::Yes ? ui::Answer::Yes : ui::Answer::No;
+    const auto [first, last] = ui::AnswersOf(buttons);
+    return button == ButtonOf(first) ? first : last;
 }
 
 } // namespace

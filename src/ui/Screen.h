@@ -10,8 +10,25 @@ class Form;
 class MenuEntry;
 
 enum class Icon { None, Information, Question, Exclamation, Critical };
-enum class Buttons { Ok, YesNo };
-enum class Answer { Ok, Yes, No };
+enum class Buttons { Ok, YesNo, RetryClose };
+enum class Answer { Ok, Yes, No, Retry, Close };
+
+struct Answers {
+    Answer First; // what the box offers first
+    Answer Last;  // what closing it without an answer counts as
+};
+
+[[nodiscard]] constexpr Answers AnswersOf(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::YesNo:
+        return {Answer::Yes, Answer::No};
+    case Buttons::RetryClose:
+        return {Answer::Retry, Answer::Close};
+    case Buttons::Ok:
+        break;
+    }
+    return {Answer::Ok, Answer::Ok};
+}
 
 // A modal box. Lines of the text are separated by line breaks or carriage returns.
 struct Box {

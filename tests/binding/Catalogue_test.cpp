@@ -87,10 +87,13 @@ TEST(RunInputs, of_Accelabar_are_those_of_AGA3) {
               TreeCaptions(RunInputs, StationWith(algorithm::AGA3, source::AGA8)));
 }
 
-TEST(RunInputs, take_external_diameters_for_an_exact_Yes_only) {
+TEST(RunInputs, take_external_diameters_for_Yes_in_any_case) {
     auto station = StationWith(algorithm::AGA3, source::AGA8);
-    station.Runs.Mechanical.front().ExtMechParam = "yes";
-    EXPECT_EQ(TreeCaptions(RunInputs, station).size(), 6U);
+    for (const auto& [flag, inputs] :
+         {std::pair{"Yes", 8U}, {"yes", 8U}, {"YES", 8U}, {"no", 6U}, {"", 6U}}) {
+        station.Runs.Mechanical.front().ExtMechParam = flag;
+        EXPECT_EQ(TreeCaptions(RunInputs, station).size(), inputs) << flag;
+    }
 }
 
 TEST(RunOutputs, are_four_floats_and_one_status_for_every_standard) {

@@ -293,6 +293,14 @@ TEST(ExpectedTags, of_each_run_go_by_options_of_its_own) {
     EXPECT_EQ(file.Expected.ExpectedFloat.size(), 8U + 10U);
 }
 
+TEST(ExpectedTags, of_each_run_hold_its_diameters_for_Yes_in_any_case) {
+    for (const char* yes : {"Yes", "yes", "YES"}) {
+        CheckedFile file(algorithm::AGA3, source::Measured);
+        file.Activate(1).Put("Run1", "ExtMechParam", yes).Build();
+        EXPECT_EQ(file.Expected.ExpectedFloat.size(), 10U) << yes;
+    }
+}
+
 TEST(ExpectedTags, hold_the_atmospheric_pressure_by_standard_and_source) {
     EXPECT_TRUE(LooksAtAtmosphere(algorithm::AGA3, source::Measured));
     EXPECT_TRUE(LooksAtAtmosphere(algorithm::AGA3, source::AGA8));

@@ -412,6 +412,70 @@ TEST(FileIniOnDisk, gives_the_same_bytes_one_by_one_and_in_a_batch) {
     EXPECT_EQ(folder.Count(), 2U) << "nothing is left beside the files";
 }
 
+// What is stored and what is not.
+
+TEST_F(FileIniTest, stores_all_changes_in_one_replace) {
+    const int before = Files.Replaces;
+    const auto outcome = Ini.Store(File, [&](FileIni& ini) {
+        ini.WriteKey("A", "one", "1", File);
+        ini.WriteKey("A", "two", "2", File);
+        EXPECT_EQ(ini.ReadKey("A", "two", File), "2");
+    });
+    EXPECT_TRUE(outcome);
+    EXPECT_EQ(Files.Replaces, before + 1);
+    EXPECT_EQ(Ini.ReadKey("A", "one", File), "1");
+}
+
+TEST_F(FileIniTest, says_why_nothing_was_stored_and_what_stands_there) {
+    const auto change = [&](FileIni& ini) { ini.WriteKey("A", "one", "1", File); };
+    Files.Content.clear();
+    Files.DiskFull = true;
+    auto outcome = Ini.Store(File, change);
+    EXPECT_FALSE(outcome);
+    EXPECT_EQ(outcome.Reason(), "No space left on device");
+    EXPECT_EQ(outcome.Stands(), Standing::Missing);
+    Files.Content[File] = "[A]\r\none=0\r\n";
+    EXPECT_EQ(Ini.Store(File, change).Stands(), Standing::AsBefore);
+    Files.DiskFull = false;
+    Files.Unreadable.insert(File);
+    outcome = Ini.Store(File, change);
+    EXPECT_FALSE(outcome);
+    EXPECT_EQ(outcome.Reason(), "Input/output error");
+    Files.Unreadable.clear();
+    EXPECT_EQ(Files.Content[File], "[A]\r\none=0\r\n");
+    EXPECT_FALSE(Ini.Store("", change)) << "no place";
+}
+
+TEST_F(FileIniTest, takes_up_the_file_anew_after_a_failure) {
+    const auto change = [&](FileIni& ini) { ini.WriteKey("A", "one", "1", File); };
+    Files.Content[File] = "[A]\r\n";
+    Files.FullFor = 1;
+    EXPECT_FALSE(Ini.Store(File, change));
+    Files.Content[File] = "[A]\r\nother=kept\r\n";
+    EXPECT_TRUE(Ini.Store(File, change));
+    EXPECT_EQ(Files.Content[File], "[A]\r\nother=kept\r\none=1\r\n");
+}
+
+TEST_F(FileIniTest, stores_a_file_from_nothing_once_the_way_is_made) {
+    Files.Content[File] = "[A]\r\nold=1\r\n";
+    const auto change = [&](FileIni& ini) {
+        EXPECT_EQ(ini.ReadKey("A", "old", File), "");
+        ini.WriteKey("A", "new", "2", File);
+    };
+    EXPECT_FALSE(Ini.StoreAnew(File, change, [] { return false; }));
+    EXPECT_EQ(Files.Content[File], "[A]\r\nold=1\r\n");
+    Files.FullFor = 1;
+    EXPECT_EQ(Ini.StoreAnew(File, change,
+                            [] {
+                                ADD_FAILURE() << "there are no bytes to make way for";
+                                return true;
+                            })
+                  .Stands(),
+              Standing::AsBefore);
+    EXPECT_TRUE(Ini.StoreAnew(File, change, [&] { return static_cast<bool>(Ini.DeleteConfigFile(File)); }));
+    EXPECT_EQ(Files.Content[File], "[A]\r\nnew=2\r\n");
+}
+
 } // namespace
 TEST(FileBatchReading, sees_what_was_written_between_its_readings) {
     test::MemoryFiles files;

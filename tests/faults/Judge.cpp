@@ -62,6 +62,29 @@ std::string Judge::RefusedInVain(const Ending& ending) const {
     return refused && isThere ? operation_.Between + " is there although it was said to have failed" : "";
 }
 
+bool Judge::IsStored(const Ending& ending) const {
+    return std::ranges::all_of(after_,
+                               [&](const auto& file) {
+                                   const Entry* now = In(ending.Left, file.first);
+                                   return now != nullptr && *now == file.second;
+                               }) &&
+           std::ranges::all_of(before_, [&](const auto& file) {
+               return after_.contains(file.first) || !ending.Left.contains(file.first);
+           });
+}
+
+// Who gives up knows what was not done; who tries again gets it done.
+void Judge::JudgeWords(const Ending& ending, Verdict& verdict) const {
+    if (IsStored(ending))
+        return;
+    verdict.NotTold = std::ranges::none_of(
+        ending.Said, [](const std::string& words) { return words.starts_with(FailureMark); });
+    if (verdict.NotTold)
+        verdict.Fault = "something was not stored, and nobody was told";
+    else if (ending.Persisted)
+        verdict.Fault = "it was tried again, and is not stored";
+}
+
 Verdict Judge::Of(const Ending& ending, bool untidy) const {
     Verdict verdict;
     if (ending.Failed)
@@ -76,8 +99,10 @@ Verdict Judge::Of(const Ending& ending, bool untidy) const {
             return {found, name + (leftover ? " was left behind" : " is neither old nor new")};
         verdict.TheFound = std::max(verdict.TheFound, found);
     }
-    if (!untidy)
+    if (!untidy && !ending.Persisted)
         verdict.Fault = RefusedInVain(ending);
+    if (verdict.Fault.empty() && !ending.Killed)
+        JudgeWords(ending, verdict);
     return verdict;
 }
 

@@ -12,7 +12,8 @@ enum class Found { Old, New, Between, Torn };
 
 struct Verdict {
     Found TheFound = Found::Old;
-    std::string Fault; // empty: nothing is wrong
+    std::string Fault;    // empty: nothing is wrong
+    bool NotTold = false; // something is not stored, and nobody was told
 };
 
 class Judge {
@@ -28,6 +29,8 @@ private:
     [[nodiscard]] Found FoundAt(const std::string& name, const Entry* now) const;
     [[nodiscard]] bool IsBetween(const std::string& name, const Entry* now) const;
     [[nodiscard]] std::string RefusedInVain(const Ending& ending) const;
+    [[nodiscard]] bool IsStored(const Ending& ending) const;
+    void JudgeWords(const Ending& ending, Verdict& verdict) const;
 
     const Operation& operation_;
     const Content& before_;

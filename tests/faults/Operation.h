@@ -13,11 +13,16 @@ namespace gfc::test::faults {
 // What a person was told.
 using Words = std::vector<std::string>;
 
-// Told by an operation when all is ready and the part that is to be tried begins; and what it says on its
-// way.
+// What begins so tells of something that was not done.
+inline constexpr const char* FailureMark = "failed: ";
+
+// Told by an operation when all is ready and the part that is to be tried begins; what it says on its way;
+// and whether the person who is told of a failure tries again, as often as it takes until the disk is mended,
+// or gives it up.
 struct Stage {
     std::function<void()> Begin;
     std::function<void(const std::string&)> Say;
+    std::function<bool()> TriesAgain;
 };
 
 struct Operation {

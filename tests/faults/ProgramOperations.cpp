@@ -1,6 +1,7 @@
 // The operations of the program, done as a person does them.
 #include "config/FileIni.h"
 #include "faults/Operation.h"
+#include "forms/files/WaitForFile.h"
 #include "forms/program/StartUp.h"
 #include "forms/runs/AddRunStory.h"
 #include "forms/runs/ModifyFlowFile.h"
@@ -28,9 +29,7 @@ const moves::Choices Detail{.Source = 1};
 // Before the trial as strict as any other; after it boxes come and go with what fails.
 class PatientScreen : public HeadlessScreen {
 public:
-    explicit PatientScreen(const Stage& stage) : stage_(stage) {
-        OnWait = [this] { WaitPatiently(); };
-    }
+    explicit PatientScreen(const Stage& stage) : stage_(stage) {}
     void Begin() {
         patient_ = true;
         stage_.Begin();
@@ -38,8 +37,17 @@ public:
     ui::Answer Ask(const ui::Box& box) override {
         if (!patient_)
             return HeadlessScreen::Ask(box);
-        stage_.Say(box.Title + ": " + box.Text);
-        return box.TheButtons == ui::Buttons::Ok ? ui::Answer::Ok : ui::Answer::Yes;
+        stage_.Say((TellsOfFailure(box) ? FailureMark : "") + box.Title + ": " + box.Text);
+        const auto [first, last] = ui::AnswersOf(box.TheButtons);
+        return box.TheButtons != ui::Buttons::RetryClose || stage_.TriesAgain() ? first : last;
+    }
+    void RunModal(ui::Form& form) override {
+        if (auto* const waiting = patient_ ? dynamic_cast<forms::WaitForFile*>(&form) : nullptr)
+            return Wait(*waiting);
+        // It says that the configuration has errors, and asks what to do.
+        if (patient_ && form.Name() == "TagsChanged")
+            stage_.Say(FailureMark + form.Caption());
+        HeadlessScreen::RunModal(form);
     }
     std::optional<std::string> ChooseFile(const ui::FileChoice&) override { return Chosen; }
     std::string AskText(const std::string&, const std::string&) override { return Typed; }
@@ -48,7 +56,16 @@ public:
     std::string Typed;
 
 private:
-    void WaitPatiently() { stage_.Say("wait"); }
+    static bool TellsOfFailure(const ui::Box& box) {
+        return box.TheButtons == ui::Buttons::RetryClose || box.TheIcon == ui::Icon::Exclamation ||
+               box.TheIcon == ui::Icon::Critical || box.Title.starts_with("Error");
+    }
+    void Wait(forms::WaitForFile& waiting) {
+        while (waiting.IsShown()) {
+            stage_.Say(FailureMark + waiting.Label3.Caption());
+            stage_.TriesAgain() ? waiting.timerWait.Tick() : void(waiting.Command1.PersonClicks());
+        }
+    }
 
     const Stage& stage_;
     bool patient_ = false;
@@ -76,7 +93,7 @@ struct Plant {
     Story& TheStory = Screen.TheStory;
 };
 
-const Stage Quiet{[] {}, [](const std::string&) {}};
+const Stage Quiet{[] {}, [](const std::string&) {}, [] { return false; }};
 
 void Choose(Story& story, const std::string& node, const std::string& command) {
     story.ClickNode(Window, "TreeGFC", node).Menu(Window, command);
@@ -145,12 +162,12 @@ void StartAgain(const fs::path& folder) {
     moves::StartUp(plant.TheStory);
     plant.TheStory.ClickNode(Window, "TreeGFC", North);
     plant.TheStory.Do("save every file again", [&plant, &folder](Driver&) {
-        auto& ini = plant.Fake.Program.Ini;
+        auto& ini = plant.Fake.Hand;
         for (const std::string& name : {NorthFile, LogFile, SouthFile, FarFile}) {
             EXPECT_TRUE(ini.WriteKey("General", "UserID", "again", (folder / name).string()));
         }
         plant.Fake.OpenStation("North");
-        const forms::TrialCopy trial(ini, (folder / NorthFile).string(),
+        const forms::TrialCopy trial(plant.Fake.Program.Storage, (folder / NorthFile).string(),
                                      forms::TrialFile(plant.Fake.Session));
     });
     moves::Exit(plant.TheStory);
@@ -185,7 +202,10 @@ Operation Told(const std::string& name, std::function<void(const fs::path&)> lay
 Operation FullWrite() {
     auto operation = Told(
         "full write", LayConfigured, [](Plant& plant) { Configure(plant.TheStory, {}, {2}); },
-        [](Plant& plant) { plant.TheStory.Click("WizardFC", "Command1"); });
+        [](Plant& plant) {
+            plant.TheStory.Click("WizardFC", "Command1");
+            ClickIfShown(plant.TheStory, "WizardFC", "cancelar");
+        });
     operation.Between = NorthFile; // the old one is deleted first
     return operation;
 }
@@ -199,7 +219,13 @@ Operation ConfiguratorSave() {
                 .SelectTab("Configurador", "SSTab2", 1)
                 .Type("Configurador", "Text1_1", "61.5");
         },
-        [](Plant& plant) { plant.TheStory.Menu("Configurador", "SalvarSalir2"); });
+        [](Plant& plant) {
+            plant.TheStory.Menu("Configurador", "SalvarSalir2")
+                .Do("leave what was not saved", [](Driver& driver) {
+                    if (driver.IsShown("Configurador"))
+                        driver.Menu("Configurador", "Salir2");
+                });
+        });
 }
 
 void UntilLastEditor(Story& story) {

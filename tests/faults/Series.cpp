@@ -94,22 +94,24 @@ void Series::CheckOutsideEdit() {
 void Series::TryEveryFaultAtEveryCall() {
     for (const FaultRow& row : Faults)
         for (long call = 1; call <= quiet_.Counted; ++call)
-            Try(row.Name, row.ThePlan, call);
+            for (const bool persists : {false, true})
+                Try(row.Name, row.ThePlan, call, persists);
 }
 
 void Series::TryOneFaultAtEveryCall() {
     for (long call = 1; call <= quiet_.Counted; ++call) {
         const FaultRow& row = Faults[static_cast<std::size_t>(call) % std::size(Faults)];
-        Try(row.Name, row.ThePlan, call);
+        Try(row.Name, row.ThePlan, call, call % 2 == 0);
     }
 }
 
-void Series::Try(const std::string& what, Plan plan, long call) {
+void Series::Try(const std::string& what, Plan plan, long call, bool persists) {
     plan.First = call;
-    const Ending ending = theatre_.Run(plan);
+    const Ending ending = theatre_.Run(plan, 0, persists);
+    const char* const person = persists ? ", tried again" : "";
     if (ending.Hit > 0 || ending.Failed)
-        Note(failures_, what + " at call " + std::to_string(call) + CallOf(quiet_.Calls, call), ending,
-             MayBeUntidy(plan, ending));
+        Note(failures_, what + " at call " + std::to_string(call) + CallOf(quiet_.Calls, call) + person,
+             ending, MayBeUntidy(plan, ending));
 }
 
 void Series::KillAtEveryCall() {
@@ -155,6 +157,7 @@ void Series::Note(Tally& tally, const std::string& when, const Ending& ending, b
     ++tally.Runs;
     ++tally.Of[static_cast<std::size_t>(verdict.TheFound)];
     tally.Spoke += ending.Said.empty() ? 0 : 1;
+    tally.NotTold += verdict.NotTold ? 1 : 0;
     if (!verdict.Fault.empty())
         Complain(when, verdict.Fault);
 }

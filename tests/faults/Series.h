@@ -16,8 +16,9 @@ struct Settings {
 
 struct Tally {
     long Runs = 0;
-    long Of[4] = {}; // by Found
-    long Spoke = 0;  // trials in which a person was told something
+    long Of[4] = {};  // by Found
+    long Spoke = 0;   // trials in which a person was told something
+    long NotTold = 0; // those in which something was not stored without a word
     long Restarts = 0;
 
     Tally& operator+=(const Tally& other) {
@@ -25,6 +26,7 @@ struct Tally {
         for (std::size_t i = 0; i < std::size(Of); ++i)
             Of[i] += other.Of[i];
         Spoke += other.Spoke;
+        NotTold += other.NotTold;
         Restarts += other.Restarts;
         return *this;
     }
@@ -49,7 +51,7 @@ private:
     void CheckOutsideEdit();
     void TryEveryFaultAtEveryCall();
     void TryOneFaultAtEveryCall();
-    void Try(const std::string& what, Plan plan, long call);
+    void Try(const std::string& what, Plan plan, long call, bool persists);
     void KillAtEveryCall();
     void KillAtRandom(long kills);
     [[nodiscard]] long Microseconds();

@@ -19,13 +19,15 @@ namespace {
 
 constexpr std::size_t MostText = 1U << 18U;
 constexpr unsigned PatienceInSeconds = 20;
-// So many waits in vain, then the disk is mended.
-constexpr long WaitsUntilHealed = 3;
+// Before the last of so many more attempts the disk is mended.
+constexpr long AttemptsUntilHealed = 3;
 
 // Memory that the runner, the stage and its trials share: it outlives every one of them.
 struct Board {
     Plan ThePlan;
     long KillAfter;
+    bool Persists;
+    bool TriedAgain;
     bool Finished;
     bool Failed;
     long Counted;
@@ -40,9 +42,11 @@ Board& TheBoard() {
     return *board;
 }
 
-void Wipe(Board& board, const Plan& plan, long killAfter) {
+void Wipe(Board& board, const Plan& plan, long killAfter, bool persists) {
     board.ThePlan = plan;
     board.KillAfter = killAfter;
+    board.Persists = persists;
+    board.TriedAgain = false;
     board.Finished = board.Failed = false;
     board.Counted = board.Hit = 0;
     board.Said[0] = board.Calls[0] = '\0';
@@ -133,7 +137,8 @@ Theatre::Theatre(const Operation& operation) : operation_(operation) {
     if (::pipe(orders_.data()) != 0 || ::pipe(answers_.data()) != 0)
         return;
     stage_ = Fork([this] {
-        const Stage stage{[this] { Serve(); }, [this](const std::string& words) { Say(words); }};
+        const Stage stage{[this] { Serve(); }, [this](const std::string& words) { Say(words); },
+                          [this] { return TriesAgain(); }};
         operation_.Play(room_.Folder(), stage);
         NoteEnd(TheBoard()); // of a trial; the stage itself does not come here
     });
@@ -187,29 +192,38 @@ void Theatre::Serve() {
 void Theatre::Say(const std::string& words) {
     said_ += words + '\f';
     Write(TheBoard().Said, said_);
-    if (words == "wait" && ++waits_ >= WaitsUntilHealed)
-        Heal();
 }
 
-Ending Theatre::Run(const Plan& plan, long killAfter) {
+bool Theatre::TriesAgain() {
+    Board& board = TheBoard();
+    if (!board.Persists)
+        return false;
+    board.TriedAgain = true;
+    if (++attempts_ >= AttemptsUntilHealed)
+        Heal();
+    return true;
+}
+
+Ending Theatre::Run(const Plan& plan, long killAfter, bool persists) {
     Restore(room_.Folder(), laid_);
-    return RunAsLaid(plan, killAfter);
+    return RunAsLaid(plan, killAfter, persists);
 }
 
 Ending Theatre::RunAfterAddition(const std::string& file, const std::string& addition) {
     Restore(room_.Folder(), laid_);
     std::ofstream(room_.Folder() / file, std::ios::binary | std::ios::app) << addition;
-    return RunAsLaid({}, 0);
+    return RunAsLaid({}, 0, false);
 }
 
-Ending Theatre::RunAsLaid(const Plan& plan, long killAfter) {
+Ending Theatre::RunAsLaid(const Plan& plan, long killAfter, bool persists) {
     Board& board = TheBoard();
-    Wipe(board, plan, killAfter);
+    Wipe(board, plan, killAfter, persists);
     int status = 0;
     Ending ending;
     ending.Failed = ::write(orders_[1], "x", 1) != 1 || !HearStatus(status);
     ending.Killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
     ending.Failed |= !ending.Killed && (!WIFEXITED(status) || WEXITSTATUS(status) != 0 || !board.Finished);
+    ending.Persisted = board.TriedAgain;
     ending.Counted = board.Counted;
     ending.Hit = board.Hit;
     ending.Said = WordsOf(board.Said);

@@ -13,9 +13,10 @@ namespace gfc::test::faults {
 // How one trial ended, and what it left in the folder.
 struct Ending {
     bool Killed = false;
-    bool Failed = false; // crashed, hung, did not come to its end, or a check in it failed
-    long Counted = 0;    // calls
-    long Hit = 0;        // calls that the plan had an effect on
+    bool Persisted = false; // the person tries again what failed, and has done so
+    bool Failed = false;    // crashed, hung, did not come to its end, or a check in it failed
+    long Counted = 0;       // calls
+    long Hit = 0;           // calls that the plan had an effect on
     Words Said;
     std::vector<Call> Calls;
     Content Left;
@@ -35,8 +36,8 @@ public:
     // What stood in the folder at the beginning, as its users see it.
     [[nodiscard]] const Content& Before() const { return before_; }
     [[nodiscard]] std::string Folder() const { return room_.Folder().string(); }
-    // Also kills after so many microseconds, unless that is 0.
-    [[nodiscard]] Ending Run(const Plan& plan, long killAfter = 0);
+    // Also kills after so many microseconds, unless that is 0. persists: the person tries again.
+    [[nodiscard]] Ending Run(const Plan& plan, long killAfter = 0, bool persists = false);
     // Nothing fails, but another program has added to the file since the operation's windows were opened.
     [[nodiscard]] Ending RunAfterAddition(const std::string& file, const std::string& addition);
     // The next start, on what the last trial left: false if it fails, or if the save of every file leaves
@@ -48,7 +49,8 @@ private:
     // In the stage's process; returns in each trial's alone.
     void Serve();
     void Say(const std::string& words);
-    [[nodiscard]] Ending RunAsLaid(const Plan& plan, long killAfter);
+    [[nodiscard]] bool TriesAgain();
+    [[nodiscard]] Ending RunAsLaid(const Plan& plan, long killAfter, bool persists);
     [[nodiscard]] bool HearStatus(int& status) const;
 
     const Operation& operation_;
@@ -60,7 +62,7 @@ private:
     std::array<int, 2> orders_{-1, -1};
     std::array<int, 2> answers_{-1, -1};
     std::string said_; // in a trial
-    long waits_ = 0;
+    long attempts_ = 0;
 };
 
 } // namespace gfc::test::faults

@@ -99,7 +99,7 @@ Operation Done(const std::string& name, std::function<void(const fs::path&)> act
         try {
             act(folder);
         } catch (const std::exception& failure) {
-            stage.Say(failure.what());
+            stage.Say(FailureMark + std::string(failure.what()));
         }
     };
     return operation;

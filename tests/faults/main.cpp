@@ -16,6 +16,7 @@ void PrintHead() {
     std::cout << std::left << std::setw(34) << "operation" << std::right << std::setw(6) << "calls"
               << " | " << std::setw(7) << "faults" << std::setw(7) << "old" << std::setw(7) << "new"
               << std::setw(9) << "between" << std::setw(6) << "torn" << std::setw(7) << "told"
+              << std::setw(10) << "not told"
               << " | " << std::setw(7) << "kills" << std::setw(7) << "old" << std::setw(7) << "new"
               << std::setw(9) << "between" << std::setw(6) << "torn" << std::setw(10) << "restarts"
               << "\n";
@@ -27,7 +28,7 @@ void PrintRow(const std::string& name, long calls, const Tally& failures, const 
         std::cout << " | " << std::setw(7) << tally->Runs << std::setw(7) << tally->Of[0] << std::setw(7)
                   << tally->Of[1] << std::setw(9) << tally->Of[2] << std::setw(6) << tally->Of[3];
         if (tally == &failures)
-            std::cout << std::setw(7) << tally->Spoke;
+            std::cout << std::setw(7) << tally->Spoke << std::setw(10) << tally->NotTold;
         else
             std::cout << std::setw(10) << tally->Restarts;
     }

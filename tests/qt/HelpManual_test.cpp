@@ -76,7 +76,7 @@ TEST_F(Manual, leads_each_form_to_a_page_of_its_own) {
 // The splash takes no keys.
 TEST_F(Manual, leads_each_form_without_a_number_to_a_page_that_tells_of_it) {
     for (const char* form : {"UserIDForm", "SelectRuns", "Step", "FrAccelabar", "FrModificarTags",
-                             "TagsChanged", "frCopyStation"}) {
+                             "TagsChanged", "frCopyStation", "WaitForFile"}) {
         const auto* page = Book.PageOfForm(QString::fromLatin1(form));
         EXPECT_TRUE(page->Forms.contains(form)) << form << " opens " << qPrintable(page->File);
         EXPECT_TRUE(FormsOf(Html(page->File)).contains(form)) << qPrintable(page->File);

@@ -103,6 +103,15 @@ Scenario RefusedWithin() {
              }});
 }
 
+// Once more in vain, then no more.
+void NotCopied(Story& story, const std::string& file) {
+    for (const auto answer : {Answer::Retry, Answer::Close})
+        story.Box("Error: Copy configuration file",
+                  "Could not copy the configuration file \r\n" + file +
+                      "\r\n\r\nThe system says: Permission denied\r\nThere is no such file now.",
+                  Icon::Exclamation, answer);
+}
+
 Scenario NothingCanBeWritten() {
     return TheScenario(
         {.Name = "a_copy_that_fails_leaves_no_file",
@@ -115,9 +124,9 @@ Scenario NothingCanBeWritten() {
              [](Story& story, const TheOutside&) {
                  CopyWithin(story);
                  story.Click("frCopyStation", "Command1");
-                 Refused(story, "Please, Verify that the station has not been configured previously...");
+                 NotCopied(story, "/jobs/KDOrmAGA_plant_South.ini");
                  CopyAcross(story, "Far");
-                 Refused(story, "Please verify that the station has not been configured previously");
+                 NotCopied(story, "/jobs/KDOrmAGA_other_Far.ini");
              }});
 }
 

@@ -65,47 +65,51 @@ Scenario Deleted() {
              [](const Outside& outside) { EXPECT_EQ(outside.Program->Library.FilesToLoad.size(), 1U); }});
 }
 
-// Something holds the file; the program waits for it without a word.
-Scenario Waited() {
-    return TheScenario({.Name = "a_configuration_that_is_held_is_deleted_later",
-                        .Beside =
-                            [](FakeProgram& program) {
-                                SouthToo(program);
-                                program.Files.Unwritable.insert(Outside::File("South"));
-                            },
-                        .Tell =
-                            [](Story& story, const TheOutside& outside) {
-                                Delete(story, Answer::Yes);
-                                story
-                                    .Check([=](Driver& d) {
-                                        EXPECT_TRUE(d.IsShown("GFCPrincipal"));
-                                        EXPECT_TRUE(outside->Program->Library.FilesToLoad.empty());
-                                    })
-                                    .Do("let the file go",
-                                        [=](Driver&) { outside->Program->Files.Unwritable.clear(); });
-                                SeeImage(story, southNode, "StationNoConfig");
-                            }});
+void HeldSouth(FakeProgram& program) {
+    SouthToo(program);
+    program.Files.Unwritable.insert(Outside::File("South"));
 }
 
-Scenario ClosedMeanwhile() {
-    return TheScenario({.Name = "the_program_is_closed_while_it_waits_for_a_deleted_file",
-                        .Beside =
-                            [](FakeProgram& program) {
-                                SouthToo(program);
-                                program.Files.Unwritable.insert(Outside::File("South"));
-                            },
+void SeeWait(Story& story) {
+    story.SeeText("WaitForFile", "Label2", Outside::File("South"))
+        .SeeText("WaitForFile", "Label3", "The system says: Permission denied");
+}
+
+// Something holds the file; the program says so and waits for it.
+Scenario Waited() {
+    return TheScenario({.Name = "a_configuration_that_is_held_is_deleted_later",
+                        .Beside = HeldSouth,
+                        .Tell = [](Story& story, const TheOutside& outside) {
+                            Delete(story, Answer::Yes);
+                            SeeWait(story);
+                            story.Tick("WaitForFile", "timerWait");
+                            SeeWait(story);
+                            story.Do("let the file go", [=](Driver& driver) {
+                                EXPECT_TRUE(outside->Program->Library.FilesToLoad.empty());
+                                outside->Program->Files.Unwritable.clear();
+                                driver.Tick("WaitForFile", "timerWait");
+                            });
+                            story.SeeShown("WaitForFile", false);
+                            SeeImage(story, southNode, "StationNoConfig");
+                        }});
+}
+
+Scenario GivenUp() {
+    return TheScenario({.Name = "the_wait_for_a_deleted_file_is_given_up",
+                        .Beside = HeldSouth,
                         .Tell =
                             [](Story& story, const TheOutside&) {
                                 Delete(story, Answer::Yes);
-                                story.CloseWindow("GFCPrincipal");
+                                SeeWait(story);
+                                story.Click("WaitForFile", "Command1");
+                                SeeImage(story, southNode, "StationConfig");
                             },
                         .Leaves = {Outside::File("South")},
                         .After =
                             [](const Outside& outside) {
                                 EXPECT_EQ(outside.Program->Library.FilesToLoad.size(), 2U)
                                     << "the list follows the file that is still there";
-                            },
-                        .EndsByItself = true});
+                            }});
 }
 
 std::vector<std::string> RegistrationsOf(const Outside& outside) {
@@ -153,7 +157,7 @@ Scenario RegisteredByClosing() {
 } // namespace
 
 std::vector<Scenario> DeleteScenarios() {
-    return {Deleted(), Waited(), ClosedMeanwhile(), Registered(), RegisteredByClosing()};
+    return {Deleted(), Waited(), GivenUp(), Registered(), RegisteredByClosing()};
 }
 
 } // namespace gfc::test

@@ -121,13 +121,20 @@ Scenario LeftOverUntouched() {
          .Leaves = {trial}});
 }
 
-// Where the copy cannot be made the trial works on what is there, which is nothing, and finds no fault.
+// A person who goes on without a copy is asked as if nothing was wrong: the trial works on what is there.
 Scenario NoPlaceForTheCopy() {
     return TheScenario({.Name = "modify_where_no_copy_can_be_made",
                         .Beside = [](FakeProgram& program) { program.Files.Unwritable.insert(trial); },
                         .Tell =
                             [](Story& story, const TheOutside&) {
                                 EditStatus(story);
+                                story.Box("Gas Flow Computer",
+                                          "The changes could not be tried on a copy of the configuration "
+                                          "file.\r\n" +
+                                              std::string(trial) +
+                                              "\r\n\r\nThe system says: Permission denied\r\n"
+                                              "There is no such file now.",
+                                          Icon::Exclamation, Answer::Close);
                                 AskedToSave(story, Icon::Information);
                             },
                         .Changes = StatusEdited});

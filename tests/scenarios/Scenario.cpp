@@ -7,11 +7,12 @@ namespace gfc::test {
 namespace {
 
 constexpr std::vector<Scenario> (*parts[])() = {
-    StartUpScenarios, SummaryScenarios,      WizardPageScenarios,  BindingScenarios,
-    EditorScenarios,  CancelScenarios,       CapacityScenarios,    BindingFieldScenarios,
-    UnitScenarios,    GasEditorScenarios,    WizardFileScenarios,  RunCommandScenarios,
-    CopyScenarios,    ConfiguradorScenarios, ModifyTagsScenarios,  AddedRunScenarios,
-    DeleteScenarios,  ConfigureScenarios,    ModifyTrialScenarios, ModifyCancelScenarios,
+    StartUpScenarios,  SummaryScenarios,      WizardPageScenarios,  BindingScenarios,
+    EditorScenarios,   CancelScenarios,       CapacityScenarios,    BindingFieldScenarios,
+    UnitScenarios,     GasEditorScenarios,    WizardFileScenarios,  RunCommandScenarios,
+    CopyScenarios,     ConfiguradorScenarios, ModifyTagsScenarios,  AddedRunScenarios,
+    DeleteScenarios,   ConfigureScenarios,    ModifyTrialScenarios, ModifyCancelScenarios,
+    UnstoredScenarios,
 };
 
 } // namespace

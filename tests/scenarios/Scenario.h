@@ -43,6 +43,7 @@ void PrintTo(const Scenario& scenario, std::ostream* out);
 [[nodiscard]] std::vector<Scenario> ModifyTagsScenarios();
 [[nodiscard]] std::vector<Scenario> ModifyTrialScenarios();
 [[nodiscard]] std::vector<Scenario> ModifyCancelScenarios();
+[[nodiscard]] std::vector<Scenario> UnstoredScenarios();
 [[nodiscard]] std::vector<Scenario> AllScenarios();
 
 } // namespace gfc::test

@@ -38,6 +38,8 @@ public:
     int ExitCode = 0;
     bool ViewerWorks = true;
     int BusyNow = 0; // so many works are under way, one within the other
+    // Called with each box before it is answered, for what changes outside meanwhile.
+    std::function<void(const ui::Box&)> OnBox;
     // Called at each moment that the program waits, for what changes outside it meanwhile; without it the
     // story goes on there.
     std::function<void()> OnWait;

@@ -51,7 +51,7 @@ public:
     bool Exists(const std::string& path) override { return Content.contains(path); }
 
     bool Delete(const std::string& path) override {
-        if (Unwritable.contains(path))
+        if (Unwritable.contains(path) || Held.contains(path))
             return Fail(Denied);
         return Content.erase(path) > 0 || Fail("No such file or directory");
     }
@@ -68,13 +68,19 @@ public:
     std::map<std::string, std::string> Content;
     std::set<std::string> Unreadable;
     std::set<std::string> Unwritable; // may neither be written nor deleted
+    std::set<std::string> Held;       // may not be deleted
     bool DiskFull = false;            // takes no bytes, but lets files go
+    int FullFor = 0;                  // the same, for so many more attempts
     int Reads = 0;
     int Replaces = 0;
 
 private:
     bool TakesBytes(const std::string& path) {
-        return Unwritable.contains(path) ? Fail(Denied) : !DiskFull || Fail(Full);
+        if (Unwritable.contains(path))
+            return Fail(Denied);
+        const bool full = DiskFull || FullFor > 0;
+        FullFor -= FullFor > 0 ? 1 : 0;
+        return !full || Fail(Full);
     }
 };
 

@@ -28,6 +28,8 @@ struct FakeProgram {
     config::NoRecorder NoRecord;
     platform::Machine Machine;
     forms::Program Program;
+    // Another program's hand: writes behind the back of this one.
+    config::FileIni Hand{Machine.Files};
 
     // Shorthands of what tests touch most.
     forms::Session& Session = Program.Session;

@@ -2,6 +2,7 @@
 #include "forms/binding/TagLists.h"
 #include "forms/binding/TagRuns.h"
 #include "platform/Machine.h"
+#include "services/Text.h"
 #include "services/modLocalTimeAndGMT.h"
 
 namespace gfc::forms {
@@ -94,8 +95,8 @@ bool TagRuns::IsCopySource(int run) const {
     if (run == session_.RunNumber)
         return false;
     if (session_.EditMode != EditMode::Wizard && session_.EditMode != EditMode::Configurator)
-        return program_.Ini.ReadKey("FlowRuns", "Run" + std::to_string(run + 1), configFilePath_) ==
-               config::Yes;
+        return services::EqualNoCase(
+            program_.Ini.ReadKey("FlowRuns", "Run" + std::to_string(run + 1), configFilePath_), config::Yes);
     const int element = ElementOfActiveRun(run);
     if (element < 0 || !config::IsGasModel(station.GasDensitySource))
         return false;
@@ -106,9 +107,7 @@ bool TagRuns::IsCopySource(int run) const {
 
 int TagRuns::ElementOfActiveRun(int run) const {
     const auto& station = session_.Station;
-    const auto active = [&station](int i) {
-        return station.RunList[static_cast<std::size_t>(i)].Flag == config::Yes;
-    };
+    const auto active = [&station](int i) { return config::IsRunActive(station, i); };
     int element = 0;
     for (int i = 0; i < run; ++i)
         element += active(i) ? 1 : 0;

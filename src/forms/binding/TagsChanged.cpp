@@ -19,7 +19,10 @@ void TagsChanged::Load() {
     RemoveCloseCommand();
     session_.TagsChangedChoice = TagsChangedChoice::None;
     logPath_ = binding::ErrorLogPath(session_.ConfigFile());
-    binding::WriteErrorLog(program_.Ini, session_.Expected, logPath_);
+    // Given up, the window goes on with what the last check left there.
+    (void)program_.Storage.Change(
+        {"The error log file was not written."}, logPath_,
+        [&](config::FileIni& ini) { binding::WriteErrorLog(ini, session_.Expected, logPath_); });
     if (binding::LogsGasInputErrors(session_.Expected))
         session_.GasInputsValid = false;
     Label3.SetCaption(Label3.Caption() + "\r\n" + logPath_);

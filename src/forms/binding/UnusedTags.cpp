@@ -24,4 +24,17 @@ void OfferUnusedTags(Program& program, const project::WorkingModuleNames& workin
     }
 }
 
+project::TagList UnusedFloats(const Program& program, const std::string& workingModule) {
+    const auto& session = program.Session;
+    auto floats = project::MergeWithout(session.Inventory.VirtFX, session.Inventory.VirtFY, workingModule);
+    auto used = binding::TagsInUse(program.Ini, session.ConfigFile()).ExpectedFloat;
+    // The pressure's own tag of the file may be taken again; what it is bound to by now is shown as bound.
+    std::erase_if(used, [](const auto& entry) { return !entry.Location.starts_with("Run"); });
+    auto& bound = used.emplace_back();
+    bound.RegAddr = session.Station.CommonPa.RegAddr;
+    bound.Tag = session.Station.CommonPa.Tag;
+    binding::RemoveUsedTags(floats, used);
+    return floats;
+}
+
 } // namespace gfc::forms

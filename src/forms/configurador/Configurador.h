@@ -159,13 +159,24 @@ private:
     [[nodiscard]] bool OwesTags();
     [[nodiscard]] bool LacksGasValue() const;
     [[nodiscard]] bool LacksParameter();
-    void Write(bool inPlace);
+    [[nodiscard]] bool Write(bool inPlace);
     void StoreValues();
     void StoreChoices();
-    [[nodiscard]] std::array<std::string, config::MaxRuns> RunFlags() const;
 
-    bool finished_ = false;                               // the pass went through all runs
-    std::array<std::string, config::MaxRuns> passedRuns_; // their flags then
+    // What decides which tags and data the runs of a new configuration need. The numbers are those of the
+    // lists.
+    struct PassedChoices {
+        std::array<std::string, config::MaxRuns> Runs; // their flags
+        int Standard = 0;
+        int Source = 0;
+        bool FromOutside = false; // the composition; without a gas model there is none
+        int Units = 0;
+        bool operator==(const PassedChoices&) const = default;
+    };
+    [[nodiscard]] PassedChoices Choices() const;
+
+    bool finished_ = false; // the pass went through all runs
+    PassedChoices passed_;  // with these
     bool fallingBack_ = false;
 };
 

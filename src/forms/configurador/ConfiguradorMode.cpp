@@ -68,10 +68,13 @@ bool Configurador::NoRunBoxSet() {
     return std::none_of(boxes.begin(), boxes.end(), [](const ui::CheckBox* box) { return box->Value(); });
 }
 
-std::array<std::string, config::MaxRuns> Configurador::RunFlags() const {
-    std::array<std::string, config::MaxRuns> flags;
-    std::ranges::transform(session_.Station.RunList, flags.begin(), &config::RunFlag::Flag);
-    return flags;
+Configurador::PassedChoices Configurador::Choices() const {
+    PassedChoices choices{.Standard = general.CombStandard.ListIndex(),
+                          .Source = general.cbSourceGas.ListIndex(),
+                          .FromOutside = general.cbSourceGas.ListIndex() > 0 && Option5.Value(),
+                          .Units = general.CombUnits.ListIndex()};
+    std::ranges::transform(session_.Station.RunList, choices.Runs.begin(), &config::RunFlag::Flag);
+    return choices;
 }
 
 // run is 0 to 4. A box that does not fit is cleared again, which comes back here and takes its count off.

@@ -1,5 +1,6 @@
 // The pass over the runs, and the tag of the atmospheric pressure that is common to them.
 #include "forms/binding/TagRuns.h"
+#include "forms/binding/UnusedTags.h"
 #include "forms/configurador/Configurador.h"
 #include "forms/program/MainWindow.h"
 #include "forms/station/Step.h"
@@ -61,7 +62,7 @@ bool Configurador::MayPass() {
 void Configurador::PassEnded(bool through) {
     program_.Forms.Unload<TagRuns>();
     finished_ = through;
-    passedRuns_ = RunFlags();
+    passed_ = Choices();
     SSTab2.SetEnabled(true);
     OfferInPlaceSave(through);
     ShowBoundPressure();
@@ -79,12 +80,11 @@ void Configurador::ChangeExternalPressure() {
 }
 
 bool Configurador::BindExternalPressure() {
-    auto& inventory = session_.Inventory;
     auto& runs = session_.Station.Runs;
     // What a pass has bound stays bound, and its tags stay off the list.
     if (!finished_)
-        inventory.AvailFloat = project::MergeWithout(inventory.VirtFX, inventory.VirtFY,
-                                                     modules.Chosen(session_.Station.WorkingModules).Float);
+        session_.Inventory.AvailFloat =
+            UnusedFloats(program_, modules.Chosen(session_.Station.WorkingModules).Float);
     if (runs.IO.empty())
         runs.PrepareWholeStation(1);
     session_.BindingStage = BindingStage::CommonInputs;

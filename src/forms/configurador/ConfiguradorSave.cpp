@@ -16,8 +16,9 @@ void Configurador::SaveAndExit(bool inPlace) {
     const auto answer = program_.Screen.Ask({.Title = "Configuration Completed.",
                                              .Text = "Do you want to save your changes?",
                                              .TheButtons = ui::Buttons::YesNo});
-    if (answer == ui::Answer::Yes)
-        Write(inPlace);
+    // What could not be stored stays here, with all that was entered.
+    if (answer == ui::Answer::Yes && !Write(inPlace))
+        return;
     ForgetStation(session_);
     ShowMainWindow(program_);
     Unload();
@@ -58,13 +59,13 @@ bool Configurador::KeepsShapes() {
 }
 
 // A new configuration needs a pass over just the runs that are chosen: the records stand in their order, and
-// another choice would give a run the tags of another one.
+// another choice would give a run the tags of another one. What is bound depends on the other lists as well.
 bool Configurador::OwesTags() {
     if (session_.Cancelled)
         return true;
     if (caso != 3 || NoRunBoxSet())
         return false;
-    return !finished_ || passedRuns_ != RunFlags();
+    return !finished_ || passed_ != Choices();
 }
 
 // Under AGA-7 neither the viscosity nor the isentropic coefficient is needed.
@@ -79,14 +80,15 @@ bool Configurador::LacksParameter() {
            (pressure.IsExternal() && !session_.Station.CommonPa.IsMade());
 }
 
-void Configurador::Write(bool inPlace) {
+// Deliberately nothing but these: of a stored configuration only the in-place save writes.
+bool Configurador::Write(bool inPlace) {
     const std::string file = session_.ConfigFile();
     StoreValues();
-    if (caso == 3)
-        config::SaveWholeConfiguration(program_.Ini, session_.Station, file);
-    else if (inPlace)
-        config::SaveConfiguratorChanges(program_.Ini, session_.Station, file);
-    // Deliberately nothing else: of a stored configuration only the in-place save writes.
+    if (caso != 3 && !inPlace)
+        return true;
+    const auto save = caso == 3 ? config::SaveWholeConfiguration : config::SaveConfiguratorChanges;
+    return program_.Storage.Change({"The changes were not saved."}, file,
+                                   [&](config::FileIni& ini) { save(ini, session_.Station, file); });
 }
 
 void Configurador::StoreValues() {

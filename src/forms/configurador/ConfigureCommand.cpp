@@ -62,6 +62,7 @@ void EditStation(Program& program, int standard, bool stored) {
 void Configure(Program& program) {
     auto& session = program.Session;
     const std::string selected = session.SelectedNodeText;
+    StartAfresh(session);
     if (!OpenStation(program))
         return RefuseStation(program, project::ShortageKind::AGA7);
     const auto standard = CarriedStandard(session);

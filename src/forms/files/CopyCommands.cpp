@@ -4,7 +4,7 @@
 #include "forms/files/frCopyStation.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
-#include "platform/Files.h"
+#include "platform/Machine.h"
 
 namespace gfc::forms {
 
@@ -26,9 +26,10 @@ struct Destination {
     }
 };
 
+constexpr const char* failedTitle = "Error: Copy configuration file";
+
 void FailCopy(Program& program, const std::string& reason) {
-    program.Screen.Ask({.Title = "Error: Copy configuration file",
-                        .Text = "Could not copy the configuration file \r\n" + reason});
+    program.Screen.Ask({.Title = failedTitle, .Text = "Could not copy the configuration file \r\n" + reason});
 }
 
 bool SourceIsConfigured(Program& program) {
@@ -47,9 +48,19 @@ void RemindOfTags(Program& program, const std::string& title) {
 
 void NameDestination(Program& program, const Destination& to) {
     const std::string file = to.File();
-    const config::FileBatch batch(program.Ini, file);
-    program.Ini.WriteKey("General", "Project", to.ProjectFile(), file);
-    program.Ini.WriteKey("General", "OrmStation", to.Station, file);
+    // Given up, it stays as it is: a copy that was made is never taken back.
+    (void)program.Storage.Change(
+        {.Lost = "The copy was made, but it still names the project and the station that it was copied from.",
+         .Title = failedTitle},
+        file, [&](config::FileIni& ini) {
+            ini.WriteKey("General", "Project", to.ProjectFile(), file);
+            ini.WriteKey("General", "OrmStation", to.Station, file);
+        });
+}
+
+// By a file that can be read. Of one that cannot even be looked at the copy itself says why it fails.
+bool IsTaken(Program& program, const std::string& file) {
+    return program.Machine.Files.ReadStart(file, 1).has_value();
 }
 
 // What the two commands say of a copy.
@@ -60,10 +71,13 @@ struct CopyWords {
 
 // The copy keeps standing whatever follows; one that fails leaves no file behind.
 bool CopyTo(Program& program, const Destination& to, const CopyWords& words) {
-    if (!program.Ini.CopyConfigFile(program.Session.ConfigFile(), to.File())) {
+    if (IsTaken(program, to.File())) {
         FailCopy(program, words.Failed);
         return false;
     }
+    if (!program.Storage.Copy({.Lost = "Could not copy the configuration file ", .Title = failedTitle},
+                              program.Session.ConfigFile(), to.File()))
+        return false;
     RemindOfTags(program, words.DoneTitle);
     NameDestination(program, to);
     return true;
@@ -110,7 +124,7 @@ bool CanBeNamed(Program& program, const Destination& to) {
     const std::string reason = to.File().empty() ? CharactersRefused : ReasonAgainst(to.Station);
     if (reason.empty())
         return true;
-    program.Screen.Ask({.Title = "Error: Copy configuration file",
+    program.Screen.Ask({.Title = failedTitle,
                         .Text = "Could not copy the configuration file \r\n" + reason,
                         .TheIcon = ui::Icon::Exclamation});
     return false;

@@ -1,5 +1,6 @@
 // The "Delete" command.
 #include "forms/files/CopyCommands.h"
+#include "forms/files/WaitForFile.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
 #include "forms/program/Loss.h"
@@ -18,15 +19,6 @@ bool MayDelete(Program& program) {
                    "Are you sure that you want to delete the configuration of this station?");
 }
 
-// What holds the file, another program perhaps, may let it go a little later. Deliberately without a word and
-// without an end: the window goes on painting, and closing it ends the program and the wait with it.
-void WaitUntilGone(Program& program, const std::string& file) {
-    while (program.Ini.FileExists(file) && !program.Screen.Ended()) {
-        program.Screen.WaitAMoment();
-        program.Ini.DeleteConfigFile(file);
-    }
-}
-
 } // namespace
 
 void DeleteCommand(Program& program) {
@@ -41,12 +33,14 @@ void DeleteCommand(Program& program) {
     const auto& session = program.Session;
     const std::string& station = session.Station.CurrentStation;
     const std::string file = session.ConfigFile();
-    program.Ini.DeleteConfigFile(file);
+    (void)program.Storage.TryToDelete(file); // what stands in its way is told while it waits
     // Deliberately before the file is sure to be gone; at the program's end the list follows the files again.
     (void)project::UnregisterStation(program.Library, session.Project, station, station);
-    WaitUntilGone(program, file);
+    const bool gone = DeletePatiently(program, file);
     if (program.Screen.Ended())
         return;
+    if (!gone)
+        project::RegisterStation(program.Library, session.Project, station);
     auto& window = program.Forms.Get<GFCPrincipal>();
     window.RebuildAfterCommand();
     window.TreeGFC.EnsureVisible(1);

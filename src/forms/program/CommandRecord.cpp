@@ -87,11 +87,11 @@ void HandOver(config::Recorder& recorder, std::vector<FileChange> changes) {
 } // namespace
 
 TouchedFiles::TouchedFiles(Program& program) : program_(program) {
-    program_.Ini.OnTouch = [this](const std::string& file) { Note(file); };
+    program_.Storage.Watch([this](const std::string& file) { Note(file); });
 }
 
 TouchedFiles::~TouchedFiles() {
-    program_.Ini.OnTouch = nullptr;
+    program_.Storage.Watch({});
 }
 
 void TouchedFiles::Note(const std::string& file) {

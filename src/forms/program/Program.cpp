@@ -6,7 +6,7 @@ namespace gfc::forms {
 
 Program::Program(platform::Machine& machine, project::AddOnLibrary& library, ui::Screen& screen,
                  config::Recorder& recorder)
-    : Machine(machine), Library(library, screen), Screen(screen), Ini(machine.Files), Recorder(recorder),
-      Forms(*this) {}
+    : Machine(machine), Library(library, screen), Screen(screen), Storage(machine.Files, screen),
+      Ini(Storage.Ini()), Recorder(recorder), Forms(*this) {}
 
 } // namespace gfc::forms

@@ -5,6 +5,7 @@
 #include "forms/program/FormStore.h"
 #include "forms/program/PatientLibrary.h"
 #include "forms/program/Session.h"
+#include "forms/program/Storage.h"
 #include "ui/Screen.h"
 
 namespace gfc::platform {
@@ -22,7 +23,8 @@ struct Program {
     platform::Machine& Machine;
     PatientLibrary Library;
     ui::Screen& Screen;
-    config::FileIni Ini;
+    forms::Storage Storage;
+    const config::FileIni& Ini; // reads alone
     config::Recorder& Recorder;
     forms::Session Session;
     FormStore Forms;

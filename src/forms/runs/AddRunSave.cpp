@@ -11,11 +11,9 @@ namespace gfc::forms {
 
 namespace {
 
-void WriteRun(Program& program, int run, const std::string& file) {
-    const auto& station = program.Session.Station;
-    const config::FileBatch batch(program.Ini, file);
+void WriteRun(config::FileIni& ini, const config::StationConfig& station, int run, const std::string& file) {
     const auto write = [&](BindingStage kind) {
-        config::WriteRunBindings(program.Ini, station, static_cast<int>(kind), run, file);
+        config::WriteRunBindings(ini, station, static_cast<int>(kind), run, file);
     };
     write(BindingStage::RunInputs);
     write(BindingStage::RunOutputs);
@@ -24,8 +22,7 @@ void WriteRun(Program& program, int run, const std::string& file) {
         write(BindingStage::GasOutputs);
     }
     const config::RunMechanical none;
-    config::WriteAddedRunKeys(program.Ini, station, config::ElementOr(station.Runs.Mechanical, 0, none), run,
-                              file);
+    config::WriteAddedRunKeys(ini, station, config::ElementOr(station.Runs.Mechanical, 0, none), run, file);
 }
 
 } // namespace
@@ -33,9 +30,15 @@ void WriteRun(Program& program, int run, const std::string& file) {
 void SaveAddedRun(Program& program, int run) {
     const std::string file = program.Session.ConfigFile();
     auto& window = program.Forms.Get<GFCPrincipal>();
-    if (!FileIsStillThere(program, "The run was not saved."))
+    const std::string lost = "The run was not saved.";
+    const auto& station = program.Session.Station;
+    const bool saved =
+        FileIsStillThere(program, lost) &&
+        program.Storage.Change({lost}, file, [&](auto& ini) { WriteRun(ini, station, run, file); });
+    if (program.Screen.Ended())
+        return;
+    if (!saved)
         return window.RebuildAfterCommand();
-    WriteRun(program, run, file);
     const std::string path = node::RunPath(program.Session.Station.CurrentStation, run);
     window.SetRunImage(path, true);
     // The pane beside the tree is that of this run, and showed it as not configured.

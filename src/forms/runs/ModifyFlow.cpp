@@ -121,18 +121,24 @@ bool ModifyFlow::Goes() const {
 
 // No binding has changed, so that there is nothing to try.
 void ModifyFlow::SaveMechanical() {
-    if (WishesToSave(program_.Screen, ui::Icon::None) && MayWrite())
-        ApplyMechanicalParameters(program_.Ini, station_, file_);
+    if (WishesToSave(program_.Screen, ui::Icon::None))
+        Save([this](config::FileIni& ini) { ApplyMechanicalParameters(ini, station_, file_); });
 }
 
 void ModifyFlow::TryAndSave() {
-    TrialPasses() ? SaveIfWished() : SaveIfIgnored();
+    const bool passes = TrialPasses();
+    if (!program_.Screen.Ended())
+        passes ? SaveIfWished() : SaveIfIgnored();
 }
 
+// Where no trial can be made, and a person who was told goes on without one, it works on what is there.
 bool ModifyFlow::TrialPasses() {
     {
-        const TrialCopy trial(program_.Ini, file_, TrialFile(session_));
-        ApplyModifiedTags(program_.Ini, station_, selection_, trial.Path());
+        const TrialCopy trial(program_.Storage, file_, TrialFile(session_));
+        if (trial.IsMade())
+            (void)program_.Storage.Change({TrialCopy::Lost}, trial.Path(), [&](config::FileIni& ini) {
+                ApplyModifiedTags(ini, station_, selection_, trial.Path());
+            });
         // The choices are those of the station's own file: a copy that could not be made knows none.
         config::StationConfig choicesOfTrial;
         binding::BuildExpectedTags(program_.Ini, trial.Path(), choicesOfTrial, session_.Expected);
@@ -141,41 +147,43 @@ bool ModifyFlow::TrialPasses() {
 }
 
 void ModifyFlow::SaveIfWished() {
-    if (WishesToSave(program_.Screen, ui::Icon::Information) && MayWrite())
-        ApplyModifiedTags(program_.Ini, station_, selection_, file_);
+    if (WishesToSave(program_.Screen, ui::Icon::Information))
+        Save([this](config::FileIni& ini) { ApplyModifiedTags(ini, station_, selection_, file_); });
 }
 
 void ModifyFlow::SaveIfIgnored() {
     session_.GasInputsValid = true;
     program_.Forms.Get<TagsChanged>().ShowModal();
     const bool ignored = session_.TagsChangedChoice == TagsChangedChoice::Ignore;
-    if (ignored && !program_.Screen.Ended() && MayWrite())
-        SaveWithErrors();
+    if (ignored && !program_.Screen.Ended())
+        Save([this](config::FileIni& ini) { WriteWithErrors(ini); });
 }
 
-bool ModifyFlow::MayWrite() {
-    return FileIsStillThere(program_, "The changes were not saved.");
+// Given up, the changes are lost and the file is as it was: whoever opened the window shows what it says.
+void ModifyFlow::Save(const config::FileIni::Changes& changes) {
+    const std::string lost = "The changes were not saved.";
+    if (FileIsStillThere(program_, lost))
+        (void)program_.Storage.Change({lost}, file_, changes);
 }
 
-void ModifyFlow::SaveWithErrors() {
-    const config::FileBatch batch(program_.Ini, file_);
-    ApplyModifiedTags(program_.Ini, station_, selection_, file_);
-    binding::DisableRunsWithErrors(program_.Ini, session_.Expected, file_);
+void ModifyFlow::WriteWithErrors(config::FileIni& ini) {
+    ApplyModifiedTags(ini, station_, selection_, file_);
+    binding::DisableRunsWithErrors(ini, session_.Expected, file_);
     // Deliberately whatever the error was: a run whose gas inputs were edited goes off with it.
     for (int run = 1; selection_.GasInputs && run <= config::MaxRuns; ++run)
         if (station_.Run.at(static_cast<std::size_t>(run - 1)) == config::Yes)
-            DisableRun(run);
+            DisableRun(ini, run);
     const bool composition =
         config::IsGasModel(station_.GasDensitySource) && station_.AGA8CalInput == config::CompositionMeasured;
     if (!composition || session_.GasInputsValid)
         return;
     // The runs share the gas.
     for (int run = 1; run <= config::MaxRuns; ++run)
-        DisableRun(run);
+        DisableRun(ini, run);
 }
 
-void ModifyFlow::DisableRun(int run) {
-    program_.Ini.WriteKey("FlowRuns", "Run" + std::to_string(run), std::string(config::No), file_);
+void ModifyFlow::DisableRun(config::FileIni& ini, int run) {
+    ini.WriteKey("FlowRuns", "Run" + std::to_string(run), std::string(config::No), file_);
 }
 
 } // namespace gfc::forms

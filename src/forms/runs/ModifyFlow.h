@@ -34,9 +34,9 @@ private:
     [[nodiscard]] bool TrialPasses();
     void SaveIfWished();
     void SaveIfIgnored();
-    void SaveWithErrors();
-    [[nodiscard]] bool MayWrite();
-    void DisableRun(int run);
+    void Save(const config::FileIni::Changes& changes);
+    void WriteWithErrors(config::FileIni& ini);
+    void DisableRun(config::FileIni& ini, int run);
 
     Program& program_;
     Session& session_;

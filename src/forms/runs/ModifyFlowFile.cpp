@@ -5,6 +5,7 @@
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 #include "forms/program/Session.h"
+#include "forms/program/Storage.h"
 
 #include <array>
 
@@ -90,14 +91,16 @@ std::string TrialFile(const Session& session) {
     return config::ConfigFilePath(beside, session.Project.ProjectName, session.Station.CurrentStation);
 }
 
-TrialCopy::TrialCopy(config::FileIni& ini, const std::string& original, std::string copy)
-    : ini_(ini), copy_(std::move(copy)) {
-    ini_.DeleteConfigFile(copy_);
-    ini_.CopyConfigFile(original, copy_);
+const char* const TrialCopy::Lost = "The changes could not be tried on a copy of the configuration file.";
+
+TrialCopy::TrialCopy(Storage& storage, const std::string& original, std::string copy)
+    : storage_(storage), copy_(std::move(copy)) {
+    (void)storage_.TryToDelete(copy_); // there is mostly none
+    made_ = storage_.Copy({Lost}, original, copy_);
 }
 
 TrialCopy::~TrialCopy() {
-    ini_.DeleteConfigFile(copy_);
+    (void)storage_.TryToDelete(copy_); // the next one does it otherwise
 }
 
 void ClearModifyState(Session& session) {

@@ -10,6 +10,7 @@
 namespace gfc::forms {
 
 struct Session;
+class Storage;
 
 // What a person has chosen to edit.
 struct ModifySelection {
@@ -43,19 +44,25 @@ void ApplyMechanicalParameters(config::FileIni& ini, const config::StationConfig
 [[nodiscard]] std::string TrialFile(const Session& session);
 
 // A copy of a configuration file for as long as it takes to try an edit on it. What a crash has left there
-// goes first. Where the copy cannot be made the trial works on what is there, and nobody is told.
+// goes first.
 class TrialCopy {
 public:
-    TrialCopy(config::FileIni& ini, const std::string& original, std::string copy);
+    // What is lost without one.
+    static const char* const Lost;
+
+    TrialCopy(Storage& storage, const std::string& original, std::string copy);
     ~TrialCopy();
     TrialCopy(const TrialCopy&) = delete;
     TrialCopy& operator=(const TrialCopy&) = delete;
 
     [[nodiscard]] const std::string& Path() const { return copy_; }
+    // False where the copy could not be made, and a person was told and has given it up.
+    [[nodiscard]] bool IsMade() const { return made_; }
 
 private:
-    config::FileIni& ini_;
+    Storage& storage_;
     std::string copy_;
+    bool made_ = false;
 };
 
 // Empties the station, its runs, its tag lists and what was expected of them, so that the next command reads

@@ -24,8 +24,20 @@ std::string ConfiguredKey(int run) {
     return EnabledKey(run) + std::to_string(run);
 }
 
-void WriteEnabled(Program& program, int run, std::string_view flag) {
-    program.Ini.WriteKey(flags, EnabledKey(run), std::string(flag), program.Session.ConfigFile());
+void WriteEnabled(config::FileIni& ini, int run, std::string_view flag, const std::string& file) {
+    ini.WriteKey(flags, EnabledKey(run), std::string(flag), file);
+}
+
+// Of one run, told of where it is not stored. The tree then shows what the file says.
+bool StoreEnabled(Program& program, int run, bool enabled) {
+    const std::string file = program.Session.ConfigFile();
+    const std::string lost = node::RunText(run) + " was not " + (enabled ? "enabled." : "disabled.");
+    const bool stored = program.Storage.Change({lost}, file, [&](config::FileIni& ini) {
+        WriteEnabled(ini, run, enabled ? config::Yes : config::No, file);
+    });
+    if (!stored && !program.Screen.Ended())
+        program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();
+    return stored;
 }
 
 void ShowEnabled(Program& program, int run, bool enabled) {
@@ -48,16 +60,22 @@ void CheckTagsOfFile(Program& program) {
     (void)binding::CheckExpectedTags(session.Expected, session.Inventory);
 }
 
+// Given up, a run with errors goes on being enabled in the file; what is wrong with it is told all the same.
 void TurnOff(Program& program, int run, bool allRuns) {
-    const config::FileBatch batch(program.Ini, program.Session.ConfigFile());
-    for (int each = 1; each <= config::MaxRuns; ++each)
-        if (allRuns || each == run)
-            WriteEnabled(program, each, config::No);
+    const std::string file = program.Session.ConfigFile();
+    const std::string runs = allRuns ? "The runs were" : node::RunText(run) + " was";
+    (void)program.Storage.Change({runs + " not disabled."}, file, [&](config::FileIni& ini) {
+        for (int each = 1; each <= config::MaxRuns; ++each)
+            if (allRuns || each == run)
+                WriteEnabled(ini, each, config::No, file);
+    });
 }
 
 // The image in the tree deliberately stays as it is until the tree is built anew.
 void Refuse(Program& program, int run, const EnableFault& fault) {
     TurnOff(program, run, fault.OfAllRuns);
+    if (program.Screen.Ended())
+        return;
     // Nothing writes the log here: it is the one of the last check that had an answer from a person.
     const std::string log = binding::ErrorLogPath(program.Session.ConfigFile());
     const auto answer = program.Screen.Ask({.Title = "Failed enable run",
@@ -73,6 +91,7 @@ void LoadWithoutRuns(Program& program) {
     auto& session = program.Session;
     auto& station = session.Station;
     session.EditMode = EditMode::None;
+    StartAfresh(station);
     config::LoadStationConfig(program.Ini, station, session.ConfigFile());
     station.FlagAGA7 = station.FlowAlgorithm == config::algorithm::AGA7;
     station.Measured = station.GasDensitySource == config::source::Measured;
@@ -101,8 +120,8 @@ void Enable(Program& program, int run) {
     const std::string configured =
         program.Ini.ReadKey(flags, ConfiguredKey(run), program.Session.ConfigFile());
     if (configured == config::Yes) {
-        ShowEnabled(program, run, true);
-        WriteEnabled(program, run, config::Yes);
+        if (StoreEnabled(program, run, true))
+            ShowEnabled(program, run, true);
     } else if (configured == config::No) {
         OfferToConfigure(program, run);
     }
@@ -161,8 +180,8 @@ void DisableRunCommand(Program& program) {
     // A key written now would make a file of its own, and with it a station that counts as configured.
     if (!program.Ini.FileExists(program.Session.ConfigFile()))
         return program.Forms.Get<GFCPrincipal>().RebuildAfterCommand();
-    WriteEnabled(program, run, config::No);
-    ShowEnabled(program, run, false);
+    if (StoreEnabled(program, run, false))
+        ShowEnabled(program, run, false);
 }
 
 } // namespace gfc::forms

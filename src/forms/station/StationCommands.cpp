@@ -7,6 +7,8 @@
 #include "forms/wizard/SelectRuns.h"
 #include "forms/wizard/WizardFC.h"
 
+#include <utility>
+
 namespace gfc::forms {
 
 namespace {
@@ -90,9 +92,8 @@ void SelectRunsAndGoOn(Program& program) {
 }
 
 void NewConfiguration(Program& program) {
+    StartAfresh(program.Session);
     int& activeRuns = program.Session.Station.ActiveRunCount;
-    // Nothing is carried over from an earlier command.
-    activeRuns = 0;
     if (!OpenStation(program)) {
         activeRuns = 1;
         ReportShortageOfBoth(program);
@@ -106,6 +107,23 @@ void NewConfiguration(Program& program) {
 }
 
 } // namespace
+
+void StartAfresh(config::StationConfig& station) {
+    config::StationConfig fresh;
+    fresh.ProjectFile = std::move(station.ProjectFile);
+    fresh.ProjectName = std::move(station.ProjectName);
+    fresh.UserId = std::move(station.UserId);
+    fresh.CurrentStation = std::move(station.CurrentStation);
+    station = std::move(fresh);
+}
+
+void StartAfresh(Session& session) {
+    StartAfresh(session.Station);
+    session.Inventory = {};
+    session.Modules = {};
+    session.Expected = {};
+    session.EditedMechanical = {};
+}
 
 bool HasPlaceForItsFile(Program& program) {
     if (!program.Session.ConfigFile().empty())

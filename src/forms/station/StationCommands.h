@@ -2,9 +2,20 @@
 
 #include <string>
 
+namespace gfc::config {
+struct StationConfig;
+}
+
 namespace gfc::forms {
 
 struct Program;
+struct Session;
+
+// As a start of the program leaves it, but for the project, the person and the station that is selected: what
+// a command writes must not depend on what was done before it.
+void StartAfresh(config::StationConfig& station);
+// The same for all that a command on a station goes by.
+void StartAfresh(Session& session);
 
 // Reads the current station's tags anew and sorts them.
 void ReadStationTags(Program& program);

@@ -8,6 +8,7 @@
 #include "forms/editors/MDetail.h"
 #include "forms/editors/frSGERG88.h"
 #include "forms/station/Step.h"
+#include "services/Text.h"
 
 #include <utility>
 
@@ -71,7 +72,7 @@ bool WizardPass::Open() {
 }
 
 bool WizardPass::Common() {
-    const bool external = station_.ExtAtmPress == config::Yes;
+    const bool external = services::EqualNoCase(station_.ExtAtmPress, config::Yes);
     // The wizard's file is a new one: an earlier configuration of the station must not shine through. What a
     // stored configuration holds of a pressure that is not in use stays.
     if (external || session_.EditMode != EditMode::Configurator)

@@ -1,6 +1,7 @@
 // The end of the wizard: the pass over the runs, the save, and the ways out.
 #include "config/ConfigWriter.h"
 #include "forms/binding/TagRuns.h"
+#include "forms/files/WaitForFile.h"
 #include "forms/program/Loss.h"
 #include "forms/program/MainWindow.h"
 #include "forms/station/Step.h"
@@ -56,18 +57,16 @@ void WizardFC::CloseForms() {
     Unload();
 }
 
+// The old file is deleted and then the new one put there, which stands safe beside it by then. Where that
+// does not succeed the page stays, with all that was entered.
 void WizardFC::Save() {
     const std::string file = session_.ConfigFile();
-    // While the old file stands there is deliberately no other way out; the window still paints.
-    SetEnabled(false);
-    while (program_.Ini.FileExists(file)) {
-        if (program_.Ini.DeleteConfigFile(file))
-            continue;
-        if (program_.Screen.Ended())
-            return;
-        program_.Screen.WaitAMoment();
-    }
-    config::SaveWholeConfiguration(program_.Ini, session_.Station, file);
+    const bool stored = program_.Storage.PutAnew(
+        {"The configuration of the station was not saved."}, file,
+        [&](config::FileIni& ini) { config::SaveWholeConfiguration(ini, session_.Station, file); },
+        [&] { return DeletePatiently(program_, file); });
+    if (!stored)
+        return;
     CloseForms();
     ShowMainWindow(program_);
     session_.TreeRefreshNeeded = true;

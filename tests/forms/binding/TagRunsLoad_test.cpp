@@ -338,11 +338,14 @@ TEST(TagRunsCopySources, go_by_the_calorific_value_in_the_gross_family) {
     }
 }
 
-TEST(TagRunsCopySources, in_the_wizard_need_an_exact_Yes) {
+TEST(TagRunsCopySources, count_in_any_case) {
     TagRunsWorld world;
     world.Station.RunList[3].Flag = "yes";
     world.Station.Runs.Gas[1][config::GasSlot::GC_C1].RegAddr = "1";
-    EXPECT_FALSE(IsSource(world, GasInputs, {false, false, false, false, false}));
+    EXPECT_TRUE(IsSource(world, GasInputs, {false, false, false, true, false}));
+    world.Session.EditMode = forms::EditMode::ModifyTags;
+    world.Files.Content[world.ConfigFile("North")] = "[FlowRuns]\r\nRun1=yes\r\nRun3=YES\r\nRun5=no\r\n";
+    EXPECT_TRUE(IsSource(world, GasInputs, {true, false, true, false, false}));
 }
 
 TEST(TagRunsCopySources, elsewhere_are_the_other_runs_enabled_in_the_file) {

@@ -139,7 +139,12 @@ TEST_F(TagsChanged, shows_the_errors_in_a_normal_window_and_stays) {
 
 TEST_F(TagsChanged, says_that_there_is_no_log) {
     Files.Unwritable.insert(Log);
-    TheStory.Click("TagsChanged", "Command1")
+    TheStory
+        .Box("Gas Flow Computer",
+             std::string("The error log file was not written.\r\n") + Log +
+                 "\r\n\r\nThe system says: Permission denied\r\nThere is no such file now.",
+             ui::Icon::Exclamation, ui::Answer::Close)
+        .Click("TagsChanged", "Command1")
         .Box("Gas Flow Computer", std::string("There is no error log file for this station:\r\n") + Log,
              ui::Icon::Exclamation)
         .SeeShown("TagsChanged");

@@ -121,6 +121,50 @@ TEST(ConfiguradorPass, another_choice_of_runs_after_it_owes_another_pass) {
 }
 
 // The tags of a pass were drawn without those of the modules, so that these are settled then.
+// What is bound depends on these lists: a file of another choice would be saved with bindings that nobody
+// made.
+struct OwedAgain {
+    const char* Name;
+    std::function<void(Story&)> Choose;
+    std::function<void(Story&)> ChooseBack;
+};
+
+void PrintTo(const OwedAgain& owed, std::ostream* out) {
+    *out << owed.Name;
+}
+
+OwedAgain ByList(const char* list, int other, int back) {
+    return {list, [=](Story& story) { story.Select(Configurator, list, other); },
+            [=](Story& story) { story.Select(Configurator, list, back); }};
+}
+
+class ConfiguradorOwesAgain : public testing::TestWithParam<OwedAgain> {};
+
+TEST_P(ConfiguradorOwesAgain, once_a_choice_changes_after_the_pass) {
+    PassOfConfigurador world({0, 1, false, false, {2}});
+    world.AllRuns();
+    GetParam().Choose(world.TheStory);
+    world.RefuseToSave("SalvarSalir2");
+    EXPECT_FALSE(world.HasFile());
+    // The choice that the pass was made for needs no other one.
+    world.TheStory.SelectTab(Configurator, "SSTab2", 0);
+    GetParam().ChooseBack(world.TheStory);
+    world.ThenSave("SalvarSalir2");
+    world.Show();
+    EXPECT_TRUE(world.HasFile());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Choices, ConfiguradorOwesAgain,
+    testing::Values(ByList("CombStandard", 3, 0), ByList("cbSourceGas", 3, 1), ByList("CombUnits", 2, 0),
+                    OwedAgain{"composition",
+                              [](Story& story) {
+                                  story.SelectTab(Configurator, "SSTab2", 3).Click(Configurator, "Option5");
+                              },
+                              [](Story& story) {
+                                  story.SelectTab(Configurator, "SSTab2", 3).Click(Configurator, "Option6");
+                              }}));
+
 TEST(ConfiguradorPass, leaves_no_choice_of_modules_to_the_common_parameters) {
     PassOfConfigurador world({0, 0, false, false, {2}});
     world.AllRuns();

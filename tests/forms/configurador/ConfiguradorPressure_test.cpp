@@ -29,15 +29,33 @@ TEST(ConfiguradorCommonPressure, takes_another_tag) {
     CommonPressure world;
     world.OpenTags();
     world.Rebind(3);
-    world.TheStory.SeeText(Configurator, "AtmExtName", "Name: FT-3")
+    world.TheStory.SeeText(Configurator, "AtmExtName", "Name: FT-20")
         .SeeText(Configurator, "AtmExtType", " Type: FX")
-        .SeeText(Configurator, "AtmExtAddr", " Addr: 1003")
+        .SeeText(Configurator, "AtmExtAddr", " Addr: 1020")
         .SeeVisible(Configurator, "SalvarSalir2")
         .SeeVisible(Configurator, "SalvarSalir", false);
     world.ThenSave("SalvarSalir2");
     world.Show();
-    EXPECT_TRUE(Holds(world.File(), "CommonPaKDIOTag=FT-3\n"));
-    EXPECT_TRUE(Holds(world.File(), "\nPaKDIORegAddr=1003\n"));
+    EXPECT_TRUE(Holds(world.File(), "CommonPaKDIOTag=FT-20\n"));
+    EXPECT_TRUE(Holds(world.File(), "\nPaKDIORegAddr=1020\n"));
+}
+
+// Neither what the runs of the file are bound to, nor what the pressure is bound to by now; the tag that it
+// had in the file may be taken again.
+TEST(ConfiguradorCommonPressure, is_offered_no_tag_that_is_in_use) {
+    CommonPressure world;
+    world.OpenTags();
+    world.TheStory.Check([](Driver& d) { EXPECT_EQ(d.Cell("TagRuns", "ListViewRuns", 1, 1), "FT-18"); });
+    world.Rebind(3);
+    world.OpenTags();
+    world.TheStory
+        .Check([](Driver& d) {
+            EXPECT_EQ(d.Cell("TagRuns", "ListViewRuns", 1, 1), "FT-1");
+            EXPECT_EQ(d.Cell("TagRuns", "ListViewRuns", 3, 1), "FT-19");
+            EXPECT_EQ(d.Cell("TagRuns", "ListViewRuns", 4, 1), "FT-21");
+        })
+        .Click("TagRuns", "Command5");
+    world.PlayAndCancel();
 }
 
 TEST(ConfiguradorCommonPressure, a_cancel_keeps_the_tag_and_the_way_to_the_save) {

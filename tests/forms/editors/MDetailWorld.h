@@ -81,7 +81,7 @@ struct MDetailForm : testing::Test {
             Story.SeeText(form, component.Field, component.Default);
     }
     void WriteKey(const std::string& section, const std::string& key, const std::string& value) {
-        World.Program.Ini.WriteKey(section, key, value, World.ConfigFile("North"));
+        World.Hand.WriteKey(section, key, value, World.ConfigFile("North"));
     }
     // Leaves a field and sees what is selected then.
     void LeaveAndSee(const std::string& left, const std::string& text, const std::string& selected,

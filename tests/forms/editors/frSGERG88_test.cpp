@@ -45,7 +45,7 @@ struct frSGERG88Form : testing::Test {
             EXPECT_EQ(Gas(slots[i]), texts[i]);
     }
     void WriteKey(const std::string& section, const std::string& key, const std::string& value) {
-        World.Program.Ini.WriteKey(section, key, value, World.ConfigFile("North"));
+        World.Hand.WriteKey(section, key, value, World.ConfigFile("North"));
     }
     void Leave(const std::string& field, const std::string& text, bool held, const std::string& box = {}) {
         Story.Type(form, field, text).Focus(form, "ayuda");

@@ -43,6 +43,12 @@ struct CopyWorld : testing::Test, World {
     void ExpectFailure(const std::string& reason) {
         TheStory.Box("Error: Copy configuration file", failed + reason, Icon::None);
     }
+    void ExpectNoCopy(const std::string& reason, Answer answer) {
+        TheStory.Box("Error: Copy configuration file",
+                     failed + Path("South") + "\r\n\r\nThe system says: " + reason +
+                         "\r\nThere is no such file now.",
+                     Icon::Exclamation, answer);
+    }
     void Play() {
         Window().Show();
         Screen.RunToEnd();
@@ -141,13 +147,40 @@ TEST_F(CopyToStation, does_not_replace_a_file_that_came_up_meanwhile) {
     EXPECT_EQ(Files.Content[Path("South")], "[General]\r\n");
 }
 
-TEST_F(CopyToStation, a_failed_copy_leaves_no_file) {
-    Files.Unwritable.insert(Path("South"));
+TEST_F(CopyToStation, a_failed_copy_says_why_and_leaves_no_file) {
+    Files.DiskFull = true;
     ChooseAt("All Stations\\North", "copiar1");
     TheStory.Click("frCopyStation", "Command1");
-    ExpectFailure("Please, Verify that the station has not been configured previously...");
+    ExpectNoCopy("No space left on device", Answer::Retry);
+    ExpectNoCopy("No space left on device", Answer::Close);
     Play();
     EXPECT_FALSE(Files.Content.contains(Path("South")));
+}
+
+TEST_F(CopyToStation, a_copy_is_made_once_there_is_room_for_it) {
+    Files.DiskFull = true;
+    ChooseAt("All Stations\\North", "copiar1");
+    TheStory.Click("frCopyStation", "Command1");
+    ExpectNoCopy("No space left on device", Answer::Retry);
+    Screen.OnBox = [this](const ui::Box&) { Files.DiskFull = false; };
+    ExpectDone();
+    Play();
+    EXPECT_TRUE(Files.Content.contains(Path("South")));
+}
+
+TEST_F(CopyToStation, says_that_a_copy_could_not_be_named) {
+    ChooseAt("All Stations\\North", "copiar1");
+    TheStory.Click("frCopyStation", "Command1");
+    ExpectDone();
+    Screen.OnBox = [this](const ui::Box&) { Files.DiskFull = true; };
+    TheStory.Box("Error: Copy configuration file",
+                 "The copy was made, but it still names the project and the station that it was copied "
+                 "from.\r\n" +
+                     Path("South") +
+                     "\r\n\r\nThe system says: No space left on device\r\nThe file stands as it was before.",
+                 Icon::Exclamation, Answer::Close);
+    Play();
+    EXPECT_EQ(Files.Content[Path("South")], Files.Content[Path("North")]);
 }
 
 TEST_F(CopyToStation, a_copy_stands_whatever_the_tags_of_the_destination) {

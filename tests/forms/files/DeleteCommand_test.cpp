@@ -95,50 +95,52 @@ TEST_F(DeleteCommand, forgets_a_node_that_has_gone_with_the_file) {
     EXPECT_EQ(Window().TreeGFC.SelectedNode(), 0);
 }
 
-TEST_F(DeleteCommand, waits_until_the_file_is_gone) {
+// The list follows at once, as it does where nothing holds the file.
+TEST_F(DeleteCommand, waits_until_the_file_is_gone_and_says_for_what_and_why) {
     Files.Unwritable.insert(file);
-    int waits = 0;
-    bool unregisteredFirst = false;
-    Screen.OnWait = [&] {
-        unregisteredFirst = Library.FilesToLoad.empty();
-        if (++waits == 3)
-            Files.Unwritable.clear();
-    };
     ChooseAt("All Stations\\North");
     Confirm(Answer::Yes);
-    TheStory.Check([](Driver& d) {
-        EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", "All Stations\\North"), "StationNoConfig");
-    });
+    for (int wait = 0; wait < 3; ++wait)
+        TheStory.SeeText("WaitForFile", "Label1", "Waiting until the configuration file can be deleted:")
+            .SeeText("WaitForFile", "Label2", file)
+            .SeeText("WaitForFile", "Label3", "The system says: Permission denied")
+            .Check([this](Driver&) { EXPECT_TRUE(Library.FilesToLoad.empty()); })
+            .Tick("WaitForFile", "timerWait");
+    TheStory.Do("let it go", [this](Driver&) { Files.Unwritable.clear(); })
+        .Tick("WaitForFile", "timerWait")
+        .SeeShown("WaitForFile", false)
+        .Check([](Driver& d) {
+            EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", "All Stations\\North"), "StationNoConfig");
+        });
     Play();
-    EXPECT_EQ(waits, 3);
-    EXPECT_TRUE(unregisteredFirst);
     EXPECT_TRUE(Files.Content.empty());
+    EXPECT_EQ(Screen.BoxesShown.size(), 1U) << "the question alone";
 }
 
-// However long it takes.
-TEST_F(DeleteCommand, asks_nothing_while_it_waits) {
-    Files.Unwritable.insert(file);
-    int waits = 0;
-    Screen.OnWait = [&] {
-        if (++waits == 5000)
-            Files.Unwritable.clear();
-    };
-    ChooseAt("All Stations\\North");
-    Confirm(Answer::Yes);
+TEST_F(DeleteCommand, is_given_up_with_the_file_and_its_entry_as_they_were) {
+    for (const bool byTheButton : {true, false}) {
+        Files.Unwritable.insert(file);
+        ChooseAt("All Stations\\North");
+        Confirm(Answer::Yes);
+        byTheButton ? TheStory.Click("WaitForFile", "Command1") : TheStory.CloseWindow("WaitForFile");
+        TheStory.SeeShown("WaitForFile", false).Check([this](Driver& d) {
+            EXPECT_EQ(d.NodeImage("GFCPrincipal", "TreeGFC", "All Stations\\North"), "StationConfig");
+            ASSERT_EQ(Library.FilesToLoad.size(), 1U);
+            EXPECT_EQ(std::get<0>(Library.FilesToLoad.front()), "North");
+            EXPECT_EQ(std::get<1>(Library.FilesToLoad.front()), file);
+        });
+    }
     Play();
-    EXPECT_EQ(Screen.BoxesShown.size(), 1U);
-    EXPECT_TRUE(Files.Content.empty());
-}
-
-TEST_F(DeleteCommand, ends_with_the_program_when_the_window_is_closed_meanwhile) {
-    Files.Unwritable.insert(file);
-    ChooseAt("All Stations\\North");
-    Confirm(Answer::Yes);
-    TheStory.CloseWindow("GFCPrincipal");
-    Play();
-    EXPECT_TRUE(Screen.Ended());
     EXPECT_TRUE(Files.Content.contains(file));
-    EXPECT_EQ(Library.FilesToLoad.size(), 1U) << "the list follows the file that is still there";
+}
+
+TEST_F(DeleteCommand, ends_with_the_program_while_it_waits) {
+    Files.Unwritable.insert(file);
+    ChooseAt("All Stations\\North");
+    Confirm(Answer::Yes);
+    TheStory.Do("end the program", [this](Driver&) { Screen.EndProgram(0); });
+    Play();
+    EXPECT_TRUE(Files.Content.contains(file));
 }
 
 } // namespace

@@ -19,7 +19,7 @@ struct LoadedWorld : ModifyWorld {
         Station.FlagAGA7 = Station.FlowAlgorithm == "AGA7";
     }
     void Apply(const ModifySelection& selection) {
-        forms::ApplyModifiedTags(Program.Ini, Station, selection, File());
+        forms::ApplyModifiedTags(Hand, Station, selection, File());
     }
 };
 
@@ -134,7 +134,7 @@ TEST(ApplyMechanicalParameters, does_not_enable_the_run) {
     world.Put("FlowRuns", "Run2", "No");
     world.Station.Runs.Mechanical[0].OrificeDia = "9.9";
     const int replaces = world.Files.Replaces;
-    forms::ApplyMechanicalParameters(world.Program.Ini, world.Station, world.File());
+    forms::ApplyMechanicalParameters(world.Hand, world.Station, world.File());
     EXPECT_EQ(world.Files.Replaces, replaces + 1);
     EXPECT_EQ(world.Key("Run2", "OrificeDia"), "9.9");
     EXPECT_EQ(world.Key("FlowRuns", "Run2"), "No");
@@ -145,7 +145,7 @@ TEST(ApplyMechanicalParameters, writes_the_common_section_as_the_model_holds_it)
     world.Station.Compressible = "No";
     world.Station.IsentropicCoeff = "1.4";
     world.Station.AtmPress = "1.1";
-    forms::ApplyMechanicalParameters(world.Program.Ini, world.Station, world.File());
+    forms::ApplyMechanicalParameters(world.Hand, world.Station, world.File());
     EXPECT_EQ(world.Key("AGA3", "Compressible"), "No");
     EXPECT_EQ(world.Key("AGA3", "IsentropicCoeff"), "1.4");
     EXPECT_EQ(world.Key("Run2", "AtmPress"), "1.1");
@@ -157,7 +157,7 @@ TEST(ApplyMechanicalParameters, gives_an_accelabar_run_no_orifice_keys) {
     LoadedWorld world({"Accelabar-AGA-3-1992", "MEASURED"});
     world.Station.Runs.Mechanical[0].OrificeDia = "9.9";
     world.Station.Runs.Mechanical[0].AccelabarY = "0.5";
-    forms::ApplyMechanicalParameters(world.Program.Ini, world.Station, world.File());
+    forms::ApplyMechanicalParameters(world.Hand, world.Station, world.File());
     EXPECT_EQ(world.Key("Run2", "AccelabarY"), "0.5");
     EXPECT_EQ(world.Key("Run2", "OrificeDia"), "193.675");
     EXPECT_EQ(FileText(world.Content()).Value("Run2", "ExtMechParam"), std::nullopt);
@@ -178,24 +178,29 @@ TEST(TrialCopy, takes_the_place_of_what_a_crash_left_and_goes) {
     LoadedWorld world;
     world.Files.Content[ModifyWorld::Trial] = "left over";
     {
-        const forms::TrialCopy trial(world.Program.Ini, world.File(), ModifyWorld::Trial);
+        const forms::TrialCopy trial(world.Program.Storage, world.File(), ModifyWorld::Trial);
+        EXPECT_TRUE(trial.IsMade());
         EXPECT_EQ(trial.Path(), ModifyWorld::Trial);
         EXPECT_EQ(world.Files.Content.at(ModifyWorld::Trial), world.Content());
-        world.Program.Ini.WriteKey("FlowRuns", "Run5", "Yes", trial.Path());
+        world.Hand.WriteKey("FlowRuns", "Run5", "Yes", trial.Path());
     }
     EXPECT_FALSE(world.Files.Content.contains(ModifyWorld::Trial));
     EXPECT_EQ(world.Key("FlowRuns", "Run5"), "No");
 }
 
-TEST(TrialCopy, goes_though_it_could_not_be_made) {
+TEST(TrialCopy, says_that_it_could_not_be_made) {
     LoadedWorld world;
     world.Files.Unreadable.insert(world.File());
-    {
-        const forms::TrialCopy trial(world.Program.Ini, world.File(), ModifyWorld::Trial);
-        EXPECT_FALSE(world.Files.Content.contains(ModifyWorld::Trial));
-        world.Program.Ini.WriteKey("FlowRuns", "Run5", "Yes", trial.Path());
-        EXPECT_TRUE(world.Files.Content.contains(ModifyWorld::Trial));
-    }
+    for (const auto answer : {ui::Answer::Retry, ui::Answer::Close})
+        world.TheStory.Box(
+            "Gas Flow Computer",
+            std::string("The changes could not be tried on a copy of the configuration file.\r\n") +
+                ModifyWorld::Trial +
+                "\r\n\r\nThe system says: Input/output error\r\nThere is no such file now.",
+            ui::Icon::Exclamation, answer);
+    const forms::TrialCopy trial(world.Program.Storage, world.File(), ModifyWorld::Trial);
+    EXPECT_FALSE(trial.IsMade());
+    EXPECT_TRUE(world.TheStory.Done());
     EXPECT_FALSE(world.Files.Content.contains(ModifyWorld::Trial));
 }
 

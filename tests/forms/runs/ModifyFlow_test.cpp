@@ -232,6 +232,7 @@ TEST(ModifyFlow, keeps_the_bindings_although_no_copy_could_be_made) {
     world.Files.Unwritable.insert(ModifyWorld::Trial);
     world.TickAndAccept({1});
     world.Continue();
+    world.TheStory.Box("Gas Flow Computer", "", ui::Icon::Exclamation, ui::Answer::Close);
     // Nothing is there to be checked, so that nothing is wrong with it.
     world.SaveAfterTrial();
     world.Play();

@@ -23,7 +23,7 @@ ModifyWorld::ModifyWorld(const ModifyChoices& choices) {
     ActivateRuns(choices.Runs);
     BindEverything();
     FillFixedValues();
-    config::SaveWholeConfiguration(Program.Ini, Station, File());
+    config::SaveWholeConfiguration(Hand, Station, File());
     Content() = EditedByHand(Content());
     // As the command that opens the form leaves the session.
     config::ResetStationConfig(Station);
@@ -98,7 +98,7 @@ void ModifyWorld::SelectNode(const std::string& text) {
 }
 
 void ModifyWorld::Put(const std::string& section, const std::string& key, const std::string& value) {
-    Program.Ini.WriteKey(section, key, value, File());
+    Hand.WriteKey(section, key, value, File());
 }
 
 std::string ModifyWorld::Key(const std::string& section, const std::string& key) {

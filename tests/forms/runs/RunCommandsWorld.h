@@ -24,7 +24,7 @@ struct RunCommandsWorld : World {
 
     std::string& File() { return Files.Content[Path]; }
     void Put(const std::string& section, const std::string& key, const std::string& value) {
-        Program.Ini.WriteKey(section, key, value, Path);
+        Hand.WriteKey(section, key, value, Path);
     }
     std::string Read(const std::string& section, const std::string& key) {
         return Program.Ini.ReadKey(section, key, Path);

@@ -262,7 +262,7 @@ TEST_F(EnableRun, passes_over_any_other_word_in_silence) {
         Choose(3, "erun");
     }
     TheStory.Do("without the key",
-                [this](Driver&) { Program.Ini.WriteKey("FlowRuns", "Run33", std::nullopt, Path); });
+                [this](Driver&) { Hand.WriteKey("FlowRuns", "Run33", std::nullopt, Path); });
     Choose(3, "erun");
     SeeImage(3, "NoRun");
     Play();

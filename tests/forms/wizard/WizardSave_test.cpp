@@ -101,50 +101,95 @@ TEST(WizardSave, replaces_an_older_file_and_all_its_sections) {
     EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
 }
 
+// What the box says of the file.
+void ExpectNotSaved(SaveWorld& world, const std::string& file, const std::string& reason,
+                    const std::string& stands, ui::Answer answer) {
+    world.TheStory.Box("Gas Flow Computer",
+                       "The configuration of the station was not saved.\r\n" + file +
+                           "\r\n\r\nThe system says: " + reason + "\r\n" + stands,
+                       ui::Icon::Exclamation, answer);
+}
+
 TEST(WizardSave, waits_as_long_as_the_old_file_stands) {
     SaveWorld world;
     const std::string file = world.ConfigFile("North");
-    world.Files.Unwritable.insert(file);
-    int waited = 0;
-    world.Screen.OnWait = [&] {
-        // Nothing else can be done meanwhile.
-        EXPECT_FALSE(world.Program.Forms.Get<forms::WizardFC>().cancelar.PersonClicks());
-        EXPECT_FALSE(world.Program.Forms.Get<forms::WizardFC>().Command1.PersonClicks());
-        EXPECT_NE(world.File().find("old=1"), std::string::npos);
-        if (++waited == 3)
-            world.Files.Unwritable.erase(file);
-    };
+    // Bytes go in beside it, and it cannot be deleted.
+    world.Files.Held.insert(file);
+    for (int wait = 0; wait < 3; ++wait)
+        world.TheStory.SeeText("WaitForFile", "Label2", file)
+            .SeeText("WaitForFile", "Label3", "The system says: Permission denied")
+            .Check([&](Driver&) { EXPECT_NE(world.File().find("old=1"), std::string::npos); })
+            .Tick("WaitForFile", "timerWait");
+    world.TheStory.Do("let it go", [&](Driver&) { world.Files.Held.clear(); })
+        .Tick("WaitForFile", "timerWait");
     world.Play();
-    EXPECT_EQ(waited, 3);
     EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
+    EXPECT_EQ(world.File().find("old=1"), std::string::npos);
     EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
+}
+
+TEST(WizardSave, keeps_the_pass_where_the_wait_is_given_up) {
+    SaveWorld world;
+    const std::string file = world.ConfigFile("North");
+    world.Files.Held.insert(file);
+    world.TheStory.Click("WaitForFile", "Command1")
+        .SeeShown(Form)
+        .Check([&](Driver&) { EXPECT_NE(world.File().find("old=1"), std::string::npos); })
+        .Do("let it go", [&](Driver&) { world.Files.Held.clear(); })
+        .SeeEnabled(Form, "Command1")
+        .Click(Form, "Command1");
+    world.Play();
+    EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
+    EXPECT_TRUE(world.Screen.BoxesShown.empty()) << "who gave it up knows";
 }
 
 TEST(WizardSave, lets_the_program_end_while_the_old_file_stands) {
     SaveWorld world;
-    world.Files.Unwritable.insert(world.ConfigFile("North"));
-    world.Screen.OnWait = [&] { world.Screen.EndProgram(0); };
+    world.Files.Held.insert(world.ConfigFile("North"));
+    world.TheStory.Do("end the program", [&](Driver&) { world.Screen.EndProgram(0); });
     world.Play();
     EXPECT_NE(world.File().find("old=1"), std::string::npos);
 }
 
-// What keeps the file from coming into being is not reported; the station simply stays unconfigured.
+TEST(WizardSave, leaves_the_old_configuration_on_a_full_disk) {
+    SaveWorld world;
+    const std::string file = world.ConfigFile("North");
+    world.Files.DiskFull = true;
+    for (const auto answer : {ui::Answer::Retry, ui::Answer::Close})
+        ExpectNotSaved(world, file, "No space left on device", "The file stands as it was before.", answer);
+    world.TheStory.SeeShown(Form)
+        .Check([&](Driver&) { EXPECT_NE(world.File().find("old=1"), std::string::npos); })
+        .Do("make room", [&](Driver&) { world.Files.DiskFull = false; })
+        .Click(Form, "Command1");
+    world.Play();
+    EXPECT_NE(world.File().find("[Run4]"), std::string::npos) << "the pass was still in hand";
+    EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
+}
 
-TEST(WizardSave, ends_quietly_where_the_folder_takes_no_file) {
+TEST(WizardSave, says_that_the_folder_takes_no_file) {
     SaveWorld world;
     world.Files.Content.clear();
     world.Files.Unwritable.insert(world.ConfigFile("North"));
+    ExpectNotSaved(world, world.ConfigFile("North"), "Permission denied", "There is no such file now.",
+                   ui::Answer::Close);
+    world.TheStory.Click(Form, "cancelar")
+        .Box("Gas Flow Computer", "Do you want to quit the configuration wizard ?", ui::Icon::None,
+             ui::Answer::Yes);
     world.Play();
     EXPECT_TRUE(world.Files.Content.empty());
     EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
     EXPECT_FALSE(world.Screen.Ended());
 }
 
-TEST(WizardSave, ends_quietly_for_a_station_whose_name_no_file_bears) {
+TEST(WizardSave, says_that_no_file_bears_the_name_of_the_station) {
     for (const char* name : {"../North", "a\\b", "x\ny"}) {
         SaveWorld world;
         const auto before = world.Files.Content;
         world.Station.CurrentStation = name;
+        ExpectNotSaved(world, "",
+                       "The name of the station, or the path of the project, cannot be that of a file",
+                       "There is no such file now.", ui::Answer::Close);
+        world.TheStory.Click(Form, "cancelar").Box("Gas Flow Computer", "", ui::Icon::None, ui::Answer::Yes);
         world.Play();
         EXPECT_EQ(world.Files.Content, before) << name;
         EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>()) << name;

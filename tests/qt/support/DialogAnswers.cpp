@@ -15,7 +15,8 @@ namespace gfc::test {
 
 namespace {
 
-constexpr QMessageBox::StandardButton buttons[]{QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No};
+constexpr QMessageBox::StandardButton buttons[]{QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No,
+                                                QMessageBox::Retry, QMessageBox::Close};
 constexpr QMessageBox::Icon icons[]{QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Question,
                                     QMessageBox::Warning, QMessageBox::Critical};
 
