@@ -105,7 +105,7 @@ Scenario RefusedWithin() {
 
 // Once more in vain, then no more.
 void NotCopied(Story& story, const std::string& file) {
-    for (const auto answer : {Answer::Retry, Answer::Close})
+    for (const auto answer : {ui::Answer::Retry, ui::Answer::Close})
         story.Box("Error: Copy configuration file",
                   "Could not copy the configuration file \r\n" + file +
                       "\r\n\r\nThe system says: Permission denied\r\nThere is no such file now.",
