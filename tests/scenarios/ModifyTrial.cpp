@@ -134,7 +134,7 @@ Scenario NoPlaceForTheCopy() {
                                               std::string(trial) +
                                               "\r\n\r\nThe system says: Permission denied\r\n"
                                               "There is no such file now.",
-                                          Icon::Exclamation, Answer::Close);
+                                          Icon::Exclamation, ui::Answer::Close);
                                 AskedToSave(story, Icon::Information);
                             },
                         .Changes = StatusEdited});
