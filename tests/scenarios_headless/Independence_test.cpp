@@ -1,7 +1,11 @@
 // What a command writes depends on what is entered and on what stands on the disk, and on nothing that the
 // program was asked to do before: each command of a random sequence is given to a program that has just been
 // started as well, with the same entries on the same files.
+#include "config/Vocabulary.h"
+#include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/StartUp.h"
 #include "forms/runs/AddRunStory.h"
+#include "scenarios/Moves.h"
 #include "scenarios/StoredStation.h"
 
 #include <gtest/gtest.h>
