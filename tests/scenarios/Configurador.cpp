@@ -174,7 +174,7 @@ void PressureTakesAnotherTag(Story& story) {
         .ClickRow("TagRuns", "ListViewRuns", 5)
         .Click("TagRuns", "Command1")
         .Click("TagRuns", "Command5")
-        .SeeText(configurador, "AtmExtName", "Name: FT-5");
+        .SeeText(configurador, "AtmExtName", "Name: FT-6");
     Save(story);
 }
 
@@ -258,8 +258,8 @@ std::vector<Scenario> ConfiguradorScenarios() {
              CommonParametersStand),
         Told("configurator_gives_the_common_pressure_another_tag", NorthIsConfigured, PressureTakesAnotherTag,
              [](FakeProgram& program) {
-                 EXPECT_EQ(ValueOf(program, "AGA3", "CommonPaKDIOTag"), "FT-5");
-                 EXPECT_EQ(ValueOf(program, "Run2", "PaKDIORegAddr"), "1005");
+                 EXPECT_EQ(ValueOf(program, "AGA3", "CommonPaKDIOTag"), "FT-6");
+                 EXPECT_EQ(ValueOf(program, "Run2", "PaKDIORegAddr"), "1006");
              }),
         Told("configurator_comes_back_after_a_cancelled_pass", moves::ThreeStations, CancelledPassLeadsBack,
              NothingWritten),
