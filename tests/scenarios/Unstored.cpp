@@ -102,8 +102,8 @@ Scenario TagsNotSaved() {
                             modify::AskedToSave(story, Icon::Information, Answer::No);
                             modify::Open(story, RunNode(2), 2);
                             modify::TickAndAccept(story, {3});
-                            story.Type("FrParMec", "txtDiaOrif", "1.5").Click("FrParMec", "cmdAceptar");
                             Fill(story, outside, 1);
+                            story.Type("FrParMec", "txtDiaOrif", "1.5").Click("FrParMec", "cmdAceptar");
                             modify::AskedToSave(story, Icon::None);
                             NotStored(story, "The changes were not saved.", Answer::Close);
                             SeeImage(story, RunNode(2), "Run");
