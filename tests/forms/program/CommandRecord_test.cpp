@@ -35,13 +35,21 @@ protected:
     std::string South;
 };
 
+const Storage::Telling lost{"Nothing is stored."};
+
+void Write(Program& program, const std::string& section, const std::string& key, const std::string& value,
+           const std::string& file) {
+    EXPECT_TRUE(program.Storage.Change(
+        lost, file, [&](config::FileIni& ini) { ini.WriteKey(section, key, value, file); }));
+}
+
 const std::string record = "/jobs/KDOrmAGA_plant_History.sqlite";
 
 TEST_F(CommandRecordTest, HandsOverWhatACommandChangedWithWhatStoodThereBefore) {
     TheWorld.Files.Content[North] = "[A]\r\nk=1\r\n";
     Run("Configure", [&](Program& program) {
-        program.Ini.WriteKey("A", "k", "2", North);
-        program.Ini.WriteKey("A", "k", "3", North);
+        Write(program, "A", "k", "2", North);
+        Write(program, "A", "k", "3", North);
     });
     ASSERT_THAT(Recorder.Recorded, SizeIs(1));
     const FileChange& change = Recorder.Recorded.front();
@@ -56,12 +64,11 @@ TEST_F(CommandRecordTest, HandsOverWhatACommandChangedWithWhatStoodThereBefore) 
 TEST_F(CommandRecordTest, SeesBatchesSectionsCopiesAndDeletions) {
     TheWorld.Files.Content[North] = "[A]\r\nk=1\r\n";
     Run("all", [&](Program& program) {
-        {
-            const config::FileBatch batch(program.Ini, North);
-            program.Ini.WriteSection("B", {{"x", "1"}}, North);
-        }
-        program.Ini.CopyConfigFile(North, South);
-        program.Ini.DeleteConfigFile(North);
+        EXPECT_TRUE(program.Storage.Change(lost, North, [&](config::FileIni& ini) {
+            ini.WriteSection("B", {{"x", "1"}}, North);
+        }));
+        EXPECT_TRUE(program.Storage.Copy(lost, North, South));
+        EXPECT_TRUE(program.Storage.TryToDelete(North));
     });
     ASSERT_THAT(Recorder.Recorded, SizeIs(2));
     EXPECT_EQ(Recorder.Recorded[0].Before, "[A]\r\nk=1\r\n");
@@ -73,8 +80,8 @@ TEST_F(CommandRecordTest, SeesBatchesSectionsCopiesAndDeletions) {
 
 TEST_F(CommandRecordTest, LeavesOtherFilesAlone) {
     Run("log", [&](Program& program) {
-        program.Ini.WriteKey("A", "k", "1", "/jobs/KDOrmAGA_plant_North_Errors.log");
-        program.Ini.WriteKey("A", "k", "1", "/jobs/tmpTags_plant_North.ini");
+        Write(program, "A", "k", "1", "/jobs/KDOrmAGA_plant_North_Errors.log");
+        Write(program, "A", "k", "1", "/jobs/tmpTags_plant_North.ini");
     });
     EXPECT_THAT(Recorder.Recorded, IsEmpty());
 }
@@ -82,8 +89,8 @@ TEST_F(CommandRecordTest, LeavesOtherFilesAlone) {
 TEST_F(CommandRecordTest, ACopyToAnotherProjectIsEnteredThere) {
     Run("copy", [](Program& program) {
         const std::string far = "/other/KDOrmAGA_plant_two_Far_1.ini";
-        program.Ini.WriteKey("General", "Project", "/other/plant_two.KPJ", far);
-        program.Ini.WriteKey("General", "OrmStation", "Far_1", far);
+        Write(program, "General", "Project", "/other/plant_two.KPJ", far);
+        Write(program, "General", "OrmStation", "Far_1", far);
     });
     ASSERT_THAT(Recorder.Recorded, SizeIs(1));
     EXPECT_EQ(Recorder.Recorded[0].Record, "/other/KDOrmAGA_plant_two_History.sqlite");
@@ -92,10 +99,10 @@ TEST_F(CommandRecordTest, ACopyToAnotherProjectIsEnteredThere) {
 
 TEST_F(CommandRecordTest, EnablingThatBringsARunIsAddingIt) {
     TheWorld.Files.Content[North] = "[FlowRuns]\r\nRun3=No\r\nRun33=No\r\n";
-    const auto enable = [&](Program& program) { program.Ini.WriteKey("FlowRuns", "Run3", "Yes", North); };
+    const auto enable = [&](Program& program) { Write(program, "FlowRuns", "Run3", "Yes", North); };
     Run(config::command::EnableRun, enable);
     Run(config::command::EnableRun,
-        [&](Program& program) { program.Ini.WriteKey("FlowRuns", "Run33", "Yes", North); });
+        [&](Program& program) { Write(program, "FlowRuns", "Run33", "Yes", North); });
     EXPECT_EQ(Recorder.Recorded[0].Command, "Enable run");
     EXPECT_EQ(Recorder.Recorded[1].Command, "Add run");
 }
@@ -103,7 +110,7 @@ TEST_F(CommandRecordTest, EnablingThatBringsARunIsAddingIt) {
 TEST_F(CommandRecordTest, LeavesOutWhatCannotBeRead) {
     TheWorld.Files.Content[North] = "[A]\r\nk=1\r\n";
     TheWorld.Files.Unreadable.insert(North);
-    Run("Delete", [&](Program& program) { program.Ini.DeleteConfigFile(North); });
+    Run("Delete", [&](Program& program) { EXPECT_TRUE(program.Storage.TryToDelete(North)); });
     EXPECT_THAT(Recorder.Recorded, IsEmpty());
 }
 
@@ -120,7 +127,7 @@ TEST_F(CommandRecordTest, TheStartLooksAtEveryStation) {
 TEST_F(CommandRecordTest, TroubleIsToldOnceInTheStatusBar) {
     auto& window = TheWorld.Program.Forms.Get<GFCPrincipal>();
     const auto tell = [&] {
-        Run("Configure", [&](Program& program) { program.Ini.WriteKey("A", "k", "1", North); });
+        Run("Configure", [&](Program& program) { Write(program, "A", "k", "1", North); });
         window.recordTimer.Tick();
         return window.StatusBar1.PanelText(1);
     };
