@@ -30,6 +30,8 @@ private:
     config::RunMechanical kept_;
 };
 
+constexpr const char* lost = "The changes were not saved.";
+
 bool WishesToSave(ui::Screen& screen, ui::Icon icon) {
     const auto answer = screen.Ask({.Title = "Configuration finished.",
                                     .Text = "Do you wish to save your changes ?",
@@ -126,6 +128,8 @@ void ModifyFlow::SaveMechanical() {
 }
 
 void ModifyFlow::TryAndSave() {
+    if (!FileIsStillThere(program_, lost))
+        return;
     const bool passes = TrialPasses();
     if (!program_.Screen.Ended())
         passes ? SaveIfWished() : SaveIfIgnored();
@@ -161,7 +165,6 @@ void ModifyFlow::SaveIfIgnored() {
 
 // Given up, the changes are lost and the file is as it was: whoever opened the window shows what it says.
 void ModifyFlow::Save(const config::FileIni::Changes& changes) {
-    const std::string lost = "The changes were not saved.";
     if (FileIsStillThere(program_, lost))
         (void)program_.Storage.Change({lost}, file_, changes);
 }

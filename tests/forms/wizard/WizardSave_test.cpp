@@ -140,7 +140,8 @@ TEST(WizardSave, keeps_the_pass_where_the_wait_is_given_up) {
         .Click(Form, "Command1");
     world.Play();
     EXPECT_NE(world.File().find("[Run4]"), std::string::npos);
-    EXPECT_TRUE(world.Screen.BoxesShown.empty()) << "who gave it up knows";
+    for (const auto& box : world.Screen.BoxesShown)
+        EXPECT_NE(box.TheButtons, ui::Buttons::RetryClose) << "who gave it up knows";
 }
 
 TEST(WizardSave, lets_the_program_end_while_the_old_file_stands) {
