@@ -210,7 +210,12 @@ the stand-in. Install here all the same?" IDYES +2
 FunctionEnd
 
 Function .onInit
+    ; What is chosen by default would go over the folder that /D has named.
+    StrCpy $R9 $INSTDIR
     !insertmacro MULTIUSER_INIT
+    ${If} $R9 != ""
+        StrCpy $INSTDIR $R9
+    ${EndIf}
     ${GetParameters} $0
     ClearErrors
     ${GetOptions} $0 "/STANDIN" $1
