@@ -15,8 +15,8 @@ namespace gfc::record {
 
 // Which entries a walk visits, and whether it fetches their files and changes, which take most of the time.
 struct Walk {
-    std::string_view Station; // empty for all
-    std::int64_t Number = 0;  // one entry; 0 for all
+    std::string_view Station = {}; // empty for all
+    std::int64_t Number = 0;       // one entry; 0 for all
     bool Whole = false;
 };
 
