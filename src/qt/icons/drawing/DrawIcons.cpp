@@ -44,11 +44,18 @@ bool Paint(const QString& drawing, int size, const QString& path) {
     return renderer.isValid() && image.save(path, "PNG");
 }
 
+// That there is no folder of a logged-in person says nothing of a drawing.
+void Report(QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith(QStringLiteral("QStandardPaths")))
+        std::fprintf(stderr, "draw-icons: %s\n", qPrintable(text));
+}
+
 } // namespace
 
 int main(int argc, char* argv[]) {
     // There may be no screen where this runs.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(Report);
     const QGuiApplication application(argc, argv);
     const QStringList words = QGuiApplication::arguments();
     bool isDone = false;
