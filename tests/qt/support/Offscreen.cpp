@@ -39,8 +39,14 @@ void UseOffscreenPlatform(int scale) {
         qEnvironmentVariable("QT_QPA_PLATFORM") != "offscreen")
         return;
     // Kept until the program ends: the platform reads it when the application is made.
+#ifdef _WIN32
+    // A colon ends the word that names the file, so that it is named without its drive.
+    static const QTemporaryDir folder(QDir::current().absoluteFilePath(QStringLiteral("screen-XXXXXX")));
+    const QString path = QDir::current().relativeFilePath(folder.filePath(QStringLiteral("screen.json")));
+#else
     static const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("screen.json"));
+#endif
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(ScreenOf(scale)) < 0)
         return;
