@@ -112,9 +112,9 @@ private:
 
     struct Choice {
         std::size_t Want = 0;
-        Candidate Best;
+        Candidate Best = {};
         Confidence How = Confidence::None;
-        std::string Alike; // the names of those that say the same
+        std::string Alike = {}; // the names of those that say the same
     };
 
     // What of them is to be suggested, and how surely.
