@@ -58,6 +58,8 @@ FrParMec::FrParMec(Program& program) : ProgramForm(program, "FrParMec", "Mechani
     for (auto* field :
          {&txtDiaPipe, &txtTempRefPipe, &txtPipeThermal, &txtDiaOrif, &txtTempRefOrif, &txtOrificeThermal})
         MakeNumeric(program.Screen, *field);
+    notes_.Follow(
+        {&txtDiaPipe, &txtTempRefPipe, &txtPipeThermal, &txtDiaOrif, &txtTempRefOrif, &txtOrificeThermal});
     cbMatOrif.OnClick = [this] { OrificeMaterialChosen(); };
     cbMatPipe.OnClick = [this] { PipeMaterialChosen(); };
     OptFlange.OnClick = [this] { FlangeChosen(); };
@@ -86,6 +88,7 @@ void FrParMec::Load() {
     Fill(cbMatPipe, PipeMaterials);
     ShowRecord();
     ShowUnits();
+    notes_.Refresh();
 }
 
 bool FrParMec::KeyDown(ui::Key key) {
@@ -143,10 +146,12 @@ void FrParMec::ShowMaterials() {
 
 void FrParMec::OrificeMaterialChosen() {
     AllowCoefficient(txtOrificeThermal, cbMatOrif.ListIndex() == otherOrificeMaterial);
+    notes_.Refresh();
 }
 
 void FrParMec::PipeMaterialChosen() {
     AllowCoefficient(txtPipeThermal, cbMatPipe.ListIndex() == otherPipeMaterial);
+    notes_.Refresh();
 }
 
 void FrParMec::FlangeChosen() {
@@ -165,6 +170,7 @@ void FrParMec::EnableDiameters(bool enabled) {
     for (ui::Control* control :
          std::initializer_list<ui::Control*>{&txtDiaPipe, &txtDiaOrif, &Label9, &Label14, &Label8, &Label13})
         control->SetEnabled(enabled);
+    notes_.Refresh();
 }
 
 void FrParMec::SetDefaults() {
@@ -197,6 +203,7 @@ void FrParMec::CopyEnabled() {
 void FrParMec::CopyFrom(int run) {
     CopyMechanical(session_, run);
     ShowRecord();
+    notes_.Refresh();
 }
 
 bool FrParMec::SomethingMissing() const {
@@ -221,7 +228,11 @@ void FrParMec::Accept() {
 }
 
 void FrParMec::Store() {
-    auto& record = session_.EditedMechanical;
+    session_.EditedMechanical = Entered();
+}
+
+config::RunMechanical FrParMec::Entered() const {
+    config::RunMechanical record = session_.EditedMechanical;
     for (const auto& entry : entries)
         record.*entry.Member = (this->*entry.Field).Text();
     record.OrificeMaterial = StoredMaterial(OrificeMaterials, cbMatOrif.Text());
@@ -231,6 +242,7 @@ void FrParMec::Store() {
     record.OrificeThermalExpCoeff = txtOrificeThermal.Text();
     record.PipeThermalExpCoeff = txtPipeThermal.Text();
     record.ExtMechParam = OptExt.Value() ? config::Yes : config::No;
+    return record;
 }
 
 void FrParMec::Help() {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "audit/Plausible.h"
 #include "forms/editors/EditorParts.h"
+#include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "ui/Buttons.h"
 #include "ui/DropDownList.h"
@@ -62,6 +64,8 @@ public:
     ui::CommandButton cmdAceptar{*this, "cmdAceptar", "Accept"};
     ui::CommandButton cmdCancel{*this, "cmdCancel", "Cancel"};
     ui::CommandButton cmdDefaultValue{*this, "cmdDefaultValue", "Default Value"};
+    // What is implausible in what stands in the fields.
+    ui::Label Notes{*this, "Notes"};
 
 protected:
     void Load() override;
@@ -84,8 +88,14 @@ private:
     [[nodiscard]] bool SomethingMissing() const;
     void Accept();
     void Store();
+    // The record as the fields have it.
+    [[nodiscard]] config::RunMechanical Entered() const;
     void Help();
     [[nodiscard]] bool IsSYT6143() const;
+
+    QuietNotes notes_{Notes, [this](audit::Sink& sink) {
+                          audit::CheckMechanicalValues(session_.Station, Entered(), sink);
+                      }};
 };
 
 } // namespace gfc::forms

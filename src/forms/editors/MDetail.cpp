@@ -14,6 +14,7 @@ constexpr int helpContext = 4000;
 MDetail::MDetail(Program& program) : ProgramForm(program, "MDetail", "Gas Composition") {
     for (const auto& row : ComponentRows) {
         FilterKeys(Text[row.Number]);
+        notes_.Follow({&Text[row.Number]});
         Text[row.Number].OnLostFocus = [this, &row] { CheckLeft(row); };
     }
     CopyGasCompButton.OnClick = [this] { Copy(); };
@@ -55,11 +56,20 @@ void MDetail::ShowComposition() {
         return Show(gas);
     for (const auto& row : ComponentRows)
         Text[row.Number].SetText(row.Default);
+    notes_.Refresh();
 }
 
 void MDetail::Show(const config::RunGas& gas) {
     for (const auto& row : ComponentRows)
         Text[row.Number].SetText(gas[row.Slot].Tag);
+    notes_.Refresh();
+}
+
+config::RunGas MDetail::Entered() {
+    config::RunGas gas;
+    for (const auto& row : ComponentRows)
+        gas[row.Slot].Tag = Text[row.Number].Text();
+    return gas;
 }
 
 void MDetail::Accept() {
@@ -76,6 +86,7 @@ void MDetail::Accept() {
 void MDetail::UndoAll() {
     for (const auto& row : ComponentRows)
         Text[row.Number].SetText({});
+    notes_.Refresh();
 }
 
 void MDetail::Cancel() {

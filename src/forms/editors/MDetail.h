@@ -1,8 +1,10 @@
 #pragma once
 
+#include "audit/Plausible.h"
 #include "forms/editors/Composition.h"
 #include "forms/editors/GasSources.h"
 #include "forms/editors/NumericFields.h"
+#include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "ui/Buttons.h"
 #include "ui/Frame.h"
@@ -31,12 +33,16 @@ public:
     ui::CommandButton Command1{*this, "Command1", "&Accept"};
     ui::CommandButton Command2{*this, "Command2", "&Undo All"};
     ui::CommandButton Command3{*this, "Command3", "&Cancel"};
+    // What is implausible in what stands in the fields.
+    ui::Label Notes{*this, "Notes"};
 
 protected:
     void Load() override;
     bool KeyDown(ui::Key key) override;
 
 private:
+    // As the fields have it.
+    [[nodiscard]] config::RunGas Entered();
     void CheckLeft(const ComponentRow& row);
     [[nodiscard]] CheckedFields FieldsOf(const LeavingCheck& check);
     void ShowComposition();
@@ -48,6 +54,8 @@ private:
     void Help();
 
     std::string file_; // of the current station, as at load
+    QuietNotes notes_{
+        Notes, [this](audit::Sink& sink) { audit::CheckGasValues(session_.Station, Entered(), sink); }};
 };
 
 } // namespace gfc::forms

@@ -58,6 +58,7 @@ const Property& PropertyOf(int item) {
 frSGERG88::frSGERG88(Program& program) : ProgramForm(program, "frSGERG88", "Gas Composition") {
     for (int item = 0; item < Text1.Size(); ++item) {
         FilterKeys(Text1[item]);
+        notes_.Follow({&Text1[item]});
         Text1[item].OnLostFocus = [this, item] { CheckLeft(item); };
     }
     CopyGasCompButton.OnClick = [this] { Copy(); };
@@ -107,11 +108,20 @@ void frSGERG88::ShowStored() {
     const auto& gas = session_.Station.GasComposition;
     if (!gas[Slot::VolCalorificValue].Tag.empty())
         Show(gas);
+    notes_.Refresh();
+}
+
+config::RunGas frSGERG88::Entered() {
+    config::RunGas gas;
+    for (int item = 0; item < Text1.Size(); ++item)
+        gas[PropertyOf(item).Value].Tag = Text1[item].Text();
+    return gas;
 }
 
 void frSGERG88::Show(const config::RunGas& gas) {
     for (int item = 0; item < Text1.Size(); ++item)
         Text1[item].SetText(gas[PropertyOf(item).Value].Tag);
+    notes_.Refresh();
 }
 
 void frSGERG88::Accept() {

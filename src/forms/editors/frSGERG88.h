@@ -1,6 +1,8 @@
 #pragma once
 
+#include "audit/Plausible.h"
 #include "forms/editors/GasSources.h"
+#include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "ui/Buttons.h"
 #include "ui/ControlArray.h"
@@ -39,12 +41,16 @@ public:
     ui::CommandButton Command2{*this, "Command2", "Cancel"};
     // Deliberately without any action.
     ui::CommandButton Command3{*this, "Command3", "Undo All"};
+    // What is implausible in what stands in the fields.
+    ui::Label Notes{*this, "Notes"};
 
 protected:
     void Load() override;
     bool KeyDown(ui::Key key) override;
 
 private:
+    // As the fields have it.
+    [[nodiscard]] config::RunGas Entered();
     [[nodiscard]] static std::string DesignValue(int item);
     void ShowUnits();
     void CheckLeft(int item);
@@ -56,6 +62,8 @@ private:
     void Help();
 
     std::string file_; // of the current station, as at load
+    QuietNotes notes_{
+        Notes, [this](audit::Sink& sink) { audit::CheckGasValues(session_.Station, Entered(), sink); }};
 };
 
 } // namespace gfc::forms

@@ -1,0 +1,33 @@
+#include "forms/editors/QuietNotes.h"
+
+namespace gfc::forms {
+
+namespace {
+
+// The worst one in full, since a line has room for one.
+std::string LineOf(const audit::Findings& findings) {
+    if (findings.empty())
+        return {};
+    const std::size_t more = findings.size() - 1;
+    return findings.front().Text + (more == 0 ? "" : " (And " + std::to_string(more) + " more.)");
+}
+
+} // namespace
+
+void QuietNotes::Follow(std::initializer_list<ui::TextBox*> fields) {
+    for (ui::TextBox* field : fields)
+        field->OnEdited = [this] { Refresh(); };
+}
+
+void QuietNotes::Refresh() {
+    audit::Findings findings;
+    audit::Sink sink(findings);
+    judge_(sink);
+    // The nearest published gas is worth knowing, but nothing is wrong with it.
+    std::erase_if(findings,
+                  [](const audit::Finding& finding) { return finding.Rule == audit::RuleId::GasNearest; });
+    audit::SortBySeverity(findings);
+    line_.SetCaption(LineOf(findings));
+}
+
+} // namespace gfc::forms
