@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qt/Designs.h"
+#include "ui/Exchange.h"
 #include "ui/Screen.h"
 
 #include <QObject>
@@ -21,7 +22,7 @@ class FormWindow;
 
 // The windows of the program. A modal form runs an event loop of its own inside the event that opened it, so
 // that a chain of forms reads as the flow reads.
-class QtScreen : public ui::Screen {
+class QtScreen : public ui::Screen, public ui::Exchange {
 public:
     // Opens a text file in the machine's viewer; false if there is none. Then, and without a viewer, a window
     // of the program's own shows it.
@@ -49,6 +50,8 @@ public:
     void PopUp(ui::MenuEntry& menu) override;
     void OpenHelp(const std::string& file, int context) override;
     bool ViewText(const std::string& path, ui::WindowState state) override;
+    void CopyText(const std::string& text) override;
+    std::optional<std::string> ChooseTarget(const ui::TargetChoice& choice) override;
     void DoEvents() override;
     void WaitAMoment() override;
     void Busy(const std::function<void()>& work) override;

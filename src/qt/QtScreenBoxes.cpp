@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QClipboard>
 #include <QCursor>
 #include <QDir>
 #include <QFileDialog>
@@ -115,6 +116,31 @@ std::optional<std::string> QtScreen::ChooseFile(const ui::FileChoice& choice) {
     dialog.setWindowTitle(ToQt(choice.Title));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilter(namesPattern ? name : name + " (" + ToQt(choice.Pattern) + ")");
+    if (Execute(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().first()));
+}
+
+void QtScreen::CopyText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+std::optional<std::string> QtScreen::ChooseTarget(const ui::TargetChoice& choice) {
+    if (ended_)
+        return std::nullopt;
+    QFileDialog dialog;
+    QStringList kinds;
+    for (const ui::TargetKind& kind : choice.Kinds)
+        kinds << ToQt(kind.Name + " (" + kind.Pattern + ")");
+    dialog.setWindowTitle(ToQt(choice.Title));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setNameFilters(kinds);
+    dialog.selectFile(ToQt(choice.Name));
+    // A name without an ending gets that of the kind that is chosen.
+    const auto suffix = [&](const QString& kind) { return kind.section(QStringLiteral("*."), 1).chopped(1); };
+    dialog.setDefaultSuffix(suffix(dialog.selectedNameFilter()));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&](const QString& kind) { dialog.setDefaultSuffix(suffix(kind)); });
     if (Execute(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return FromQt(QDir::toNativeSeparators(dialog.selectedFiles().first()));

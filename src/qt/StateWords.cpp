@@ -14,8 +14,9 @@ struct Told {
     const char* Words;
 };
 
-constexpr std::array<Told, 6> told{{
+constexpr std::array<Told, 7> told{{
     {"StationConfig", QT_TRANSLATE_NOOP("State", "configured")},
+    {"StationErrors", QT_TRANSLATE_NOOP("State", "configured, the last check found errors")},
     {"StationNoConfig", QT_TRANSLATE_NOOP("State", "not configured")},
     {"Run", QT_TRANSLATE_NOOP("State", "enabled")},
     {"NoRun", QT_TRANSLATE_NOOP("State", "not enabled")},

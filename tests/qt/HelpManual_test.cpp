@@ -33,6 +33,7 @@ const std::map<std::string, std::vector<int>> helpNumbers = {
     {"FrAccelabar", {7400}},
     {"MDetail", {4000}},
     {"frSGERG88", {7500}},
+    {"FrCheckStations", {8000}},
 };
 
 } // namespace

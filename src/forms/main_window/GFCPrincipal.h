@@ -12,6 +12,10 @@
 #include "ui/Tree.h"
 
 #include <array>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace gfc::forms {
 
@@ -37,6 +41,8 @@ public:
     ui::MenuEntry undo{Config, "undo", "Delete"};
     ui::MenuEntry linea5{Config, "linea5", "-"};
     ui::MenuEntry exit{Config, "exit", "Exit"};
+    ui::MenuEntry Tools{*this, "Tools", "&Tools"};
+    std::vector<std::unique_ptr<ui::MenuEntry>> ToolEntries = MakeToolEntries();
     ui::MenuEntry HelpPrincipal{*this, "HelpPrincipal", "&Help"};
 
     ui::Tree TreeGFC{*this, "TreeGFC"};
@@ -81,6 +87,12 @@ public:
     // Once the record has done what it was handed, says in the status bar if that could not be written; of
     // the same trouble once only.
     void WatchRecord();
+    // Whether the last check found errors in the station's file. The mark stays in the tree until the file is
+    // another one.
+    void MarkChecked(const std::string& station, bool hasErrors);
+    // Selects the node of the station, or of its run (1 to 5), as a click does; nothing happens where there
+    // is none.
+    void GoTo(const std::string& station, int run);
 
     // For those who fill the three lists: rows and columns away, all three hidden.
     void ClearLists();
@@ -92,6 +104,7 @@ protected:
     bool KeyDown(ui::Key key) override;
 
 private:
+    [[nodiscard]] std::vector<std::unique_ptr<ui::MenuEntry>> MakeToolEntries();
     void ConnectMenu();
     void ConnectPanes();
 
@@ -121,6 +134,7 @@ private:
     void AddStation(int root, const project::Station& station, std::size_t index);
     void AddStationChildren(int stationNode, const std::string& station, std::size_t index,
                             const RunFlags& flags);
+    [[nodiscard]] const char* ConfiguredImage(const std::string& station);
     void AddRunNode(int parent, const std::string& station, int run, bool enabled);
     void HidePanes();
     void ShowStations(const std::string& statusText);
@@ -132,6 +146,8 @@ private:
     SummaryTabs summary_{*this, program_};
     bool listShowsStations_ = false;
     std::string toldTrouble_; // of the record
+    // The files, as they are, in which the last check found errors, by station.
+    std::map<std::string, std::string> faulty_;
     int exitCode_ = 0;
 };
 

@@ -5,6 +5,7 @@
 #include "forms/program/HelpFile.h"
 #include "forms/runs/RunCommands.h"
 #include "forms/station/StationCommands.h"
+#include "forms/tools/ToolsMenu.h"
 
 #include <array>
 
@@ -49,6 +50,15 @@ constexpr std::array<CommandRow, 7> commands = {{
 // clang-format on
 
 } // namespace
+
+std::vector<std::unique_ptr<ui::MenuEntry>> GFCPrincipal::MakeToolEntries() {
+    std::vector<std::unique_ptr<ui::MenuEntry>> entries;
+    for (const Tool& tool : forms::Tools()) {
+        entries.push_back(std::make_unique<ui::MenuEntry>(Tools, tool.Name, tool.Caption));
+        entries.back()->OnClick = [this, command = tool.Command] { command(program_); };
+    }
+    return entries;
+}
 
 void GFCPrincipal::ConnectMenu() {
     Config.OnClick = [this] { ApplyMenuState(); };

@@ -1,6 +1,7 @@
 #include "config/ConfigReader.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
+#include "platform/Machine.h"
 #include "platform/ProfileKeys.h"
 
 #include <algorithm>
@@ -9,6 +10,8 @@
 namespace gfc::forms {
 
 namespace {
+
+constexpr const char* NoConfigImage = "StationNoConfig";
 
 std::string YesOrNo(bool yes) {
     return yes ? "Yes" : "No";
@@ -90,11 +93,45 @@ void GFCPrincipal::AddStation(int root, const project::Station& station, std::si
     // One reading says whether the station is configured and which of its runs are on.
     RunFlags flags;
     const bool configured = ReadRunFlags(program_.Ini, session_.Project.ConfigFileOf(station.Name), flags);
-    const int added =
-        TreeGFC.Add(root, station.Name, station.Name, configured ? "StationConfig" : "StationNoConfig");
+    const int added = TreeGFC.Add(root, station.Name, station.Name,
+                                  configured ? ConfiguredImage(station.Name) : NoConfigImage);
     TreeGFC.SetColour(added, configured ? ui::Colour::Blue : ui::Colour::Red);
     if (configured)
         AddStationChildren(added, station.Name, index, flags);
+}
+
+// A station with errors bears a mark as long as its file is the one that was checked.
+const char* GFCPrincipal::ConfiguredImage(const std::string& station) {
+    const auto checked = faulty_.find(station);
+    if (checked == faulty_.end())
+        return "StationConfig";
+    if (program_.Machine.Files.Read(session_.Project.ConfigFileOf(station)) == checked->second)
+        return "StationErrors";
+    faulty_.erase(checked);
+    return "StationConfig";
+}
+
+void GFCPrincipal::MarkChecked(const std::string& station, bool hasErrors) {
+    const int found = TreeGFC.FindPath(node::StationPath(station));
+    auto bytes = program_.Machine.Files.Read(session_.Project.ConfigFileOf(station));
+    faulty_.erase(station);
+    if (hasErrors && bytes)
+        faulty_.emplace(station, *std::move(bytes));
+    if (found > 0 && TreeGFC.At(found).Image != NoConfigImage)
+        TreeGFC.SetImage(found, hasErrors ? "StationErrors" : "StationConfig");
+}
+
+void GFCPrincipal::GoTo(const std::string& station, int run) {
+    const int stationNode = TreeGFC.FindPath(node::StationPath(station));
+    const int runNode = run > 0 ? TreeGFC.FindPath(node::RunPath(station, run)) : 0;
+    const int wanted = runNode > 0 ? runNode : stationNode;
+    if (wanted == 0)
+        return;
+    for (int parent = TreeGFC.At(wanted).Parent; parent > 0; parent = TreeGFC.At(parent).Parent)
+        TreeGFC.SetExpanded(parent, true);
+    TreeGFC.Select(wanted);
+    TreeGFC.EnsureVisible(wanted);
+    NodeClicked(wanted);
 }
 
 void GFCPrincipal::AddStationChildren(int stationNode, const std::string& station, std::size_t index,
@@ -125,7 +162,7 @@ void GFCPrincipal::FillStationTable() {
     rows.reserve(stations.size());
     for (std::size_t i = 0; i < stations.size(); ++i) {
         const auto& station = stations[i];
-        const bool configured = TreeGFC.At(nodes.at(i)).Image == "StationConfig";
+        const bool configured = TreeGFC.At(nodes.at(i)).Image != NoConfigImage;
         auto& row = rows.emplace_back();
         row.reserve(ListView1.Columns().size());
         row.push_back(std::to_string(i + 1));

@@ -3,6 +3,7 @@
 #include "qt/render/Renderers.h"
 #include "qt/render/RowsModel.h"
 #include "qt/render/ViewRenderer.h"
+#include "ui/OpenableList.h"
 
 #include <QHeaderView>
 #include <QTableView>
@@ -24,6 +25,9 @@ public:
         // The list may have been filled before its window came to be.
         SetWidths();
         control.SetRowsObserver(this);
+        if (auto* openable = dynamic_cast<ui::OpenableList*>(&control))
+            QObject::connect(&widget, &QTableView::activated, this,
+                             [openable](const QModelIndex& at) { openable->PersonOpensRow(at.row() + 1); });
     }
     ~ListViewRenderer() override { widget_.setModel(nullptr); }
 

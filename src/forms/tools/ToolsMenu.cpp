@@ -1,0 +1,17 @@
+#include "forms/tools/ToolsMenu.h"
+
+#include "forms/tools/FrCheckStations.h"
+
+#include <array>
+
+namespace gfc::forms {
+
+std::span<const Tool> Tools() {
+    static constexpr std::array tools = std::to_array<Tool>({
+        {"checkStations", "Check all stations...",
+         [](Program& program) { program.Forms.Get<FrCheckStations>().ShowModal(); }},
+    });
+    return tools;
+}
+
+} // namespace gfc::forms
