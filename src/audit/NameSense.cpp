@@ -29,7 +29,9 @@ bool Changes(Subject subject) {
 // A single letter, or the beginning of a longer word, says too little to doubt a binding for it: "T1012" may
 // as well be a tag as a temperature.
 Subjects SaidBy(const naming::TagName& name) {
-    Subjects said(name.Device.Means.begin(), name.Device.Means.end());
+    Subjects said;
+    if (!AreOfRegisters(name.Device.Letters))
+        said.insert(name.Device.Means.begin(), name.Device.Means.end());
     for (const naming::Part& part : name.Parts)
         if (part.Text.size() > 1 && !part.Cut)
             said.insert(part.Means.begin(), part.Means.end());
@@ -127,6 +129,13 @@ bool HoldsWord(std::string_view name, std::string_view word) {
 }
 
 } // namespace
+
+// The letters by which the tool itself calls its registers say nothing: "DI-12" is the twelfth digital input,
+// and no density.
+bool AreOfRegisters(std::string_view letters) {
+    static constexpr std::string_view names[] = {"AI", "AO", "DI", "DO", "FI", "FO", "LI", "LO", "PI"};
+    return std::ranges::find(names, letters) != std::end(names);
+}
 
 std::string QuantityAgainst(const Bound& bound, const naming::TagName& name) {
     if (bound.IsOutput() && SaysPV(name))

@@ -10,6 +10,9 @@
 // the empty text where the name says nothing against it: a name that says nothing never does.
 namespace gfc::audit {
 
+// The letters are those by which registers are called, and not of an instrument.
+[[nodiscard]] bool AreOfRegisters(std::string_view letters);
+
 // The letters of the instrument and the words: another quantity than the variable's.
 [[nodiscard]] std::string QuantityAgainst(const Bound& bound, const naming::TagName& name);
 

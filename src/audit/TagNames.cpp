@@ -34,9 +34,10 @@ void CheckWords(const std::vector<Named>& all, const config::StationConfig& stat
 
 // The run's own instruments: a chromatograph and what is computed from it mostly bear numbers of their own,
 // and an atmospheric pressure that of the station.
-bool IsOfRunsLoop(const Bound& bound) {
-    return bound.Row->Stage == binding::BindingStage::RunInputs ||
-           bound.Row->Stage == binding::BindingStage::RunOutputs;
+bool IsOfRunsLoop(const Bound& bound, const naming::TagName& name) {
+    const bool isOfRun = bound.Row->Stage == binding::BindingStage::RunInputs ||
+                         bound.Row->Stage == binding::BindingStage::RunOutputs;
+    return isOfRun && !name.Device.Loop.empty() && !AreOfRegisters(name.Device.Letters);
 }
 
 // The loops of the tags of each run, counted.
@@ -45,7 +46,7 @@ using Counts = std::map<std::string, int>;
 std::map<int, Counts> LoopsOf(const std::vector<Named>& all) {
     std::map<int, Counts> loops;
     for (const auto& [bound, name] : all)
-        if (IsOfRunsLoop(*bound) && !name.Device.Loop.empty())
+        if (IsOfRunsLoop(*bound, name))
             ++loops[bound->Run][name.Device.Loop];
     return loops;
 }
@@ -73,7 +74,7 @@ bool IsShared(const Bound& bound, const std::vector<Named>& all) {
 void CheckLoops(const std::vector<Named>& all, Sink& sink) {
     const auto loops = LoopsOf(all);
     for (const auto& [bound, name] : all) {
-        if (!IsOfRunsLoop(*bound) || name.Device.Loop.empty())
+        if (!IsOfRunsLoop(*bound, name))
             continue;
         const std::string main = MainLoop(loops.at(bound->Run));
         if (!main.empty() && name.Device.Loop != main && !IsShared(*bound, all))
