@@ -2,7 +2,8 @@
 
 #include "platform/Files.h"
 #include "platform/ForeignMemory.h"
-#include "project/AddOnInterface.h"
+#include "project/AddOnCall.h"
+#include "project/AddOnText.h"
 #include "services/CodePage.h"
 
 #include <algorithm>
@@ -16,38 +17,19 @@ namespace gfc::project {
 namespace {
 
 constexpr std::int32_t projectFileSize = 255;
-// What the library may write back behind a text or a request that it was given.
-constexpr std::size_t textRoom = 512;
 
-// The functions that are called, by name.
+// The functions that are called.
 struct Functions {
-    AddOnGetProjectFile GetProjectFile = nullptr;
-    AddOnGetStaList GetStaList = nullptr;
-    AddOnFreeData FreeData = nullptr;
-    AddOnReadTagList ReadTagList = nullptr;
-    AddOnFreeTagList FreeTagList = nullptr;
-    AddOnAddFileToLoad AddFileToLoad = nullptr;
-    AddOnRemoveFileToLoad RemoveFileToLoad = nullptr;
-    AddOnCoInitialize CoInitialize = nullptr;
+    const platform::DynamicLibrary& Library;
+    AddOnCall<AddOnGetProjectFile> GetProjectFile{Library, "kdaddon_VBGetProjectFile"};
+    AddOnCall<AddOnGetStaList> GetStaList{Library, "kdaddon_VBGetStaList"};
+    AddOnCall<AddOnFreeData> FreeData{Library, "kdaddon_VBFreeData"};
+    AddOnCall<AddOnReadTagList> ReadTagList{Library, "kdaddon_VBReadTagList"};
+    AddOnCall<AddOnFreeTagList> FreeTagList{Library, "kdaddon_VBFreeTagList"};
+    AddOnCall<AddOnAddFileToLoad> AddFileToLoad{Library, "kdaddon_VBAddFileToLoad"};
+    AddOnCall<AddOnRemoveFileToLoad> RemoveFileToLoad{Library, "kdaddon_VBRemoveFileToLoad"};
+    AddOnCall<AddOnCoInitialize> CoInitialize{Library, "kdaddon_VBCoInitialize"};
 };
-
-template <class Function>
-void Find(const platform::DynamicLibrary& library, const char* name, Function& function) {
-    function = reinterpret_cast<Function>(library.Symbol(name));
-}
-
-Functions FindFunctions(const platform::DynamicLibrary& library) {
-    Functions functions;
-    Find(library, "kdaddon_VBGetProjectFile", functions.GetProjectFile);
-    Find(library, "kdaddon_VBGetStaList", functions.GetStaList);
-    Find(library, "kdaddon_VBFreeData", functions.FreeData);
-    Find(library, "kdaddon_VBReadTagList", functions.ReadTagList);
-    Find(library, "kdaddon_VBFreeTagList", functions.FreeTagList);
-    Find(library, "kdaddon_VBAddFileToLoad", functions.AddFileToLoad);
-    Find(library, "kdaddon_VBRemoveFileToLoad", functions.RemoveFileToLoad);
-    Find(library, "kdaddon_VBCoInitialize", functions.CoInitialize);
-    return functions;
-}
 
 // A field up to its first NUL, or the whole field.
 std::string_view BytesOf(const char* field, std::size_t width) {
@@ -74,29 +56,10 @@ bool PutText(const std::string& text, char (&field)[Width]) {
     return true;
 }
 
-// A text handed over by reference, with room for what comes back.
-class InOutText {
-public:
-    explicit InOutText(const std::string& text) {
-        const auto bytes = services::ToCodePage(text);
-        holds_ = bytes.has_value();
-        buffer_.assign(textRoom + (holds_ ? bytes->size() : 0), '\0');
-        if (holds_)
-            std::copy(bytes->begin(), bytes->end(), buffer_.begin());
-    }
-    // False if the code page lacks a character of the text.
-    [[nodiscard]] bool Holds() const { return holds_; }
-    [[nodiscard]] char* Data() { return buffer_.data(); }
-
-private:
-    std::vector<char> buffer_;
-    bool holds_ = false;
-};
-
-// A request that is handed over likewise.
+// A request that is handed over with room behind it, as texts are.
 struct RequestWithRoom {
     TagRequest Request{};
-    std::array<char, textRoom> Room{};
+    std::array<char, AddOnTextRoom> Room{};
 };
 
 template <class Record>
@@ -163,14 +126,14 @@ private:
 
 class AddOnGate : public AddOnLibrary {
 public:
-    explicit AddOnGate(std::unique_ptr<platform::DynamicLibrary> library)
-        : library_(std::move(library)), call_(FindFunctions(*library_)) {}
+    AddOnGate(std::unique_ptr<platform::DynamicLibrary> library, std::string path)
+        : library_(std::move(library)), path_(std::move(path)), call_{*library_} {}
 
     std::string GetProjectFile() override {
-        std::array<char, projectFileSize + textRoom> buffer{};
+        std::array<char, projectFileSize + AddOnTextRoom> buffer{};
         // Whether a project is open is told by the buffer, not by the result.
-        (void)call_.GetProjectFile(buffer.data(), projectFileSize);
-        return TextOf(buffer.data(), projectFileSize);
+        (void)call_.GetProjectFile(fault_, buffer.data(), projectFileSize);
+        return fault_.Text.empty() ? TextOf(buffer.data(), projectFileSize) : std::string();
     }
 
     std::optional<std::vector<Station>> GetStations() override;
@@ -180,26 +143,31 @@ public:
                        const std::string& target) override;
     int RemoveFileToLoad(const std::string& station, const std::string& local,
                          const std::string& target) override;
-    void CoInitialize() override { call_.CoInitialize(); }
+    void CoInitialize() override { call_.CoInitialize(fault_); }
+    std::string Fault() const override {
+        return fault_.Text.empty() ? std::string() : path_ + ": " + fault_.Text;
+    }
 
 private:
     std::unique_ptr<platform::DynamicLibrary> library_;
+    std::string path_;
     Functions call_;
+    AddOnFault fault_;
 };
 
 std::optional<std::vector<Station>> AddOnGate::GetStations() {
     std::int32_t count = 0;
     void* array = nullptr;
     // The library wants 1 and an empty text here.
-    InOutText text{std::string()};
-    if (call_.GetStaList(&count, &array, 1, text.Data()) == 0)
+    InOutText text{{}};
+    if (call_.GetStaList(fault_, &count, &array, 1, text.Pointer()) == 0)
         return std::nullopt;
     std::vector<Station> stations;
     if (!HoldsRecords<StationRecord>(array, count))
         return stations;
     for (std::int32_t i = 0; i < count; ++i)
         stations.push_back(StationOf(RecordAt<StationRecord>(array, i)));
-    call_.FreeData(array);
+    call_.FreeData(fault_, array);
     return stations;
 }
 
@@ -211,7 +179,7 @@ TagList AddOnGate::ReadTags(const std::string& station, const std::string& proje
     if (!PutText(station, request.Station) || !PutText(projectFile, request.ProjectFile))
         return {};
     void* array = nullptr;
-    const std::int32_t count = call_.ReadTagList(&request, &array);
+    const std::int32_t count = call_.ReadTagList(fault_, &request, &array);
     // An empty list is deliberately not given back to the library.
     if (count <= 0)
         return {};
@@ -224,7 +192,7 @@ TagList AddOnGate::ReadTags(const std::string& station, const std::string& proje
         if (onTag)
             onTag(tags.back().TagName);
     }
-    call_.FreeTagList();
+    call_.FreeTagList(fault_);
     return tags;
 }
 
@@ -233,9 +201,9 @@ void AddOnGate::AddFileToLoad(const std::string& station, const std::string& loc
     InOutText name(station);
     InOutText from(local);
     InOutText to(target);
-    InOutText text{std::string()};
+    InOutText text{{}};
     if (name.Holds() && from.Holds() && to.Holds())
-        (void)call_.AddFileToLoad(name.Data(), from.Data(), to.Data(), -1, text.Data());
+        (void)call_.AddFileToLoad(fault_, name.Pointer(), from.Pointer(), to.Pointer(), -1, text.Pointer());
 }
 
 int AddOnGate::RemoveFileToLoad(const std::string& station, const std::string& local,
@@ -243,10 +211,10 @@ int AddOnGate::RemoveFileToLoad(const std::string& station, const std::string& l
     InOutText name(station);
     InOutText from(local);
     InOutText to(target);
-    InOutText text{std::string()};
+    InOutText text{{}};
     if (!name.Holds() || !from.Holds() || !to.Holds())
         return 0;
-    return call_.RemoveFileToLoad(name.Data(), from.Data(), to.Data(), text.Data());
+    return call_.RemoveFileToLoad(fault_, name.Pointer(), from.Pointer(), to.Pointer(), text.Pointer());
 }
 
 } // namespace
@@ -273,11 +241,11 @@ std::unique_ptr<AddOnLibrary> LoadAddOnLibrary(const LibraryLoader& load, const 
         return nullptr;
     for (const auto& function : AddOnFunctions)
         // What is never called may be missing: it would keep nobody from working.
-        if (function.Called && loaded.Library->Symbol(std::string(function.Name).c_str()) == nullptr) {
+        if (function.Called && FindExport(*loaded.Library, function) == nullptr) {
             error = path + ": the function " + std::string(function.Name) + " is missing";
             return nullptr;
         }
-    return std::make_unique<AddOnGate>(std::move(loaded.Library));
+    return std::make_unique<AddOnGate>(std::move(loaded.Library), path);
 }
 
 } // namespace gfc::project

@@ -8,8 +8,10 @@
 #include <cstdint>
 #include <string_view>
 
-// 32-bit Windows alone has more than one convention, and there the library uses this one.
-#if defined(_WIN32) && !defined(_WIN64)
+// 32-bit Windows alone has more than one convention, and there the library uses this one. A library of the
+// tests may have been given another one.
+#if defined(GFC_ADDON_CALL)
+#elif defined(_WIN32) && !defined(_WIN64)
 #define GFC_ADDON_CALL __stdcall
 #else
 #define GFC_ADDON_CALL
@@ -47,22 +49,23 @@ using AddOnCoUninitialize = void(GFC_ADDON_CALL*)();
 
 struct AddOnFunction {
     std::string_view Name;
-    bool Called; ///< false: the library has it, and nothing here ever calls it
+    bool Called;    ///< false: the library has it, and nothing here ever calls it
+    int StackBytes; ///< of its arguments where addresses have 32 bits; -1 where they are not known
 };
 
 // clang-format off
 inline constexpr std::array<AddOnFunction, 11> AddOnFunctions = {{
-    {"kdaddon_VBGetProjectFile",     true},
-    {"kdaddon_VBGetStaList",         true},
-    {"kdaddon_VBFreeData",           true},
-    {"kdaddon_VBReadTagList",        true},
-    {"kdaddon_VBFreeTagList",        true},
-    {"kdaddon_VBAddFileToLoad",      true},
-    {"kdaddon_VBRemoveFileToLoad",   true},
-    {"kdaddon_VBCoInitialize",       true},
-    {"kdaddon_VBCoUninitialize",     false},
-    {"kdaddon_VBGetFilesToLoadList", false},
-    {"kdaddon_VBSetStaParam",        false},
+    {"kdaddon_VBGetProjectFile",      true,    8},
+    {"kdaddon_VBGetStaList",          true,   16},
+    {"kdaddon_VBFreeData",            true,    4},
+    {"kdaddon_VBReadTagList",         true,    8},
+    {"kdaddon_VBFreeTagList",         true,    0},
+    {"kdaddon_VBAddFileToLoad",       true,   20},
+    {"kdaddon_VBRemoveFileToLoad",    true,   16},
+    {"kdaddon_VBCoInitialize",        true,    0},
+    {"kdaddon_VBCoUninitialize",      false,   0},
+    {"kdaddon_VBGetFilesToLoadList",  false,  -1},
+    {"kdaddon_VBSetStaParam",         false,  -1},
 }};
 // clang-format on
 

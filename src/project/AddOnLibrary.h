@@ -35,6 +35,9 @@ public:
     virtual int RemoveFileToLoad(const std::string& station, const std::string& local,
                                  const std::string& target) = 0;
     virtual void CoInitialize() = 0;
+    // What is wrong with the library, naming its file; empty while nothing is. Once it is not, no call
+    // reaches the library, and each gives nothing.
+    [[nodiscard]] virtual std::string Fault() const { return {}; }
 };
 
 } // namespace gfc::project

@@ -1,8 +1,6 @@
-#ifndef _WIN32
 // The whole program on real libraries that answer what no library should.
 #include "app/Application.h"
-#include "support/TempFolder.h"
-#include "support/TestFolders.h"
+#include "support/HostileWays.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -13,44 +11,12 @@ namespace gfc::test {
 
 namespace {
 
-struct HostileRow {
-    const char* Name;
-    std::size_t Stations; // so many must be believed
-    std::size_t Tags;
-    int TagsGivenBack; // calls; an empty list is not given back, one that cannot be read is
-};
-
-// In the order of the library's own ways.
-// clang-format off
-const HostileRow ways[] = {
-    {"null_arrays",         0, 0, 1},
-    {"negative_counts",     0, 0, 0},
-    {"largest_counts",      0, 0, 1},
-    {"one_record_too_many", 0, 0, 1},
-    {"wild_pointers",       0, 0, 1},
-    {"no_access",           0, 0, 1},
-    {"unterminated",        3, 3, 1},
-    {"misaligned",          3, 3, 1},
-    {"nothing_written",     0, 0, 1},
-    {"writes_back",         3, 3, 1},
-};
-// clang-format on
-
-// A folder with the library in it under the name by which it is looked for.
 class HostileLibrary : public testing::TestWithParam<std::size_t> {
 protected:
-    HostileLibrary() {
-        std::filesystem::copy_file(BinFolder() / "hostile_library.so", Folder.Path(project::AddOnFileName()));
-    }
-
     platform::LibraryLoad Load(const std::string& path) const {
-        auto loaded = platform::LoadLibraryAt(path);
+        auto loaded = HostileFolder::Load(path, GetParam(), Delay);
         EXPECT_EQ(loaded.Error, "");
-        if (auto* const setWay = loaded.Library->FunctionOf<void(int)>("hostile_way"))
-            setWay(static_cast<int>(GetParam()));
-        if (auto* const setDelay = loaded.Library->FunctionOf<void(void (*)())>("hostile_delay"))
-            setDelay(Delay);
-        CallsOf = loaded.Library->FunctionOf<int(const char*)>("hostile_calls");
+        CallsOf = HostileFolder::CallsOf(loaded);
         return loaded;
     }
     void ExpectCalls(const std::string& function, int calls) const {
@@ -58,9 +24,9 @@ protected:
     }
     // What goes on while the library takes its time over an answer.
     static void Delay() { meanwhile(); }
-    [[nodiscard]] static const HostileRow& Row() { return ways[GetParam()]; }
+    [[nodiscard]] static const HostileWay& Row() { return HostileWays[GetParam()]; }
 
-    TempFolder Folder;
+    HostileFolder Folder;
     // How often a function of the library was called; the library stays when all that knows it has gone.
     mutable int (*CallsOf)(const char*) = nullptr;
     static inline std::function<void()> meanwhile;
@@ -70,34 +36,6 @@ private:
         meanwhile = [] {};
     }
 };
-
-TEST_P(HostileLibrary, gives_what_can_be_read_and_no_more) {
-    std::string error;
-    auto library = project::LoadAddOnLibrary([this](const std::string& path) { return Load(path); },
-                                             Folder.Path(), error);
-    ASSERT_NE(library, nullptr) << error;
-    EXPECT_EQ(library->GetProjectFile().size(), 255U);
-    const auto stations = library->GetStations();
-    ASSERT_TRUE(stations.has_value());
-    EXPECT_EQ(stations->size(), Row().Stations);
-    std::size_t told = 0;
-    const auto tags = library->ReadTags("North", "/jobs/plant.KPJ", [&told](std::string_view) { ++told; });
-    EXPECT_EQ(tags.size(), Row().Tags);
-    EXPECT_EQ(told, Row().Tags);
-    for (const auto& tag : tags)
-        EXPECT_EQ(tag.TagName, std::string(40, 'x')) << "cut at the width of its field";
-    library->AddFileToLoad("North", "/jobs/a.ini", "/etc/stacfg/kdormaga.ini");
-    EXPECT_EQ(library->RemoveFileToLoad("North", "/jobs/a.ini", "/etc/stacfg/kdormaga.ini"), -1);
-    library->CoInitialize();
-    library.reset();
-    for (const char* once :
-         {"GetProjectFile", "GetStaList", "ReadTagList", "AddFileToLoad", "RemoveFileToLoad", "CoInitialize"})
-        ExpectCalls(once, 1);
-    ExpectCalls("FreeData", Row().Stations > 0 ? 1 : 0);
-    ExpectCalls("FreeTagList", Row().TagsGivenBack);
-    for (const char* never : {"CoUninitialize", "GetFilesToLoadList", "SetStaParam"})
-        ExpectCalls(never, 0);
-}
 
 // The window that comes up, or the word that there are no stations.
 TEST_P(HostileLibrary, leaves_the_program_alive) {
@@ -141,10 +79,9 @@ TEST_P(HostileLibrary, leaves_the_program_alive) {
     ExpectCalls("CoUninitialize", 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, HostileLibrary, testing::Range(std::size_t{0}, std::size(ways)),
-                         [](const auto& played) { return ways[played.param].Name; });
+INSTANTIATE_TEST_SUITE_P(Ways, HostileLibrary, testing::Range(std::size_t{0}, std::size(HostileWays)),
+                         [](const auto& played) { return HostileWays[played.param].Name; });
 
 } // namespace
 
 } // namespace gfc::test
-#endif

@@ -8,7 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
+#include <iterator>
 #include <shellapi.h>
 
 namespace {
@@ -85,6 +88,53 @@ TEST(DynamicLibrary, names_file_and_reason_of_a_failure) {
         EXPECT_FALSE(load.Library);
         EXPECT_NE(load.Error.find(path), std::string::npos) << load.Error;
     }
+}
+
+// The test's own library, said to be made for that machine in its header.
+std::string LibraryFor(const TempFolder& folder, const std::string& machine) {
+    std::ifstream file(MakePaths()->ExecutableFolder() + "\\" PLATFORM_TEST_LIBRARY, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    std::uint32_t header = 0;
+    std::memcpy(&header, bytes.data() + 60, sizeof header);
+    bytes.replace(header + 4, machine.size(), machine);
+    return folder.Put("made.dll", bytes);
+}
+
+TEST(DynamicLibrary, says_what_to_do_about_a_library_for_another_machine) {
+#ifdef _WIN64
+    const std::string own = "64-bit";
+    const std::string machines[][2] = {{"\x4C\x01", "32-bit"}, {"\x64\xAA", "64-bit ARM"}, {"??", "foreign"}};
+#else
+    const std::string own = "32-bit";
+    const std::string machines[][2] = {{"\x64\x86", "64-bit"}, {"\x64\xAA", "64-bit ARM"}, {"??", "foreign"}};
+#endif
+    for (const auto& [code, name] : machines) {
+        const TempFolder folder;
+        const std::string path = LibraryFor(folder, code);
+        EXPECT_EQ(LoadLibraryAt(path).Error,
+                  "\"" + path + "\" cannot be loaded: it is a " + name + " library, and this is the " + own +
+                      " form of the program. Put the " + name + " form of the program beside it, or the " +
+                      own + " library in its place.");
+    }
+}
+
+TEST(DynamicLibrary, says_what_is_no_library) {
+    const TempFolder folder;
+    for (const std::string& bytes : {std::string("no library"), std::string(), "MZ" + std::string(8000, 'x'),
+                                     "MZ" + std::string(58, '\0') + "\xFF\xFF\xFF\xFF"}) {
+        const std::string path = folder.Put("broken.dll", bytes);
+        EXPECT_EQ(
+            LoadLibraryAt(path).Error,
+            "\"" + path +
+                "\" cannot be loaded: it is no library of Windows, or a damaged one. Install it again.");
+    }
+}
+
+TEST(ErrorText, names_what_it_speaks_of) {
+    EXPECT_EQ(windows::ErrorText(ERROR_BAD_EXE_FORMAT, "a.dll").find("%1"), std::string::npos);
+    EXPECT_NE(windows::ErrorText(ERROR_BAD_EXE_FORMAT, "a.dll").find("a.dll"), std::string::npos);
+    EXPECT_EQ(windows::ErrorText(ERROR_BAD_EXE_FORMAT).find("%1"), std::string::npos);
+    EXPECT_EQ(windows::ErrorText(0xDEAD0001), "error 3735879681");
 }
 
 TEST(DynamicLibrary, is_never_searched_for) {

@@ -128,7 +128,8 @@ class FakeDynamicLibrary : public platform::DynamicLibrary {
 public:
     explicit FakeDynamicLibrary(std::string missing) : missing_(std::move(missing)) {}
     void* Symbol(const char* name) const override {
-        return name == missing_ ? nullptr : FakeFunctions().at(name);
+        const auto found = FakeFunctions().find(name);
+        return name == missing_ || found == FakeFunctions().end() ? nullptr : found->second;
     }
 
 private:

@@ -5,9 +5,14 @@
 #include <cstring>
 #include <map>
 #include <string>
+#include <vector>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <sys/mman.h>
 #include <unistd.h>
-#include <vector>
+#endif
 
 using gfc::project::StationRecord;
 using gfc::project::TagRecord;
@@ -27,6 +32,7 @@ enum class Way {
     Misaligned,
     NothingWritten, // success, and the caller's own variables left as they were
     WritesBack,     // all over the texts that it was handed
+    UpsetsFloats,   // leaves the processor calculating otherwise
 };
 
 constexpr std::int32_t Records = 3;
@@ -38,18 +44,48 @@ std::map<std::string, int>& Calls() {
     return calls;
 }
 
+// The least precision and every trap on, and a division by zero that nobody has noticed yet.
+void UpsetFloats() {
+#if defined(__i386__) || defined(__x86_64__)
+    if (theWay != Way::UpsetsFloats)
+        return;
+    const unsigned short control = 0x0040;
+    const unsigned mxcsr = 0x6000; // rounds towards zero, all traps on
+    __asm__ volatile("fldz\n\tfld1\n\tfdiv %%st(1), %%st\n\t"
+                     "fldcw %0\n\tldmxcsr %1"
+                     :
+                     : "m"(control), "m"(mxcsr));
+#endif
+}
+
 // At the start of each function.
 void Enter(const char* function) {
     ++Calls()[function];
     theDelay();
+    UpsetFloats();
+}
+
+// A page that may be written, and behind it one that nobody may touch.
+char* PageAtTheEdge(std::size_t& page) {
+#ifdef _WIN32
+    SYSTEM_INFO system{};
+    ::GetSystemInfo(&system);
+    page = system.dwPageSize;
+    void* const pages = ::VirtualAlloc(nullptr, 2 * page, MEM_RESERVE, PAGE_NOACCESS);
+    return static_cast<char*>(::VirtualAlloc(pages, page, MEM_COMMIT, PAGE_READWRITE));
+#else
+    page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    auto* const pages = static_cast<char*>(
+        ::mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ::mprotect(pages + page, page, PROT_NONE);
+    return pages;
+#endif
 }
 
 // So many bytes that the first one behind them belongs to nobody.
 char* UpToTheEdge(std::size_t size) {
-    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
-    auto* const pages = static_cast<char*>(
-        ::mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
-    ::mprotect(pages + page, page, PROT_NONE);
+    std::size_t page = 0;
+    char* const pages = PageAtTheEdge(page);
     return pages + page - size;
 }
 
@@ -98,7 +134,7 @@ int hostile_calls(const char* function) {
     return Calls()[function];
 }
 
-std::int32_t kdaddon_VBGetProjectFile(char* buffer, std::int32_t size) {
+std::int32_t GFC_ADDON_CALL kdaddon_VBGetProjectFile(char* buffer, std::int32_t size) {
     Enter(__func__);
     Overwrite(buffer);
     std::memset(buffer, 'p', static_cast<std::size_t>(size));
@@ -106,7 +142,8 @@ std::int32_t kdaddon_VBGetProjectFile(char* buffer, std::int32_t size) {
     return 1;
 }
 
-std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int32_t, char* text) {
+std::int16_t GFC_ADDON_CALL kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int32_t,
+                                                 char* text) {
     Enter(__func__);
     Overwrite(text);
     if (theWay == Way::NothingWritten)
@@ -116,12 +153,12 @@ std::int16_t kdaddon_VBGetStaList(std::int32_t* count, void** stations, std::int
     return 1;
 }
 
-void kdaddon_VBFreeData(void* stations) {
+void GFC_ADDON_CALL kdaddon_VBFreeData(void* stations) {
     Enter(__func__);
     Overwrite(stations); // it is the library's own again
 }
 
-std::int32_t kdaddon_VBReadTagList(TagRequest* request, void** tags) {
+std::int32_t GFC_ADDON_CALL kdaddon_VBReadTagList(TagRequest* request, void** tags) {
     Enter(__func__);
     Overwrite(request + 1);
     std::memset(request, 'r', sizeof *request);
@@ -130,38 +167,39 @@ std::int32_t kdaddon_VBReadTagList(TagRequest* request, void** tags) {
     return Count();
 }
 
-void kdaddon_VBFreeTagList() {
+void GFC_ADDON_CALL kdaddon_VBFreeTagList() {
     Enter(__func__);
 }
 
-std::int32_t kdaddon_VBAddFileToLoad(char* station, char* local, char* target, std::int32_t, char* text) {
-    Enter(__func__);
-    for (char* given : {station, local, target, text})
-        Overwrite(given);
-    return -1;
-}
-
-std::int16_t kdaddon_VBRemoveFileToLoad(char* station, char* local, char* target, char* text) {
+std::int32_t GFC_ADDON_CALL kdaddon_VBAddFileToLoad(char* station, char* local, char* target, std::int32_t,
+                                                    char* text) {
     Enter(__func__);
     for (char* given : {station, local, target, text})
         Overwrite(given);
     return -1;
 }
 
-void kdaddon_VBCoInitialize() {
+std::int16_t GFC_ADDON_CALL kdaddon_VBRemoveFileToLoad(char* station, char* local, char* target, char* text) {
+    Enter(__func__);
+    for (char* given : {station, local, target, text})
+        Overwrite(given);
+    return -1;
+}
+
+void GFC_ADDON_CALL kdaddon_VBCoInitialize() {
     Enter(__func__);
 }
 
 // What is in the library and no business of the program's.
-void kdaddon_VBCoUninitialize() {
+void GFC_ADDON_CALL kdaddon_VBCoUninitialize() {
     Enter(__func__);
 }
 
-void kdaddon_VBGetFilesToLoadList() {
+void GFC_ADDON_CALL kdaddon_VBGetFilesToLoadList() {
     Enter(__func__);
 }
 
-void kdaddon_VBSetStaParam() {
+void GFC_ADDON_CALL kdaddon_VBSetStaParam() {
     Enter(__func__);
 }
 

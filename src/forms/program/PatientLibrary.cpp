@@ -1,12 +1,26 @@
 #include "forms/program/PatientLibrary.h"
 
+#include <cstdlib>
+
 namespace gfc::forms {
 
 template <class Call>
 auto PatientLibrary::Waiting(Call call) {
     decltype(call()) result{};
-    screen_.Busy([&] { result = call(); });
+    Wait([&] { result = call(); });
     return result;
+}
+
+void PatientLibrary::Wait(const std::function<void()>& call) {
+    screen_.Busy(call);
+    if (library_.Fault().empty() || screen_.Ended())
+        return;
+    screen_.Ask(
+        {.Title = "Gas Flow Computer",
+         .Text = "The library of the I/O Workshop cannot be used.\r\n\r\n" + library_.Fault() +
+                 "\r\n\r\nThe program ends here. Put the library of your I/O Workshop back in its place.",
+         .TheIcon = ui::Icon::Critical});
+    screen_.EndProgram(EXIT_FAILURE);
 }
 
 std::string PatientLibrary::GetProjectFile() {
@@ -24,7 +38,7 @@ project::TagList PatientLibrary::ReadTags(const std::string& station, const std:
 
 void PatientLibrary::AddFileToLoad(const std::string& station, const std::string& local,
                                    const std::string& target) {
-    screen_.Busy([&] { library_.AddFileToLoad(station, local, target); });
+    Wait([&] { library_.AddFileToLoad(station, local, target); });
 }
 
 int PatientLibrary::RemoveFileToLoad(const std::string& station, const std::string& local,
@@ -33,7 +47,7 @@ int PatientLibrary::RemoveFileToLoad(const std::string& station, const std::stri
 }
 
 void PatientLibrary::CoInitialize() {
-    screen_.Busy([this] { library_.CoInitialize(); });
+    Wait([this] { library_.CoInitialize(); });
 }
 
 } // namespace gfc::forms

@@ -20,11 +20,13 @@ public:
     int RemoveFileToLoad(const std::string& station, const std::string& local,
                          const std::string& target) override;
     void CoInitialize() override;
+    [[nodiscard]] std::string Fault() const override { return library_.Fault(); }
 
 private:
-    // What the call gives.
+    // What the call gives. A library that has shown itself to be no good ends the program in words.
     template <class Call>
     auto Waiting(Call call);
+    void Wait(const std::function<void()>& call);
 
     project::AddOnLibrary& library_;
     ui::Screen& screen_;

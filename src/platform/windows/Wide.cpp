@@ -20,13 +20,15 @@ std::string Utf8(std::wstring_view wide) {
     return utf8;
 }
 
-std::string ErrorText(DWORD code) {
+std::string ErrorText(DWORD code, std::string_view about) {
     std::wstring text(512, L'\0');
     const DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
                                           code, 0, text.data(), static_cast<DWORD>(text.size()), nullptr);
     text.resize(length);
     while (!text.empty() && (text.back() == L'\r' || text.back() == L'\n' || text.back() == L' '))
         text.pop_back();
+    if (const auto place = text.find(L"%1"); place != std::wstring::npos)
+        text.replace(place, 2, Wide(about.empty() ? "the file" : about));
     return text.empty() ? "error " + std::to_string(code) : Utf8(text);
 }
 

@@ -17,8 +17,9 @@ namespace gfc::platform::windows {
 [[nodiscard]] std::wstring Wide(std::string_view utf8);
 [[nodiscard]] std::string Utf8(std::wstring_view wide);
 
-// The system's words for an error code, without a line break.
-[[nodiscard]] std::string ErrorText(DWORD code);
+// The system's words for an error code, without a line break; about is what it speaks of, a file mostly,
+// which some of its texts leave a place for.
+[[nodiscard]] std::string ErrorText(DWORD code, std::string_view about = {});
 
 // A handle that is closed with its owner.
 class Handle {

@@ -1,5 +1,5 @@
 #include "platform/DynamicLibrary.h"
-#include "platform/windows/Wide.h"
+#include "platform/windows/LibraryFile.h"
 
 namespace gfc::platform {
 namespace {
@@ -31,7 +31,8 @@ LibraryLoad LoadLibraryAt(const std::string& fullPath) {
     const HMODULE module =
         ::LoadLibraryExW(windows::Wide(fullPath).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (!module)
-        return {nullptr, "\"" + fullPath + "\" cannot be loaded: " + windows::ErrorText(::GetLastError())};
+        return {nullptr, "\"" + fullPath + "\" cannot be loaded: " +
+                             windows::ReasonAgainstLibrary(fullPath, ::GetLastError())};
     return {std::make_unique<WindowsDynamicLibrary>(module), {}};
 }
 

@@ -42,7 +42,33 @@ private:
     const HeadlessScreen& screen_;
 };
 
+class FaultyLibrary : public FakeLibrary {
+public:
+    std::string Reason;
+    [[nodiscard]] std::string Fault() const override { return Reason; }
+};
+
 } // namespace
+
+TEST(PatientLibrary, ends_the_program_in_one_message_where_the_library_is_no_good) {
+    HeadlessScreen screen;
+    FaultyLibrary faulty;
+    forms::PatientLibrary library(faulty, screen);
+    library.CoInitialize();
+    EXPECT_FALSE(screen.Ended());
+    faulty.Reason = "lib: it is made for another calling convention.";
+    screen.TheStory.Box("Gas Flow Computer",
+                        "The library of the I/O Workshop cannot be used.\r\n\r\n"
+                        "lib: it is made for another calling convention.\r\n\r\n"
+                        "The program ends here. Put the library of your I/O Workshop back in its place.",
+                        ui::Icon::Critical);
+    (void)library.GetStations();
+    EXPECT_TRUE(screen.Ended());
+    EXPECT_EQ(screen.ExitCode, EXIT_FAILURE);
+    library.AddFileToLoad("North", "/jobs/a.ini", "/etc/a.ini");
+    library.CoInitialize();
+    EXPECT_EQ(screen.BoxesShown.size(), 1U);
+}
 
 TEST(PatientLibrary, shows_that_it_waits_for_each_call_and_hands_its_answer_on) {
     HeadlessScreen screen;
