@@ -29,8 +29,10 @@ int main(int argc, char* argv[]) {
     SetUp(application);
     gfc::platform::RealMachine machine;
     const gfc::platform::Machine seams = machine.Seams();
-    gfc::qt::QtScreen screen([&seams](const std::string& path, gfc::ui::WindowState) {
-        return seams.Launcher.OpenTextFile(path);
+    gfc::qt::QtScreen screen([&seams](const std::string& path, gfc::ui::WindowState state) {
+        using gfc::platform::ViewerWindow;
+        return seams.Launcher.OpenTextFile(
+            path, state == gfc::ui::WindowState::Maximised ? ViewerWindow::Maximised : ViewerWindow::Normal);
     });
     screen.WatchViewer([&seams] { return seams.Launcher.ViewerFailed(); });
     gfc::record::ProjectRecorder entries(seams.Clock, seams.TimeZone, seams.Paths.UserName());

@@ -16,11 +16,13 @@ namespace gfc::platform {
 class SingleInstance {
 public:
     virtual ~SingleInstance() = default;
-    // True if no other running process of this user holds the name; it is then held until this object goes or
-    // the process ends, however it ends. Where the machine gives no means to tell, true: the program is not
-    // kept from running.
+    // True if no other running process holds the name; it is then held until this object goes or the process
+    // ends, however it ends. On Windows the processes of all users of the machine count, elsewhere those of
+    // this user. Where the machine gives no means to tell, true: the program is not kept from running.
     [[nodiscard]] virtual bool Acquire(std::string_view name) = 0;
 };
+
+enum class ViewerWindow { Normal, Maximised };
 
 class Launcher {
 public:
@@ -29,8 +31,8 @@ public:
     // and without a shell; does not wait for it. False if it could not be started.
     [[nodiscard]] virtual bool Start(const std::string& program,
                                      const std::vector<std::string>& arguments) = 0;
-    // Shows a text file in the viewer of the machine.
-    [[nodiscard]] virtual bool OpenTextFile(const std::string& path) = 0;
+    // Shows a text file in the viewer of the machine, in a window as asked where the machine lets one ask.
+    [[nodiscard]] virtual bool OpenTextFile(const std::string& path, ViewerWindow window) = 0;
     // True, once, if the viewer that was started last has ended by now, and badly: it has shown nothing.
     // False too where the machine does not tell.
     [[nodiscard]] virtual bool ViewerFailed() { return false; }

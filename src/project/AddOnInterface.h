@@ -19,6 +19,10 @@
 
 namespace gfc::project {
 
+/// Stands in memory that may be written to, with room behind it; in which form texts cross is said here and
+/// in InOutText alone.
+using AddOnText = char*;
+
 extern "C" {
 
 /// Non-zero on success; `buffer` of `size` bytes then holds the path of the open project, NUL padded.
@@ -26,9 +30,9 @@ extern "C" {
 using AddOnGetProjectFile = std::int32_t(GFC_ADDON_CALL*)(char* buffer, std::int32_t size);
 
 /// 0 on failure. `stations` points to `count` StationRecord that stay valid until AddOnFreeData.
-/// `one` is 1 and `text` is empty. Every text stands in memory that may be written to, with room behind it.
+/// `one` is 1 and `text` is empty.
 using AddOnGetStaList = std::int16_t(GFC_ADDON_CALL*)(std::int32_t* count, void** stations, std::int32_t one,
-                                                      char* text);
+                                                      AddOnText text);
 using AddOnFreeData = void(GFC_ADDON_CALL*)(void* stations);
 
 /// Number of tags, 0 or less when there are none. `tags` points to TagRecord that stay valid until
@@ -37,10 +41,10 @@ using AddOnReadTagList = std::int32_t(GFC_ADDON_CALL*)(TagRequest* request, void
 using AddOnFreeTagList = void(GFC_ADDON_CALL*)();
 
 /// `local` is a path of this machine, `target` one of the station, `flag` is -1, `text` is empty.
-using AddOnAddFileToLoad = std::int32_t(GFC_ADDON_CALL*)(char* station, char* local, char* target,
-                                                         std::int32_t flag, char* text);
-using AddOnRemoveFileToLoad = std::int16_t(GFC_ADDON_CALL*)(char* station, char* local, char* target,
-                                                            char* text);
+using AddOnAddFileToLoad = std::int32_t(GFC_ADDON_CALL*)(AddOnText station, AddOnText local, AddOnText target,
+                                                         std::int32_t flag, AddOnText text);
+using AddOnRemoveFileToLoad = std::int16_t(GFC_ADDON_CALL*)(AddOnText station, AddOnText local,
+                                                            AddOnText target, AddOnText text);
 
 using AddOnCoInitialize = void(GFC_ADDON_CALL*)();
 using AddOnCoUninitialize = void(GFC_ADDON_CALL*)();

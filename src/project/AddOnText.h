@@ -1,5 +1,7 @@
 #pragma once
 
+#include "project/AddOnInterface.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -22,7 +24,7 @@ public:
     // False if the code page lacks a character of the text; it is then empty.
     [[nodiscard]] bool Holds() const { return holds_; }
     // What the library is handed; valid as long as this object.
-    [[nodiscard]] char* Pointer() { return buffer_.data(); }
+    [[nodiscard]] AddOnText Pointer() { return buffer_.data(); }
 
 private:
     std::vector<char> buffer_;

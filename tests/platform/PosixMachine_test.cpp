@@ -243,7 +243,7 @@ TEST_F(LauncherTest, opens_a_text_file_in_the_machines_viewer) {
     Script("xdg-open", "printf '%s' \"$1\" > \"$(dirname \"$0\")/said\"");
     const std::string path = Folder.Path() + ":/usr/bin:/bin";
     const Environment search("PATH", path.c_str());
-    EXPECT_TRUE(Real->OpenTextFile("/srv/jobs/North Gate_Errors.log"));
+    EXPECT_TRUE(Real->OpenTextFile("/srv/jobs/North Gate_Errors.log", ViewerWindow::Maximised));
     EXPECT_EQ(Said(), "/srv/jobs/North Gate_Errors.log");
 }
 
@@ -291,7 +291,7 @@ TEST_F(SingleInstanceTest, a_viewer_does_not_hold_the_name_on) {
 
 TEST_F(LauncherTest, says_so_where_there_is_no_viewer) {
     const Environment search("PATH", Folder.Path().c_str());
-    EXPECT_FALSE(Real->OpenTextFile("/srv/jobs/x.log"));
+    EXPECT_FALSE(Real->OpenTextFile("/srv/jobs/x.log", ViewerWindow::Normal));
 }
 
 TEST(Paths, names_the_folder_of_this_program) {

@@ -33,6 +33,22 @@ TEST(SingleInstance, leaves_the_name_free) {
     EXPECT_TRUE(MakeSingleInstance()->Acquire("gfc-test"));
 }
 
+// Every user of the machine may look for the holder, in whatever session.
+TEST(SingleInstance, holds_for_the_whole_machine) {
+    const auto holder = MakeSingleInstance();
+    ASSERT_TRUE(holder->Acquire("gfc-test"));
+    const windows::Handle seen(::OpenMutexW(SYNCHRONIZE, FALSE, L"Global\\gfc-test"));
+    EXPECT_TRUE(seen);
+}
+
+TEST(SingleInstance, takes_a_name_that_is_used_for_something_else_as_free) {
+    const windows::Handle event(::CreateEventW(nullptr, TRUE, FALSE, L"Global\\gfc-test-event"));
+    ASSERT_TRUE(event);
+    const auto holder = MakeSingleInstance();
+    EXPECT_TRUE(holder->Acquire("gfc-test-event")) << "the session's own mark serves";
+    EXPECT_FALSE(MakeSingleInstance()->Acquire("gfc-test-event"));
+}
+
 std::vector<std::string> ReadBack(const std::wstring& line) {
     int count = 0;
     wchar_t** words = ::CommandLineToArgvW(line.c_str(), &count);
@@ -57,6 +73,13 @@ TEST(Launcher, starts_programs_and_reports_what_cannot_be_started) {
     EXPECT_FALSE(MakeLauncher()->Start("", {}));
     EXPECT_FALSE(MakeLauncher()->Start(folder.Path("missing.exe"), {}));
     EXPECT_FALSE(MakeLauncher()->Start(folder.Path(), {}));
+}
+
+TEST(Launcher, asks_for_a_maximised_window_alone) {
+    EXPECT_EQ(windows::StartInfo(ViewerWindow::Normal).dwFlags, 0u);
+    const STARTUPINFOW start = windows::StartInfo(ViewerWindow::Maximised);
+    EXPECT_EQ(start.dwFlags, DWORD{STARTF_USESHOWWINDOW});
+    EXPECT_EQ(start.wShowWindow, SW_SHOWMAXIMIZED);
 }
 
 TEST(Paths, names_the_folder_of_this_program_and_that_of_the_profiles) {

@@ -12,7 +12,7 @@ bool FakeLauncher::Start(const std::string& program, const std::vector<std::stri
     return Works;
 }
 
-bool FakeLauncher::OpenTextFile(const std::string& path) {
+bool FakeLauncher::OpenTextFile(const std::string& path, platform::ViewerWindow) {
     Started.push_back("view " + path);
     return Works;
 }

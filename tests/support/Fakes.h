@@ -21,7 +21,7 @@ public:
     bool Works = true;
     std::vector<std::string> Started;
     bool Start(const std::string& program, const std::vector<std::string>& arguments) override;
-    bool OpenTextFile(const std::string& path) override;
+    bool OpenTextFile(const std::string& path, platform::ViewerWindow window) override;
 };
 
 class FakePaths : public platform::Paths {

@@ -161,7 +161,8 @@ public:
         return Launch(program, arguments, -1);
     }
 
-    bool OpenTextFile(const std::string& path) override {
+    // Nobody but the viewer itself knows here how its window is to stand.
+    bool OpenTextFile(const std::string& path, ViewerWindow) override {
         auto outcome = MakePipe(O_NONBLOCK);
         if (!outcome || !Launch(TextViewer, {path}, outcome->Writer.Get()))
             return false;

@@ -1,7 +1,5 @@
 #include "platform/windows/CommandLine.h"
 
-#include "platform/windows/Wide.h"
-
 namespace gfc::platform::windows {
 
 namespace {
@@ -26,6 +24,16 @@ std::wstring CommandLine(const std::string& program, const std::vector<std::stri
     for (const std::string& argument : arguments)
         line += L' ' + Quoted(Wide(argument));
     return line;
+}
+
+STARTUPINFOW StartInfo(ViewerWindow window) {
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    if (window == ViewerWindow::Maximised) {
+        start.dwFlags = STARTF_USESHOWWINDOW;
+        start.wShowWindow = SW_SHOWMAXIMIZED;
+    }
+    return start;
 }
 
 } // namespace gfc::platform::windows

@@ -12,9 +12,17 @@ constexpr const char* TextViewer = "notepad.exe";
 class WindowsLauncher : public Launcher {
 public:
     bool Start(const std::string& program, const std::vector<std::string>& arguments) override {
+        return Run(program, arguments, windows::StartInfo(ViewerWindow::Normal));
+    }
+
+    bool OpenTextFile(const std::string& path, ViewerWindow window) override {
+        return Run(TextViewer, {path}, windows::StartInfo(window));
+    }
+
+private:
+    static bool Run(const std::string& program, const std::vector<std::string>& arguments,
+                    STARTUPINFOW start) {
         std::wstring line = windows::CommandLine(program, arguments);
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
         PROCESS_INFORMATION process{};
         // Without a program of its own the call takes the line's first word, and looks for it on the search
         // path.
@@ -25,8 +33,6 @@ public:
         const Handle started(process.hProcess);
         return true;
     }
-
-    bool OpenTextFile(const std::string& path) override { return Start(TextViewer, {path}); }
 };
 
 } // namespace
