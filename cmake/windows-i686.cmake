@@ -6,5 +6,3 @@ set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_C_FLAGS_INIT "-msse2 -mfpmath=sse -mstackrealign")
 set(CMAKE_CXX_FLAGS_INIT "${CMAKE_C_FLAGS_INIT}")
 include(${CMAKE_CURRENT_LIST_DIR}/windows.cmake)
-# The library's functions go by their names alone, as whoever loads it asks for them.
-string(APPEND CMAKE_MODULE_LINKER_FLAGS_INIT " -Wl,--kill-at")

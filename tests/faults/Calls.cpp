@@ -11,6 +11,18 @@
 
 using namespace gfc::test::faults;
 
+namespace {
+
+// In a folder that takes no new file.
+bool Refused(const char* path, int flags) {
+    const bool refused = (flags & O_CREAT) != 0 && IsClosedTo(path);
+    if (refused)
+        errno = EACCES;
+    return refused;
+}
+
+} // namespace
+
 extern "C" {
 
 int open(const char* path, int flags, ...) {
@@ -19,7 +31,7 @@ int open(const char* path, int flags, ...) {
     const mode_t mode = va_arg(more, mode_t);
     va_end(more);
     static auto* const real = Next<int(const char*, int, mode_t)>("open");
-    return Opened("open", path, [&] { return real(path, flags, mode); });
+    return Opened("open", path, [&] { return Refused(path, flags) ? -1 : real(path, flags, mode); });
 }
 
 int open64(const char* path, int flags, ...) {
@@ -28,7 +40,7 @@ int open64(const char* path, int flags, ...) {
     const mode_t mode = va_arg(more, mode_t);
     va_end(more);
     static auto* const real = Next<int(const char*, int, mode_t)>("open64");
-    return Opened("open", path, [&] { return real(path, flags, mode); });
+    return Opened("open", path, [&] { return Refused(path, flags) ? -1 : real(path, flags, mode); });
 }
 
 std::FILE* fopen(const char* path, const char* mode) {

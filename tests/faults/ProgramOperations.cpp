@@ -1,6 +1,7 @@
 // The operations of the program, done as a person does them.
 #include "config/FileIni.h"
 #include "faults/Operation.h"
+#include "faults/Seam.h"
 #include "forms/files/WaitForFile.h"
 #include "forms/program/StartUp.h"
 #include "forms/runs/AddRunStory.h"
@@ -10,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <fstream>
 
 namespace gfc::test::faults {
@@ -124,6 +126,9 @@ void Put(const fs::path& file, const std::string& bytes) {
 
 // Files that are nobody's business here, with names that are close to those that are.
 void LayBystanders(const fs::path& folder) {
+    ::setenv("XDG_STATE_HOME", (folder / "state").c_str(), 1);
+    fs::create_directories(folder / "state" / "gfc-configurator");
+    Close(false);
     Put(folder / "plant.KPJ", "the tool's own");
     Put(folder / "notes.txt", "by hand");
     Put(folder / "KDOrmAGA_plant_North.ini.bak", "kept by a person");
@@ -148,6 +153,18 @@ const std::string& Configured() {
 void LayConfigured(const fs::path& folder) {
     LayBystanders(folder);
     Put(folder / NorthFile, Configured());
+}
+
+// In a folder of another user's, who lets the file be written and nothing be made beside it.
+void LayClosed(const fs::path& folder) {
+    LayConfigured(folder);
+    Close(true);
+}
+
+// As the program reads it, which puts right first what a dead writer has left half-way.
+Content LookAtClosed(const fs::path& folder) {
+    (void)platform::MakeFiles()->Read((folder / NorthFile).string());
+    return ContentOf(folder);
 }
 
 // A log of an earlier check with a section of a person's own.
@@ -210,9 +227,9 @@ Operation FullWrite() {
     return operation;
 }
 
-Operation ConfiguratorSave() {
+Operation ConfiguratorSave(const std::string& name, std::function<void(const fs::path&)> lay) {
     return Told(
-        "configurator's save", LayConfigured,
+        name, std::move(lay),
         [](Plant& plant) {
             Choose(plant.TheStory, North + "\\Common Parameters", "ConfigPar");
             plant.TheStory.Menu("Configurador", "PG")
@@ -226,6 +243,12 @@ Operation ConfiguratorSave() {
                         driver.Menu("Configurador", "Salir2");
                 });
         });
+}
+
+Operation ClosedSave() {
+    Operation operation = ConfiguratorSave("configurator's save in place", LayClosed);
+    operation.Look = LookAtClosed;
+    return operation;
 }
 
 void UntilLastEditor(Story& story) {
@@ -362,7 +385,8 @@ Operation Delete() {
 
 std::vector<Operation> ProgramOperations() {
     return {FullWrite(),
-            InPlace(ConfiguratorSave()),
+            InPlace(ConfiguratorSave("configurator's save", LayConfigured)),
+            ClosedSave(),
             InPlace(ModifyTags()),
             InPlace(Log("log", LayConfigured)),
             InPlace(Log("log again", LayLogged)),

@@ -16,6 +16,7 @@ constexpr std::size_t MostDescriptors = 1024;
 
 struct State {
     std::string Folder; // empty while nothing is watched
+    bool Closed = false;
     Plan ThePlan;
     long Counted = 0;
     long Hit = 0;
@@ -95,6 +96,15 @@ std::size_t Portion(int fd, std::size_t count) {
     const State& state = TheState();
     const bool half = Concerns(fd) && state.ThePlan.TheEffect == Effect::Half && IsMeant(state.Counted + 1);
     return half && count > 1 ? count / 2 : count;
+}
+
+void Close(bool closed) {
+    TheState().Closed = closed;
+}
+
+bool IsClosedTo(const std::string& path) {
+    const State& state = TheState();
+    return state.Closed && !state.Folder.empty() && path.substr(0, path.rfind('/')) == state.Folder;
 }
 
 void Watch(const std::string& folder, const Plan& plan) {

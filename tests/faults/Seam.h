@@ -34,6 +34,10 @@ struct Call {
     bool Done = false; // the system reported success
 };
 
+// While it is watched the folder itself takes no new file and lets none go, as another user's would.
+void Close(bool closed);
+[[nodiscard]] bool IsClosedTo(const std::string& path);
+
 // Calls on what stands below the folder are counted from now on, and carried out as planned.
 void Watch(const std::string& folder, const Plan& plan);
 // From now on everything works again; calls are counted and told on.

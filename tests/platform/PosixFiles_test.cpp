@@ -1,5 +1,6 @@
 #ifndef _WIN32
 #include "platform/Files.h"
+#include "platform/InPlace.h"
 #include "platform/posix/Descriptor.h"
 #include "platform/posix/TemporaryFile.h"
 #include "support/TempFolder.h"
@@ -11,6 +12,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <iterator>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -141,6 +143,72 @@ TEST_F(PosixFilesTest, replace_leaves_a_file_that_may_not_be_written) {
               0);
     EXPECT_EQ(Folder.Get("f"), "old");
     EXPECT_EQ(Folder.Count(), 1u);
+}
+
+// Another user's folder, in which this one may write what is there and nothing else.
+class ClosedFolder : public PosixFilesTest {
+protected:
+    ClosedFolder() {
+        Folder.Put("f", "old bytes");
+        ::chmod(Folder.Path("f").c_str(), 0666);
+        ::chmod(Folder.Path().c_str(), 0755);
+        ::chmod(Own.Path().c_str(), 0777);
+        ::setenv("XDG_STATE_HOME", Own.Path().c_str(), 1);
+    }
+    ~ClosedFolder() override { ::unsetenv("XDG_STATE_HOME"); }
+    // The work of a user who may make nothing there; its result is the child's exit code.
+    template <class Work>
+    int AsStranger(Work work) {
+        return InChild([&] {
+            const bool stranger =
+                ::geteuid() != 0 ? ::chmod(Folder.Path().c_str(), 0555) == 0 : ::seteuid(65534) == 0;
+            return stranger ? work() : 99;
+        });
+    }
+    [[nodiscard]] std::string Record() const {
+        return Own.Path("gfc-configurator/" + RecordNameOf(Folder.Path("f")));
+    }
+
+    TempFolder Own;
+};
+
+TEST_F(ClosedFolder, takes_a_save_in_place) {
+    for (const std::string& bytes : {std::string("new"), std::string(50'000, 'n'), std::string()}) {
+        EXPECT_EQ(AsStranger([&] { return Real->Replace(Folder.Path("f"), bytes) ? 0 : 1; }), 0);
+        EXPECT_EQ(Folder.Get("f"), bytes);
+        EXPECT_EQ(ModeOf(Folder.Path("f")), 0666u);
+    }
+    EXPECT_EQ(AsStranger([&] { return Real->Replace(Folder.Path("other"), "x") ? 0 : 1; }), 1);
+    EXPECT_EQ(Folder.Count(), 1u);
+    EXPECT_FALSE(fs::exists(Record()));
+}
+
+TEST_F(ClosedFolder, is_put_right_by_the_next_access_of_who_died) {
+    for (const bool reads : {true, false}) {
+        Folder.Put("f", "new bytxx");
+        fs::create_directory(Own.Path("gfc-configurator"));
+        Own.Put("gfc-configurator/" + RecordNameOf(Folder.Path("f")),
+                UndoRecord{Folder.Path("f"), "old bytxx and more", "new bytes"}.Bytes());
+        if (reads) {
+            EXPECT_EQ(Real->Read(Folder.Path("f")), "old bytxx and more");
+            EXPECT_EQ(Folder.Get("f"), "old bytxx and more");
+        } else {
+            EXPECT_TRUE(Real->Replace(Folder.Path("f"), "last"));
+            EXPECT_EQ(Folder.Get("f"), "last");
+        }
+        EXPECT_FALSE(fs::exists(Record()));
+    }
+}
+
+// A record that is held belongs to a writer who is still at it.
+TEST_F(ClosedFolder, shows_the_old_bytes_while_a_writer_is_at_it) {
+    Folder.Put("f", "new bytes");
+    const std::string record =
+        Folder.Put(".gfc-undo-f", UndoRecord{Folder.Path("f"), "old bytes", "new bytes"}.Bytes());
+    const posix::Descriptor writer = posix::Open(record.c_str(), O_RDWR);
+    ASSERT_EQ(::flock(writer.Get(), LOCK_EX | LOCK_NB), 0);
+    EXPECT_EQ(InChild([&] { return Real->Read(Folder.Path("f")) == "old bytes" ? 0 : 1; }), 0);
+    EXPECT_TRUE(fs::exists(record));
 }
 
 TEST_F(PosixFilesTest, exists_takes_what_no_path_can_lead_to_for_missing) {

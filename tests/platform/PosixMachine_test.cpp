@@ -253,7 +253,7 @@ TEST_F(LauncherTest, tells_of_a_viewer_that_ends_badly) {
     const std::string path = Folder.Path() + ":/usr/bin:/bin";
     const Environment search("PATH", path.c_str());
     for (const char* code : {"3", "0"}) {
-        ASSERT_TRUE(Real->OpenTextFile("/srv/jobs/x.log"));
+        ASSERT_TRUE(Real->OpenTextFile("/srv/jobs/x.log", ViewerWindow::Normal));
         EXPECT_FALSE(Real->ViewerFailed()) << "it is still there";
         EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "there is no child to wait for";
         Folder.Put("said", std::string(code) + "\n");
@@ -278,7 +278,7 @@ TEST_F(SingleInstanceTest, a_viewer_does_not_hold_the_name_on) {
     {
         const auto instance = MakeSingleInstance();
         ASSERT_TRUE(instance->Acquire(Name));
-        ASSERT_TRUE(MakeLauncher()->OpenTextFile(pipes.Path("hold")));
+        ASSERT_TRUE(MakeLauncher()->OpenTextFile(pipes.Path("hold"), ViewerWindow::Normal));
     }
     bool free = false; // the watch closes what it has inherited a moment after the viewer has started
     for (int look = 0; look < 500 && !free; ++look) {

@@ -107,10 +107,22 @@ TEST(AddOnExports, are_looked_for_under_three_names) {
 }
 
 #if defined(_WIN32) && !defined(_WIN64)
-class ExportKind : public testing::TestWithParam<const char*> {};
+// A library and the one of the three names under which it exports its functions.
+struct Kind {
+    const char* Library;
+    std::size_t Name;
+};
+
+class ExportKind : public testing::TestWithParam<Kind> {};
 
 TEST_P(ExportKind, is_found_and_called) {
-    const HostileFolder folder(std::string("hostile_library") + GetParam());
+    const HostileFolder folder(GetParam().Library);
+    const auto names = project::ExportedNames(project::AddOnFunctionNamed("kdaddon_VBGetProjectFile"));
+    const auto loaded = HostileFolder::Load(folder.Path() + '\\' + project::AddOnFileName(), 6, [] {});
+    ASSERT_NE(loaded.Library, nullptr) << loaded.Error;
+    for (std::size_t name = 0; name < names.size(); ++name)
+        EXPECT_EQ(loaded.Library->Symbol(names[name].c_str()) != nullptr, name == GetParam().Name)
+            << names[name];
     const auto library = Gate(folder, 6);
     ASSERT_NE(library, nullptr);
     EXPECT_EQ(library->GetProjectFile().substr(0, 6), "/jobs/");
@@ -122,8 +134,10 @@ TEST_P(ExportKind, is_found_and_called) {
     EXPECT_EQ(library->Fault(), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, ExportKind, testing::Values("", "_sized", "_underscored"),
-                         [](const auto& played) { return "hostile_library" + std::string(played.param); });
+INSTANTIATE_TEST_SUITE_P(Names, ExportKind,
+                         testing::Values(Kind{"hostile_library", 0}, Kind{"hostile_library_underscored", 1},
+                                         Kind{"hostile_library_sized", 2}),
+                         [](const auto& played) { return played.param.Library; });
 
 TEST(OtherConvention, is_told_by_the_first_call_and_called_no_more) {
     const HostileFolder folder("hostile_library_cdecl");

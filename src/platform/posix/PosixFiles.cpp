@@ -1,4 +1,5 @@
 #include "platform/Files.h"
+#include "platform/posix/PosixInPlace.h"
 #include "platform/posix/TemporaryFile.h"
 
 #include <algorithm>
@@ -120,11 +121,20 @@ bool IsFree(const std::string& path) {
     return false;
 }
 
+// True if the file could not be replaced for the sake of its folder, which takes no new file or lets none of
+// another user's go, or of itself, where something is mounted on it.
+bool MayServeInPlace(int error) {
+    return error == EACCES || error == EPERM || error == EBUSY;
+}
+
 class PosixFiles : public Files {
 public:
     std::optional<std::string> Read(const std::string& path) override { return ReadStart(path, Everything); }
 
     std::optional<std::string> ReadStart(const std::string& path, std::size_t enough) override {
+        const auto target = RealTarget(path);
+        if (auto old = target ? PutBackHalfWay(inPlace_, *target) : std::nullopt)
+            return old;
         auto source = ReadPlainFile(path, enough);
         Told(source.has_value());
         return source ? std::optional(std::move(source->Bytes)) : std::nullopt;
@@ -134,13 +144,14 @@ public:
         const auto target = RealTarget(path);
         if (!target)
             return Told(false);
+        (void)PutBackHalfWay(inPlace_, *target);
         struct stat old {};
         const bool existed = ::stat(target->c_str(), &old) == 0;
         if (existed ? !MayReplace(*target, old) : errno != ENOENT)
             return Told(false);
-        auto file = TemporaryFile::Beside(*target, existed ? PrivateMode : NewFileMode);
-        return Told(file && posix::WriteAll(file->Get(), bytes) && (!existed || TakeOver(file->Get(), old)) &&
-                    posix::Flush(file->Get()) && file->MoveOver(*target));
+        if (Replaced(*target, bytes, existed ? &old : nullptr))
+            return true;
+        return existed && MayServeInPlace(lastError_) && !WriteInPlace(inPlace_, *target, bytes);
     }
 
     bool PutAnew(const std::string& path, std::string_view bytes,
@@ -172,7 +183,25 @@ public:
 
 private:
     // Before anything else is done, what takes a half-made file away included: that may have its own error.
-    bool Told(bool done) { return done || Fail(std::generic_category().message(errno)); }
+    bool Told(bool done) {
+        lastError_ = done ? 0 : errno;
+        return done || Fail(std::generic_category().message(lastError_));
+    }
+
+    // old: what the target was; null if it was not there.
+    bool Replaced(const std::string& target, std::string_view bytes, const struct stat* old) {
+        auto file = TemporaryFile::Beside(target, old ? PrivateMode : NewFileMode);
+        const bool done =
+            Told(file && posix::WriteAll(file->Get(), bytes) && (!old || TakeOver(file->Get(), *old)) &&
+                 posix::Flush(file->Get()) && file->MoveOver(target));
+        // What stands in its place already is not to be written once more.
+        if (file && file->WasMoved())
+            lastError_ = 0;
+        return done;
+    }
+
+    posix::PosixInPlace inPlace_;
+    int lastError_ = 0;
 };
 
 } // namespace

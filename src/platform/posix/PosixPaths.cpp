@@ -1,8 +1,8 @@
 #include "platform/Machine.h"
+#include "platform/posix/UserFolders.h"
 
 #include <climits>
 
-#include <cstdlib>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -29,29 +29,15 @@ std::string ExecutablePath() {
 #endif
 }
 
-// The desktop's rule: a folder that is not named in full does not count.
-std::string FullPathIn(const char* variable) {
-    const char* value = std::getenv(variable);
-    return value && value[0] == '/' ? value : "";
-}
-
-std::string HomeFolder() {
-    const std::string home = FullPathIn("HOME");
-    if (!home.empty())
-        return home;
-    const passwd* user = ::getpwuid(::geteuid());
-    return user && user->pw_dir ? user->pw_dir : "";
-}
-
 class PosixPaths : public Paths {
 public:
     std::string ExecutableFolder() override { return ParentFolder(ExecutablePath()); }
 
     std::string ProfileFolder() override {
-        const std::string config = FullPathIn("XDG_CONFIG_HOME");
+        const std::string config = posix::FullPathIn("XDG_CONFIG_HOME");
         if (!config.empty())
             return config;
-        const std::string home = HomeFolder();
+        const std::string home = posix::HomeFolder();
         return home.empty() ? home : home + "/.config";
     }
 

@@ -25,6 +25,9 @@ public:
     [[nodiscard]] bool MoveOver(const std::string& target);
     [[nodiscard]] bool MoveToNew(const std::string& target);
 
+    // True also where what came after the move has failed.
+    [[nodiscard]] bool WasMoved() const { return path_.empty(); }
+
 private:
     TemporaryFile(std::string path, Descriptor file) : path_(std::move(path)), file_(std::move(file)) {}
     void Forget() { path_.clear(); }

@@ -1,17 +1,15 @@
 #include "platform/Files.h"
+#include "platform/windows/SystemPath.h"
 #include "platform/windows/TemporaryFile.h"
-
-#include <algorithm>
+#include "platform/windows/WindowsInPlace.h"
 
 namespace gfc::platform {
 namespace {
 
 using windows::Handle;
+using windows::ShareAll;
+using windows::SystemPath;
 using windows::TemporaryFile;
-using windows::Wide;
-
-constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-constexpr std::size_t LargestRead = 1u << 30;
 
 // Every other error leaves open whether the file is there: a share that does not answer, a file that is held.
 bool SaysMissing(DWORD error) {
@@ -20,9 +18,31 @@ bool SaysMissing(DWORD error) {
 }
 
 bool MayExist(const std::wstring& path) {
+    if (windows::NamesDevice(path))
+        return false;
     const DWORD attributes = ::GetFileAttributesW(path.c_str());
-    return attributes == INVALID_FILE_ATTRIBUTES ? !SaysMissing(::GetLastError())
-                                                 : !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+    if (attributes != INVALID_FILE_ATTRIBUTES)
+        return !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+    // Of a drive that was pulled the system says no more than that there is no such path.
+    return !SaysMissing(::GetLastError()) || !windows::RootAnswers(path) || TemporaryFile::PutBackAside(path);
+}
+
+// True if the file could not be replaced for the sake of others who have it open, or of its folder.
+bool MayServeInPlace(DWORD error) {
+    switch (error) {
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_USER_MAPPED_FILE:
+    case ERROR_INVALID_FUNCTION: // of shares that know no such call
+    case ERROR_NOT_SUPPORTED:
+    case ERROR_UNABLE_TO_REMOVE_REPLACED:
+    case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
+    case ERROR_UNABLE_TO_MOVE_REPLACEMENT_2:
+        return true;
+    default:
+        return false;
+    }
 }
 
 // A folder, or a file that its owner has locked against changes; the system's words for both are the same.
@@ -36,7 +56,7 @@ bool MustStay(const std::wstring& path) {
 }
 
 bool IsFree(const std::wstring& path) {
-    if (path.empty())
+    if (path.empty() || windows::NamesDevice(path))
         ::SetLastError(ERROR_INVALID_NAME);
     else if (::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES)
         ::SetLastError(ERROR_FILE_EXISTS);
@@ -63,56 +83,48 @@ std::wstring RealTarget(const std::wstring& path) {
     return target;
 }
 
-std::optional<std::string> ReadAll(HANDLE file, std::size_t size) {
-    std::string bytes(size, '\0');
-    std::size_t used = 0;
-    while (used < size) {
-        DWORD got = 0;
-        const auto piece = static_cast<DWORD>(std::min(size - used, LargestRead));
-        if (!::ReadFile(file, bytes.data() + used, piece, &got, nullptr))
-            return std::nullopt;
-        if (got == 0)
-            break;
-        used += got;
-    }
-    bytes.resize(used);
-    return bytes;
-}
-
 class WindowsFiles : public Files {
 public:
     std::optional<std::string> Read(const std::string& path) override {
-        const Handle file(::CreateFileW(Wide(path).c_str(), GENERIC_READ, ShareAll, nullptr, OPEN_EXISTING,
-                                        FILE_ATTRIBUTE_NORMAL, nullptr));
-        LARGE_INTEGER size{};
+        const std::wstring target = RealTarget(SystemPath(path));
+        TemporaryFile::PutBackAside(target);
+        if (auto old = PutBackHalfWay(inPlace_, windows::Utf8(target)))
+            return old;
+        const Handle file = windows::OpenPatiently(target, GENERIC_READ);
         std::optional<std::string> bytes;
-        if (file && ::GetFileType(file.Get()) == FILE_TYPE_DISK && ::GetFileSizeEx(file.Get(), &size))
-            bytes = ReadAll(file.Get(), static_cast<std::size_t>(size.QuadPart));
+        if (file && ::GetFileType(file.Get()) == FILE_TYPE_DISK)
+            bytes = windows::ReadToEnd(file.Get());
         Told(bytes.has_value());
         return bytes;
     }
 
     bool Replace(const std::string& path, std::string_view bytes) override {
-        const std::wstring target = RealTarget(Wide(path));
-        if (target.empty() || MustStay(target))
+        const std::wstring target = RealTarget(SystemPath(path));
+        if (!MayBeFile(target) || MustStay(target))
             return Told(false);
-        auto file = Written(target, bytes);
-        return file && Told(file->MoveOver(target));
+        (void)PutBackHalfWay(inPlace_, windows::Utf8(target));
+        return Replaced(target, bytes) || (MayServeInPlace(lastError_) && Overwritten(target, bytes));
     }
 
     bool PutAnew(const std::string& path, std::string_view bytes,
                  const std::function<bool()>& makeWay) override {
-        const std::wstring target = Wide(path);
+        const std::wstring target = SystemPath(path);
+        if (!MayBeFile(target))
+            return Told(false);
         auto file = Written(target, bytes);
         return file && makeWay() && Told(file->MoveOver(target));
     }
 
-    bool Exists(const std::string& path) override { return MayExist(Wide(path)); }
+    bool Exists(const std::string& path) override { return MayExist(SystemPath(path)); }
 
-    bool Delete(const std::string& path) override { return Told(::DeleteFileW(Wide(path).c_str()) != 0); }
+    bool Delete(const std::string& path) override {
+        const std::wstring target = SystemPath(path);
+        return Told(
+            windows::Patiently([&] { return ::DeleteFileW(target.c_str()) != 0; }, windows::SaysHeld));
+    }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
-        const std::wstring target = Wide(to);
+        const std::wstring target = SystemPath(to);
         if (!IsFree(target))
             return Told(false);
         const auto bytes = Read(from);
@@ -124,7 +136,27 @@ public:
 
 private:
     // Before anything else is done, what takes a half-made file away included: that may have its own error.
-    bool Told(bool done) { return done || Fail(windows::ErrorText(::GetLastError())); }
+    bool Told(bool done) {
+        lastError_ = done ? ERROR_SUCCESS : ::GetLastError();
+        return done || Fail(windows::ErrorText(lastError_));
+    }
+
+    static bool MayBeFile(const std::wstring& target) {
+        const bool may = !target.empty() && !windows::NamesDevice(target);
+        if (!may)
+            ::SetLastError(ERROR_INVALID_NAME);
+        return may;
+    }
+
+    bool Replaced(const std::wstring& target, std::string_view bytes) {
+        auto file = Written(target, bytes);
+        return file && Told(file->MoveOver(target));
+    }
+
+    // What the system said of the replacement stays as the reason where not even this can be done.
+    bool Overwritten(const std::wstring& target, std::string_view bytes) {
+        return !WriteInPlace(inPlace_, windows::Utf8(target), bytes);
+    }
 
     // Beside the target, its bytes safe on the disk.
     std::optional<TemporaryFile> Written(const std::wstring& target, std::string_view bytes) {
@@ -134,6 +166,9 @@ private:
             file.reset();
         return file;
     }
+
+    windows::WindowsInPlace inPlace_;
+    DWORD lastError_ = ERROR_SUCCESS;
 };
 
 } // namespace
