@@ -58,12 +58,4 @@ int UnregisterStation(AddOnLibrary& library, const Project& project, const std::
     return library.RemoveFileToLoad(services::TrimFixedString(station), local, TargetOnStation);
 }
 
-std::string StationOfPath(std::string_view fullPath) {
-    const auto first = fullPath.find('\\');
-    if (first == std::string_view::npos)
-        return {};
-    const auto station = fullPath.substr(first + 1);
-    return std::string(station.substr(0, station.find('\\')));
-}
-
 } // namespace gfc::project

@@ -34,8 +34,4 @@ void RegisterStation(AddOnLibrary& library, const Project& project, const std::s
 int UnregisterStation(AddOnLibrary& library, const Project& project, const std::string& station,
                       const std::string& currentStation);
 
-// The station between the first and the second backslash of a tree path, or to its end; empty without a
-// backslash.
-[[nodiscard]] std::string StationOfPath(std::string_view fullPath);
-
 } // namespace gfc::project

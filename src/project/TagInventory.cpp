@@ -90,12 +90,6 @@ int CountInModule(std::string_view moduleName, const TagList& list) {
         std::ranges::count_if(list, [&](const Tag& tag) { return EqualNoCase(tag.ModuleName, moduleName); }));
 }
 
-int CountOutsideModule(const TagList& list, std::string_view moduleName, std::size_t first) {
-    const auto begin = list.begin() + static_cast<std::ptrdiff_t>(std::min(first, list.size()));
-    return static_cast<int>(std::count_if(
-        begin, list.end(), [&](const Tag& tag) { return !EqualNoCase(tag.ModuleName, moduleName); }));
-}
-
 TagList MergeWithout(const TagList& a, const TagList& b, std::string_view moduleName) {
     TagList target;
     target.reserve(a.size() + b.size());

@@ -54,8 +54,6 @@ void BuildAvailableLists(TagInventory& inventory, const WorkingModuleNames& work
 
 // Entries of the list whose module has this name, ignoring case.
 [[nodiscard]] int CountInModule(std::string_view moduleName, const TagList& list);
-// The entries from the first index on that stand outside the module.
-[[nodiscard]] int CountOutsideModule(const TagList& list, std::string_view moduleName, std::size_t first);
 // The entries of a, then those of b, that stand outside the module.
 [[nodiscard]] TagList MergeWithout(const TagList& a, const TagList& b, std::string_view moduleName);
 // One name for each run of neighbours in one module; names compare exactly here, unlike everywhere else.

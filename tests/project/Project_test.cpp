@@ -173,12 +173,5 @@ TEST_F(Registration, takes_out_the_file_of_the_current_station) {
                                            Call{"remove", "North", Local(""), Target}));
 }
 
-TEST(StationOfPath, stands_between_the_first_two_backslashes) {
-    EXPECT_EQ(StationOfPath("All Stations\\North"), "North");
-    EXPECT_EQ(StationOfPath("All Stations\\North\\Individual Parameters\\Run 1"), "North");
-    EXPECT_EQ(StationOfPath("All Stations\\"), "");
-    EXPECT_EQ(StationOfPath("All Stations"), "");
-}
-
 } // namespace
 } // namespace gfc::project

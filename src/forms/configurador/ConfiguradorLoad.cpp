@@ -1,5 +1,6 @@
 // What the configurator opens with: the start values, or those of the station's file.
 #include "config/ConfigReader.h"
+#include "config/RunLayout.h"
 #include "config/Units.h"
 #include "config/Vocabulary.h"
 #include "forms/configurador/Configurador.h"
@@ -44,7 +45,7 @@ void Configurador::StartEmpty() {
     station.CurrentStation = name;
     station.Runs = {};
     for (int run = 1; run <= config::MaxRuns; ++run)
-        station.RunList.at(static_cast<std::size_t>(run - 1)) = {"Run " + std::to_string(run),
+        station.RunList.at(static_cast<std::size_t>(run - 1)) = {config::RunSection(run),
                                                                  std::string(config::No)};
 }
 

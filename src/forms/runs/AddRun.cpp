@@ -2,6 +2,7 @@
 
 #include "binding/RequiredTags.h"
 #include "config/ConfigReader.h"
+#include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 #include "forms/binding/UnusedTags.h"
 #include "forms/main_window/GFCPrincipal.h"
@@ -137,7 +138,7 @@ void SetRunInMemory(config::StationConfig& station, int run, bool active) {
     const auto element = static_cast<std::size_t>(run - 1);
     const std::string flag(active ? config::Yes : config::No);
     station.Run.at(element) = flag;
-    station.RunList.at(element) = {"Run" + std::to_string(run), flag};
+    station.RunList.at(element) = {config::RunSection(run), flag};
 }
 
 } // namespace gfc::forms

@@ -1,6 +1,7 @@
 #include "forms/runs/FrModificarTags.h"
 
 #include "config/ConfigReader.h"
+#include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 #include "forms/main_window/StationNodes.h"
 #include "forms/runs/ModifyFlow.h"
@@ -102,7 +103,7 @@ void FrModificarTags::EditOnly(int run) {
     for (int other = 1; other <= config::MaxRuns; ++other) {
         const auto index = static_cast<std::size_t>(other - 1);
         station.Run.at(index) = other == run ? config::Yes : config::No;
-        station.RunList.at(index) = {"Run" + std::to_string(other), station.Run.at(index)};
+        station.RunList.at(index) = {config::RunSection(other), station.Run.at(index)};
     }
     station.ActiveRunCount = 1;
     SetCaption(Caption() + "   Station : " + station.CurrentStation + " (" + node::RunText(run) + ")");

@@ -1,5 +1,6 @@
 #include "forms/wizard/SelectRuns.h"
 
+#include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 #include "forms/program/Loss.h"
 #include "forms/station/IOReports.h"
@@ -63,7 +64,7 @@ void SelectRuns::TakeSelection() {
     for (int i = 0; i < CheckRun.Size(); ++i) {
         const auto run = static_cast<std::size_t>(i);
         station.Run.at(run) = CheckRun[i].Value() ? config::Yes : config::No;
-        station.RunList.at(run) = {"Run " + std::to_string(i + 1), station.Run.at(run)};
+        station.RunList.at(run) = {config::RunSection(i + 1), station.Run.at(run)};
     }
 }
 
