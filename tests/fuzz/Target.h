@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <span>
 #include <stdexcept>
 #include <string_view>
@@ -22,6 +23,8 @@ inline void Require(bool holds, const char* what) {
 struct Target {
     std::string_view Name; // also that of the corpus' folder
     void (*Run)(std::string_view bytes);
+
+    friend void PrintTo(const Target& the, std::ostream* out) { *out << the.Name; }
 };
 
 [[nodiscard]] std::span<const Target> Targets();

@@ -1,4 +1,5 @@
 #include "ConfiguradorWorld.h"
+#include "support/Named.h"
 
 namespace gfc::test {
 namespace {
@@ -32,7 +33,8 @@ INSTANTIATE_TEST_SUITE_P(
                     std::tuple{1, Texts{"15.5556", "14.73", "\u00BAC", "psia", "psi", "cP"}},
                     std::tuple{2, Texts{"15.00", "1.01325", "\u00BAC", "bar", "bar", "cP"}},
                     std::tuple{3, Texts{"59.00", "1.01325", "\u00BAF", "bar", "bar", "cP"}},
-                    std::tuple{4, Texts{"20.00", "0.101325", "\u00BAC", "MPa", "MPa", "mPa-s"}}));
+                    std::tuple{4, Texts{"20.00", "0.101325", "\u00BAC", "MPa", "MPa", "mPa-s"}}),
+    By([](const auto& row) { return StoredOf(config::UnitSystems, std::get<0>(row)); }));
 
 const std::string unitsWarning = "Warning: When changing the system units, please make sure to convert any "
                                  "previously configured parameter "

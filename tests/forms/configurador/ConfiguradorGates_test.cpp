@@ -50,6 +50,8 @@ struct RunRow {
     int Source;
     bool Outside;
     Room Need; // of one run
+
+    friend void PrintTo(const RunRow& the, std::ostream* out) { *out << the.What; }
 };
 
 class ConfiguradorRunGate : public testing::TestWithParam<RunRow> {};

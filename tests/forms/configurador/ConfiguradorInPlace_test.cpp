@@ -1,4 +1,5 @@
 #include "ConfiguradorWorld.h"
+#include "support/Named.h"
 
 namespace gfc::test {
 namespace {
@@ -183,7 +184,8 @@ TEST_P(ConfiguradorUntouched, is_saved_as_it_was) {
 INSTANTIATE_TEST_SUITE_P(Files, ConfiguradorUntouched,
                          testing::Values("aga3_densimeter", "aga3_densimeter_external",
                                          "aga7_iso3_fixed_external", "aga7_iso2_outside",
-                                         "accelabar_iso2_fixed", "gbt_aga8_outside"));
+                                         "accelabar_iso2_fixed", "gbt_aga8_outside"),
+                         byText);
 
 TEST(ConfiguradorInPlace, keeps_the_gas_values_of_aga7_that_it_does_not_show) {
     ConfiguradorWorld world(

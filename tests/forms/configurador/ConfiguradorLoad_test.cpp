@@ -1,4 +1,5 @@
 #include "ConfiguradorWorld.h"
+#include "support/Named.h"
 
 namespace gfc::test {
 namespace {
@@ -98,6 +99,8 @@ TEST(ConfiguradorLoad, a_stored_file_shows_its_values) {
 struct ShownStandard {
     const char* Stored;
     const char* Shown;
+
+    friend void PrintTo(const ShownStandard& the, std::ostream* out) { *out << the.Stored; }
 };
 
 class ConfiguradorStandardShown : public testing::TestWithParam<ShownStandard> {};
@@ -118,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(Words, ConfiguradorStandardShown,
                          testing::Values(ShownStandard{"AGA3", "AGA-3 1992"}, ShownStandard{"AGA7", "AGA-7"},
                                          ShownStandard{"Accelabar-AGA-3-1992", "Accelabar-AGA-3-1992"},
                                          ShownStandard{"SYT6143-2004", "GBT21446-2008"},
-                                         ShownStandard{"aga3", "AGA-7"}, ShownStandard{"", "AGA-7"}));
+                                         ShownStandard{"aga3", "AGA-7"}, ShownStandard{"", "AGA-7"}),
+                         By(&ShownStandard::Stored));
 
 // The gates stay silent while a file is shown, on the smallest station too.
 TEST(ConfiguradorLoad, a_stored_file_is_shown_whatever_the_station_carries) {
@@ -165,6 +169,8 @@ struct ShownPressure {
     const char* Units;
     const char* Caption;
     const char* Text;
+
+    friend void PrintTo(const ShownPressure& the, std::ostream* out) { *out << the.Units; }
 };
 
 class ConfiguradorPressureByUnits : public testing::TestWithParam<ShownPressure> {};
@@ -187,7 +193,8 @@ INSTANTIATE_TEST_SUITE_P(Systems, ConfiguradorPressureByUnits,
                                          ShownPressure{"Metric", "bar", "1.01325"},
                                          ShownPressure{"Metric-degF", "bar", "1.01325"},
                                          ShownPressure{"Practical-SI", "MPa", "0.101325"},
-                                         ShownPressure{"Cubits", "MPa", "0.101325"}));
+                                         ShownPressure{"Cubits", "MPa", "0.101325"}),
+                         By(&ShownPressure::Units));
 
 TEST(ConfiguradorLoad, a_stored_pressure_takes_the_place_of_the_default) {
     std::string file = With(WizardFile("aga3_densimeter_external"), "ExtAtmPress=Yes\nAtmPress=\n",

@@ -1,4 +1,5 @@
 #include "ConfiguradorWorld.h"
+#include "support/Named.h"
 
 namespace gfc::test {
 namespace {
@@ -66,7 +67,7 @@ TEST_P(ConfiguradorModeOfRun, sets_the_box_of_the_run) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Runs, ConfiguradorModeOfRun, testing::Range(1, 6));
+INSTANTIATE_TEST_SUITE_P(Runs, ConfiguradorModeOfRun, testing::Range(1, 6), ByNumber("run"));
 
 TEST(ConfiguradorMode, another_station_of_the_same_beginning_is_not_meant) {
     ConfiguradorWorld world(WizardFile("aga3_densimeter"));

@@ -2,6 +2,7 @@
 #include "forms/binding/TagRuns.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/station/Step.h"
+#include "support/Named.h"
 
 namespace gfc::test {
 namespace {
@@ -9,6 +10,8 @@ namespace {
 struct GoldenCase {
     const char* Name;
     PassChoices Choices;
+
+    friend void PrintTo(const GoldenCase& the, std::ostream* out) { *out << the.Name; }
 };
 
 class ConfiguradorWhole : public testing::TestWithParam<GoldenCase> {};
@@ -79,7 +82,8 @@ TEST_P(ConfiguradorPassCancel, leads_back_with_tags_owed) {
     EXPECT_FALSE(world.HasFile());
 }
 
-INSTANTIATE_TEST_SUITE_P(Windows, ConfiguradorPassCancel, testing::Range<std::size_t>(0, 6));
+INSTANTIATE_TEST_SUITE_P(Windows, ConfiguradorPassCancel, testing::Range<std::size_t>(0, 6),
+                         ByNumber("window"));
 
 TEST(ConfiguradorPass, a_cancel_leads_back_with_what_was_entered_and_tags_owed) {
     PassOfConfigurador world({0, 1, false, true, {4}});

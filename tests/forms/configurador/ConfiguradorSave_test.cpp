@@ -1,4 +1,5 @@
 #include "ConfiguradorWorld.h"
+#include "support/Named.h"
 
 namespace gfc::test {
 namespace {
@@ -34,7 +35,7 @@ TEST_P(ConfiguradorMissing, is_not_saved) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Entries, ConfiguradorMissing,
-                         testing::Values("Text1_1", "Text2_1", "Text3_1", "Text4_1"));
+                         testing::Values("Text1_1", "Text2_1", "Text3_1", "Text4_1"), byText);
 
 TEST(ConfiguradorSave, aga7_needs_neither_viscosity_nor_isentropic_coefficient) {
     ConfiguradorWorld world(WizardFile("aga7_densimeter"));

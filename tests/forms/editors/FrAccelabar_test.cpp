@@ -1,5 +1,6 @@
 #include "forms/editors/FrAccelabar.h"
 #include "forms/station/Step.h"
+#include "support/Named.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -80,6 +81,8 @@ TEST_F(FrAccelabarForm, starts_at_the_first_size_for_an_empty_record) {
 struct SizeRow {
     int Position;
     std::string Size, Y, K, Diameter;
+
+    friend void PrintTo(const SizeRow& the, std::ostream* out) { *out << the.Size; }
 };
 
 struct FrAccelabarSizes : FrAccelabarForm, testing::WithParamInterface<SizeRow> {};
@@ -112,7 +115,8 @@ INSTANTIATE_TEST_SUITE_P(Sizes, FrAccelabarSizes,
                                          SizeRow{2, "6", "0.6865", "0.6779", "2.560"},
                                          SizeRow{3, "8", "0.6407", "0.7123", "3.389"},
                                          SizeRow{4, "10", "0.6095", "0.7329", "4.251"},
-                                         SizeRow{5, "12", "0.5891", "0.7455", "5.056"}));
+                                         SizeRow{5, "12", "0.5891", "0.7455", "5.056"}),
+                         test::By(&SizeRow::Size));
 
 TEST_F(FrAccelabarForm, takes_own_coefficients_for_other_and_keeps_the_labels_behind) {
     Story.Select(form, "Combo1", 3).Select(form, "Combo1", 6);

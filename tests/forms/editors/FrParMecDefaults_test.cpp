@@ -1,4 +1,5 @@
 #include "forms/editors/FrParMecWorld.h"
+#include "support/Named.h"
 
 namespace gfc::forms {
 
@@ -23,6 +24,8 @@ TEST_F(FrParMecForm, shows_defaults_for_an_empty_record) {
 struct SystemRow {
     std::string System, Length, Temperature, Expansion;
     std::string OrificeAtLoad, PipeAtLoad, Orifice, Pipe, RefTemp;
+
+    friend void PrintTo(const SystemRow& the, std::ostream* out) { *out << the.System; }
 };
 
 struct FrParMecUnits : FrParMecForm, testing::WithParamInterface<SystemRow> {};
@@ -58,7 +61,8 @@ INSTANTIATE_TEST_SUITE_P(Systems, FrParMecUnits, testing::Values(
     SystemRow{"US-degC", "in", "ºC", "in/in ºF", "0.57811", "2.90039", "0.57811", "2.90039", "20.00"},
     SystemRow{"Metric", "mm", "ºC", "mm/mm ºC", "193.675", "363.513", "193.675", "363.513", "20.00"},
     SystemRow{"Metric-degF", "mm", "ºF", "mm/mm ºC", "193.675", "363.513", "193.675", "363.513", "68.00"},
-    SystemRow{"Practical-SI", "mm", "ºC", "mm/mm ºC", "193.675", "363.513", "0.193675", "0.363513", "20.00"}));
+    SystemRow{"Practical-SI", "mm", "ºC", "mm/mm ºC", "193.675", "363.513", "0.193675", "0.363513", "20.00"}),
+    test::By(&SystemRow::System));
 // clang-format on
 
 TEST_F(FrParMecForm, takes_an_unknown_unit_system_for_practical_SI) {

@@ -1,4 +1,5 @@
 #include "forms/editors/MDetailWorld.h"
+#include "support/Named.h"
 
 namespace gfc::forms {
 
@@ -48,7 +49,8 @@ TEST_P(MDetailOrdinary, field_is_held_by_its_own_shape_and_range) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Fields, MDetailOrdinary,
-                         testing::Values(8, 9, 10, 11, 12, 13, 14, 15, 18, 19, 20, 23, 24, 25, 26));
+                         testing::Values(8, 9, 10, 11, 12, 13, 14, 15, 18, 19, 20, 23, 24, 25, 26),
+                         test::ByNumber("Text"));
 
 TEST_F(MDetailForm, field_one_selects_by_the_length_of_field_ten_at_a_range_failure) {
     Put("Text10", "0.96522200");

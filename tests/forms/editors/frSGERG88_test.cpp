@@ -1,5 +1,6 @@
 #include "forms/editors/frSGERG88.h"
 #include "forms/station/Step.h"
+#include "support/Named.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -98,6 +99,8 @@ TEST_F(frSGERG88Form, names_its_controls) {
 
 struct UnitRow {
     std::string System, Unit, Value;
+
+    friend void PrintTo(const UnitRow& the, std::ostream* out) { *out << the.System; }
 };
 
 struct frSGERG88Units : frSGERG88Form, testing::WithParamInterface<UnitRow> {};
@@ -128,7 +131,8 @@ INSTANTIATE_TEST_SUITE_P(Systems, frSGERG88Units,
                                          UnitRow{"Metric", "KWh / m^3", "11.29444"},
                                          UnitRow{"Metric-degF", "KWh / m^3", "11.29444"},
                                          UnitRow{"Practical-SI", "MJ/m^3", "40.66"},
-                                         UnitRow{"unknown", "MJ/m^3", "40.66"}));
+                                         UnitRow{"unknown", "MJ/m^3", "40.66"}),
+                         test::By(&UnitRow::System));
 
 TEST_F(frSGERG88Form, ignores_other_stored_values_without_a_calorific_value) {
     Fill(World.Station.GasComposition, {"", "0.9", "0.9", "0.9"});
@@ -256,7 +260,10 @@ TEST_P(frSGERG88FromFile, leaves_the_fields_for_a_source_without_a_calorific_val
     ShowAndAccept();
 }
 
-INSTANTIATE_TEST_SUITE_P(Modes, frSGERG88FromFile, testing::Values(EditMode::None, EditMode::ModifyTags));
+INSTANTIATE_TEST_SUITE_P(Modes, frSGERG88FromFile, testing::Values(EditMode::None, EditMode::ModifyTags),
+                         test::By([](EditMode mode) {
+                             return mode == EditMode::None ? "main_window" : "modify_tags";
+                         }));
 
 TEST_F(frSGERG88Form, opens_its_help_by_button_and_key) {
     Story.Click(form, "ayuda").PressKey(form, "F1");

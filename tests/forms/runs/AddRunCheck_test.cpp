@@ -37,6 +37,8 @@ struct ShortageCase {
     int FreeFloats;
     const char* Title;
     const std::string& Text;
+
+    friend void PrintTo(const ShortageCase& the, std::ostream* out) { *out << the.Golden; }
 };
 
 class TooSmallForOneMore : public testing::TestWithParam<ShortageCase> {};

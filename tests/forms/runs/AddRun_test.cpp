@@ -11,6 +11,8 @@ struct AddCase {
     const char* Name;
     AddedRun Added;
     std::size_t Steps;
+
+    friend void PrintTo(const AddCase& the, std::ostream* out) { *out << the.Name; }
 };
 
 class AddedRuns : public testing::TestWithParam<AddCase> {};

@@ -13,6 +13,8 @@ struct CancelRow {
     std::vector<int> Boxes;
     void (*Tell)(ModifyWorld&);
     std::vector<std::string> Windows;
+
+    friend void PrintTo(const CancelRow& the, std::ostream* out) { *out << the.Name; }
 };
 
 void CancelMechanical(ModifyWorld& world, const std::string& form, const std::string& button) {

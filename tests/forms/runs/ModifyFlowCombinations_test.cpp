@@ -53,9 +53,14 @@ Texts GasInputKeys(const ModifyChoices& choices) {
     return choices.CalInput == "MEASURED" ? Bindings(names, "KDIOAddr") + Bindings({"GCEnable"}) : names;
 }
 
+struct Situation;
+std::string NameOf(const Situation& situation);
+
 struct Situation {
     ModifyChoices Choices;
     std::vector<int> Boxes;
+
+    friend void PrintTo(const Situation& the, std::ostream* out) { *out << NameOf(the); }
 };
 
 std::vector<Situation> Situations() {

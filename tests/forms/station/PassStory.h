@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/wizard/WizardWorld.h"
+#include "support/Named.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +14,18 @@ struct PassChoices {
     bool Outside = false;  // the composition comes from outside
     bool External = false; // so does the atmospheric pressure
     std::vector<int> Runs = {2, 5};
+
+    // "AGA7, MEASURED, outside, external, runs 2 5"
+    [[nodiscard]] std::string Text() const {
+        std::string text(StoredOf(config::FlowAlgorithms, Standard));
+        text += ", " + std::string(StoredOf(config::GasDensitySources, Source));
+        text += Outside ? ", outside" : "";
+        text += External ? ", external, runs" : ", runs";
+        for (const int run : Runs)
+            text += " " + std::to_string(run);
+        return text;
+    }
+    friend void PrintTo(const PassChoices& the, std::ostream* out) { *out << the.Text(); }
 };
 
 // The words of the pass that differ by who drives it; the wizard's, unless others are given.

@@ -4,6 +4,7 @@
 #include "forms/editors/MDetail.h"
 #include "forms/station/Step.h"
 #include "forms/station/WizardPass.h"
+#include "support/Named.h"
 #include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
@@ -20,6 +21,8 @@ std::string WizardGolden(const std::string& name) {
 struct GoldenCase {
     const char* Name;
     PassChoices Choices;
+
+    friend void PrintTo(const GoldenCase& the, std::ostream* out) { *out << the.Name; }
 };
 
 class WholePass : public testing::TestWithParam<GoldenCase> {};
@@ -67,6 +70,8 @@ INSTANTIATE_TEST_SUITE_P(Families, WholePass, testing::Values(
 struct TotalCase {
     PassChoices Choices;
     std::size_t Steps;
+
+    friend void PrintTo(const TotalCase& the, std::ostream* out) { *out << the.Choices.Text(); }
 };
 
 class PassTotal : public testing::TestWithParam<TotalCase> {};
@@ -91,7 +96,8 @@ INSTANTIATE_TEST_SUITE_P(Rows, PassTotal, testing::Values(
     TotalCase{{0, 1, false, false, {1, 2, 3}}, 15},
     TotalCase{{2, 2, false, false, {4}},       5},
     TotalCase{{3, 3, true,  false, {1, 5}},    10},
-    TotalCase{{1, 4, false, false, {1, 2}},    8}));
+    TotalCase{{1, 4, false, false, {1, 2}},    8}),
+    By([](const TotalCase& row) { return row.Choices.Text(); }));
 // clang-format on
 
 TEST(WizardPass, three_runs_with_a_densimeter_are_announced_as_nine_steps) {
@@ -252,7 +258,8 @@ TEST_P(CancelledPass, loses_everything_at_whichever_window) {
 
 INSTANTIATE_TEST_SUITE_P(Families, CancelledPass,
                          testing::Values(PassChoices{0, 1, false, true}, PassChoices{0, 3, true},
-                                         PassChoices{1, 2}, PassChoices{2, 0}, PassChoices{3, 4}));
+                                         PassChoices{1, 2}, PassChoices{2, 0}, PassChoices{3, 4}),
+                         By(&PassChoices::Text));
 
 } // namespace
 } // namespace gfc::test

@@ -74,8 +74,8 @@ TEST(SelectRuns, accept_stores_the_flags_and_opens_the_wizard) {
         EXPECT_FALSE(world.Program.Forms.Get<SelectRuns>().Command1.Enabled());
         const std::array<const char*, 5> flags = {"No", "Yes", "No", "No", "Yes"};
         for (std::size_t i = 0; i < flags.size(); ++i) {
+            EXPECT_EQ(world.Station.RunList.at(i).Name, "Run" + std::to_string(i + 1));
             EXPECT_EQ(world.Station.RunList.at(i).Flag, flags.at(i));
-            EXPECT_EQ(world.Station.RunList.at(i).Name, "Run " + std::to_string(i + 1));
             EXPECT_EQ(world.Station.Run.at(i), flags.at(i));
         }
     });
@@ -129,6 +129,8 @@ struct FloorCase {
     bool AGA7;
     Room Enough;
     Room Short;
+
+    friend void PrintTo(const FloorCase& the, std::ostream* out) { *out << the.What; }
 };
 
 class SelectRunsFloor : public testing::TestWithParam<FloorCase> {};
@@ -177,6 +179,8 @@ struct OverCase {
     int Floats; // for which the station carries Fit runs
     int Fit;
     const char* Title;
+
+    friend void PrintTo(const OverCase& the, std::ostream* out) { *out << the.What; }
 };
 
 class OverSelection : public testing::TestWithParam<OverCase> {

@@ -1,5 +1,6 @@
 #include "WizardWorld.h"
 #include "forms/wizard/WizardFC.h"
+#include "support/Named.h"
 
 #include <gtest/gtest.h>
 
@@ -218,7 +219,8 @@ TEST_P(WizardGasPage, shows_composition_and_method_beside_the_gas_properties) {
     world.PlayPages();
 }
 
-INSTANTIATE_TEST_SUITE_P(Sources, WizardGasPage, testing::Values(AGA8, SGERG88, ISO2, ISO3));
+INSTANTIATE_TEST_SUITE_P(Sources, WizardGasPage, testing::Values(AGA8, SGERG88, ISO2, ISO3),
+                         By([](int entry) { return StoredOf(config::GasDensitySources, entry); }));
 
 TEST(WizardFC, tab_headers_do_not_navigate) {
     WizardWorld world;

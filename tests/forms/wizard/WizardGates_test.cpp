@@ -24,6 +24,8 @@ struct Row {
     int Source;
     Room Need; // Longs of 0: they are not looked at
     int Verdict;
+
+    friend void PrintTo(const Row& the, std::ostream* out) { *out << the.What; }
 };
 
 Room Times(const Room& need, int runs) {

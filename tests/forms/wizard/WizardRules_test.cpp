@@ -1,5 +1,6 @@
 #include "WizardWorld.h"
 #include "forms/wizard/WizardFC.h"
+#include "support/Named.h"
 
 #include <gtest/gtest.h>
 
@@ -89,6 +90,10 @@ struct UnitCase {
     const char* Atmosphere;
     const char* AtmPress;
     const char* Viscosity;
+
+    friend void PrintTo(const UnitCase& the, std::ostream* out) {
+        *out << StoredOf(config::UnitSystems, the.Entry);
+    }
 };
 
 class WizardUnits : public testing::TestWithParam<UnitCase> {};
@@ -119,7 +124,8 @@ INSTANTIATE_TEST_SUITE_P(Systems, WizardUnits, testing::Values(
     UnitCase{1, "15.5556", "14.73",    "ºC", "psia", "PSI", "14.695949", "cP"},
     UnitCase{2, "15.00",   "1.01325",  "ºC", "bar",  "bar", "1.01325",   "cP"},
     UnitCase{3, "59.00",   "1.01325",  "ºF", "bar",  "bar", "1.01325",   "cP"},
-    UnitCase{4, "20.00",   "0.101325", "ºC", "MPa",  "MPa", "0.101325",  "mPa-s"}));
+    UnitCase{4, "20.00",   "0.101325", "ºC", "MPa",  "MPa", "0.101325",  "mPa-s"}),
+    By([](const UnitCase& row) { return StoredOf(config::UnitSystems, row.Entry); }));
 // clang-format on
 
 TEST(WizardRules, the_standard_brings_the_units_back_only_where_they_differ) {
@@ -141,6 +147,10 @@ struct EntryCase {
     bool Viscosity;
     bool Others; // the isentropic coefficient and the captions
     bool AGA7;
+
+    friend void PrintTo(const EntryCase& the, std::ostream* out) {
+        *out << StoredOf(config::FlowAlgorithms, the.Standard);
+    }
 };
 
 class WizardStandard : public testing::TestWithParam<EntryCase> {};
@@ -165,7 +175,8 @@ INSTANTIATE_TEST_SUITE_P(Entries, WizardStandard, testing::Values(
     EntryCase{1, false, false, true},
     // Deliberate: the caption stays while the entry is shut.
     EntryCase{2, false, true,  false},
-    EntryCase{3, true,  true,  false}));
+    EntryCase{3, true,  true,  false}),
+    By([](const EntryCase& row) { return StoredOf(config::FlowAlgorithms, row.Standard); }));
 // clang-format on
 
 class WizardSource : public testing::TestWithParam<int> {};
@@ -185,7 +196,8 @@ TEST_P(WizardSource, decides_what_can_be_said_of_the_composition) {
     world.PlayPages();
 }
 
-INSTANTIATE_TEST_SUITE_P(Entries, WizardSource, testing::Range(0, 5));
+INSTANTIATE_TEST_SUITE_P(Entries, WizardSource, testing::Range(0, 5),
+                         By([](int entry) { return StoredOf(config::GasDensitySources, entry); }));
 
 TEST(WizardRules, another_source_takes_the_composition_from_outside_back) {
     WizardWorld world;

@@ -1,6 +1,7 @@
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/station/PassStory.h"
 #include "forms/wizard/WizardFC.h"
+#include "support/Named.h"
 
 #include <gtest/gtest.h>
 
@@ -29,8 +30,8 @@ TEST_P(MissingValue, keeps_the_page_under_one_message) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Fields, MissingValue,
-                         testing::Values("TextDensityStandardTemp", "TextDensityStandardP", "Text1",
-                                         "Text2"));
+                         testing::Values("TextDensityStandardTemp", "TextDensityStandardP", "Text1", "Text2"),
+                         byText);
 
 // Next is back beside Finish then, and leads nowhere; but it deliberately takes the frames away.
 TEST(WizardFinish, next_on_the_last_page_hides_the_composition_of_any_source_but_aga8) {

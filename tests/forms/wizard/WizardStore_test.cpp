@@ -1,4 +1,5 @@
 #include "WizardWorld.h"
+#include "support/Named.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,8 @@ namespace {
 struct StoreCase {
     int Entry;
     const char* Stored;
+
+    friend void PrintTo(const StoreCase& the, std::ostream* out) { *out << the.Stored; }
 };
 
 class StoredStandard : public testing::TestWithParam<StoreCase> {};
@@ -22,7 +25,8 @@ TEST_P(StoredStandard, is_the_word_of_the_file) {
 
 INSTANTIATE_TEST_SUITE_P(Entries, StoredStandard,
                          testing::Values(StoreCase{0, "AGA3"}, StoreCase{1, "AGA7"},
-                                         StoreCase{2, "Accelabar-AGA-3-1992"}, StoreCase{3, "SYT6143-2004"}));
+                                         StoreCase{2, "Accelabar-AGA-3-1992"}, StoreCase{3, "SYT6143-2004"}),
+                         By(&StoreCase::Stored));
 
 class StoredSource : public testing::TestWithParam<StoreCase> {};
 
@@ -41,7 +45,8 @@ TEST_P(StoredSource, is_the_word_of_the_file) {
 INSTANTIATE_TEST_SUITE_P(Entries, StoredSource,
                          testing::Values(StoreCase{0, "MEASURED"}, StoreCase{1, "AGA8"},
                                          StoreCase{2, "SGERG88"}, StoreCase{3, "ISO-12213-2-1997"},
-                                         StoreCase{4, "ISO-12213-3-1997"}));
+                                         StoreCase{4, "ISO-12213-3-1997"}),
+                         By(&StoreCase::Stored));
 
 TEST(StoreWizardValues, without_a_standard_stores_the_last_word) {
     WizardWorld world;
