@@ -77,6 +77,7 @@ double SecondsToWindow(benchmark::State& state, const std::string& command) {
 Work Starting(const std::string& program, std::chrono::seconds rest = {}) {
     return [program, rest](benchmark::State& state, int scale) {
         const OpenProject project(scale);
+        qputenv("BENCH_STATIONS", QByteArray::number(SampleStations * scale));
         for (auto _ : state) {
             std::this_thread::sleep_for(rest);
             TakeSeconds(state, SecondsToWindow(state, "exec " + Beside(program)));
@@ -101,14 +102,14 @@ void RecordsAlone(benchmark::State& state, int scale) {
 
 void ContestProcesses() {
     Contest("start", Ours, Starting("bench-program-start"), Pace::Once);
-    Contest("start", Floor, Starting("bench-empty-window"), Pace::Once);
-    // The first text makes the toolkit look for its fonts.
-    Contest("start", "one word", Starting("bench-empty-window word"), Pace::Once);
+    Contest("start", Floor, Starting("bench-plain-windows"), Pace::Once);
+    Contest("start", "main window", Starting("bench-plain-windows main"), Pace::Once);
+    Contest("start", "empty window", Starting("bench-empty-window"), Pace::Once);
     // A processor that has had nothing to do for two seconds has forgotten what it knew, and is slower for a
     // while.
     constexpr std::chrono::seconds rest(2);
     Contest("rested_start", Ours, Starting("bench-program-start whole"), Pace::Once);
-    Contest("rested_start", Floor, Starting("bench-empty-window", rest), Pace::Once);
+    Contest("rested_start", Floor, Starting("bench-plain-windows", rest), Pace::Once);
     Contest("memory", Ours, Peak, Pace::Once);
     Contest("memory", Floor, RecordsAlone, Pace::Once);
 }
