@@ -36,12 +36,12 @@ int Run(CLI::App& app, std::vector<std::string> arguments, const int& status) {
 }
 
 int Main(int argc, const char* const* argv) {
-    CLI::App app("Looks over the configurations of the stations of a project, and changes nothing.",
+    CLI::App app("Looks over the configurations of the stations of a project and their history.",
                  "gfc-audit");
     app.footer("\"gfc-audit COMMAND --help\" explains a command.\n"
                "Exit codes:\n"
                "  0  nothing found at the level that was asked for\n"
-               "  1  there are findings\n"
+               "  1  there are findings, or differences\n"
                "  2  wrong use: no such command, option, folder or station\n"
                "  3  the project could not be asked");
     app.set_version_flag("--version", GFC_VERSION);
@@ -53,6 +53,14 @@ int Main(int argc, const char* const* argv) {
     const Context context{machine, status};
     AddCheckCommand(app, context);
     AddSuggestCommand(app, context);
+#ifdef GFC_RECORD
+    AddReportCommand(app, context);
+    AddHistoryCommand(app, context);
+    AddShowCommand(app, context);
+    AddDiffCommand(app, context);
+    AddVerifyCommand(app, context);
+    AddRestoreCommand(app, context);
+#endif
     return Run(app, platform::ConsoleArguments(argc, argv), status);
 }
 

@@ -14,7 +14,8 @@ namespace gfc::platform {
 struct Machine;
 }
 
-// The command line of gfc-audit: one source file for each subcommand. None of them writes a station's file.
+// The command line of gfc-audit: one source file for each subcommand. None of them writes a station's file
+// but "restore".
 namespace gfc::commands {
 
 // Ends a command with a message that says what, where and what to do, and with an exit code.
@@ -32,6 +33,14 @@ struct Context {
 
 void AddCheckCommand(CLI::App& app, Context context);
 void AddSuggestCommand(CLI::App& app, Context context);
+#ifdef GFC_RECORD
+void AddHistoryCommand(CLI::App& app, Context context);
+void AddShowCommand(CLI::App& app, Context context);
+void AddDiffCommand(CLI::App& app, Context context);
+void AddVerifyCommand(CLI::App& app, Context context);
+void AddReportCommand(CLI::App& app, Context context);
+void AddRestoreCommand(CLI::App& app, Context context);
+#endif
 
 // A line for whoever sits at the screen, apart from what a command gives out.
 void Tell(std::string_view text);

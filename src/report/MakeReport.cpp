@@ -1,0 +1,142 @@
+#include "report/MakeReport.h"
+
+#include "audit/Check.h"
+#include "audit/StationPages.h"
+#include "record/Sha256.h"
+#include "services/CodePage.h"
+#include "services/modLocalTimeAndGMT.h"
+
+#include <cstdio>
+
+namespace gfc::report {
+
+namespace {
+
+std::string TimeNow(const platform::Machine& machine) {
+    services::SystemTime now;
+    services::GetGMTNow(machine.Clock, machine.TimeZone, now);
+    char text[40];
+    (void)std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02dZ", int(now.wYear), int(now.wMonth),
+                        int(now.wDay), int(now.wHour), int(now.wMinute), int(now.wSecond));
+    return text;
+}
+
+SummaryTable FindingsTable(const audit::StationReport& checked) {
+    SummaryTable table{
+        "Findings of the check", {"Severity", "Run", "Variable", "Value", "Finding", "Rule"}, {}, {}};
+    for (const audit::Finding& finding : checked.Findings)
+        table.Rows.push_back({std::string(audit::WordOf(finding.Severity)),
+                              finding.Run == 0 ? std::string("-") : std::to_string(finding.Run),
+                              finding.Variable, finding.Value, finding.Text,
+                              std::string(finding.Row().Name)});
+    if (table.Rows.empty())
+        table.Line = "Nothing was found.";
+    return table;
+}
+
+// What the record says of one station.
+class Past {
+public:
+    Past(const Sources& sources, const std::string& station)
+        : recorder_(sources.Recorder),
+          record_(config::RecordPath(sources.Project.Paths, sources.Project.ProjectName)),
+          entries_(recorder_.Entries(record_, station)) {}
+
+    // The last entry, if it left this file.
+    [[nodiscard]] std::int64_t EntryOf(const std::string& fileHash) const {
+        return !entries_.empty() && entries_.back().FileHash == fileHash ? entries_.back().Number : 0;
+    }
+
+    [[nodiscard]] SummaryTable ChangesSince(std::int64_t since) const {
+        SummaryTable table{"Changes since entry " + std::to_string(since),
+                           {"Entry", "Time (UTC)", "User ID", "Command", "Key", "Old", "New"},
+                           {},
+                           {}};
+        for (const config::RecordEntry& entry : entries_)
+            if (entry.Number > since)
+                AddChanges(entry, table);
+        if (table.Rows.empty())
+            table.Line = "Nothing was changed.";
+        return table;
+    }
+
+private:
+    void AddChanges(const config::RecordEntry& entry, SummaryTable& table) const {
+        const std::vector<std::string> head = {std::to_string(entry.Number), entry.Time,
+                                               entry.User.empty() ? entry.MachineUser : entry.User,
+                                               entry.Command};
+        const auto changes = recorder_.Changes(record_, entry.Number);
+        if (changes.empty())
+            table.Rows.push_back(head);
+        for (const config::KeyChange& change : changes) {
+            auto row = head;
+            row.push_back("[" + change.Section + "] " + change.Key);
+            row.push_back(change.Old.value_or("(none)"));
+            row.push_back(change.New.value_or("(none)"));
+            table.Rows.push_back(std::move(row));
+        }
+    }
+
+    config::Recorder& recorder_;
+    std::string record_;
+    std::vector<config::RecordEntry> entries_;
+};
+
+std::string NameOfFile(const std::string& path) {
+    return path.substr(path.find_last_of("/\\") + 1);
+}
+
+void AddConfiguration(const Sources& sources, const Request& request, const std::string& bytes,
+                      StationPages& pages) {
+    const project::Project& project = sources.Project;
+    const std::string path = project.ConfigFileOf(pages.Name);
+    project::TagList tags;
+    if (sources.Library != nullptr)
+        tags = sources.Library->ReadTags(pages.Name, project.ProjectFile, {});
+    const Past past(sources, pages.Name);
+    pages.FileHash = record::Sha256(bytes);
+    pages.File = services::FromCodePage(bytes);
+    pages.Entry = past.EntryOf(pages.FileHash);
+    pages.Tables = audit::PagesOf({path, project.ProjectName, pages.Name, bytes}, tags, sources.Machine);
+    pages.Tables.push_back(FindingsTable(
+        audit::CheckFile(sources.Machine.Files, {path, project.ProjectFile, project.ProjectName, pages.Name},
+                         sources.Library == nullptr ? nullptr : &tags)));
+    if (request.Since)
+        pages.Tables.push_back(past.ChangesSince(*request.Since));
+}
+
+StationPages PagesOf(const Sources& sources, const Request& request, const std::string& station) {
+    const std::string path = sources.Project.ConfigFileOf(station);
+    StationPages pages{station, NameOfFile(path), {}, 0, {}, {}};
+    if (const auto bytes = sources.Machine.Files.Read(path))
+        AddConfiguration(sources, request, *bytes, pages);
+    return pages;
+}
+
+} // namespace
+
+std::optional<Report> MakeReport(const Sources& sources, const Request& request, const Progress& progress) {
+    const project::Project& project = sources.Project;
+    const auto entries = sources.Recorder.Entries(config::RecordPath(project.Paths, project.ProjectName), {});
+    Report report;
+    report.Time = TimeNow(sources.Machine);
+    report.Project = project.ProjectName;
+    report.ProjectFile = project.ProjectFile;
+    report.User = request.User;
+    report.MachineUser = sources.Machine.Paths.UserName();
+    report.Version = request.Version;
+    if (!entries.empty()) {
+        report.Entries = entries.back().Number;
+        report.HistoryHash = entries.back().Hash;
+    }
+    if (request.Since)
+        report.Since = "since entry " + std::to_string(*request.Since);
+    for (const std::string& station : request.Stations) {
+        report.Stations.push_back(PagesOf(sources, request, station));
+        if (progress && !progress(report.Stations.size()))
+            return std::nullopt;
+    }
+    return report;
+}
+
+} // namespace gfc::report

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "config/Recorder.h"
+#include "platform/Machine.h"
+#include "project/AddOnLibrary.h"
+#include "project/Project.h"
+#include "report/Report.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace gfc::report {
+
+struct Request {
+    std::vector<std::string> Stations; // names as the project writes them
+    std::string User;
+    // Changes are listed from behind this entry on; nothing for no list.
+    std::optional<std::int64_t> Since;
+    std::string Version; // of the program
+};
+
+// What reports are made from; all must outlive the call. Without a library there are no modules, and the
+// rules about tags are left out.
+struct Sources {
+    platform::Machine& Machine;
+    project::AddOnLibrary* Library;
+    const project::Project& Project;
+    config::Recorder& Recorder;
+};
+
+// Tells after each station how many are done; with false it ends there, and there is no report.
+using Progress = std::function<bool(std::size_t done)>;
+
+[[nodiscard]] std::optional<Report> MakeReport(const Sources& sources, const Request& request,
+                                               const Progress& progress = {});
+
+} // namespace gfc::report
