@@ -1,5 +1,6 @@
 #include "forms/main_window/GFCPrincipal.h"
 
+#include "forms/main_window/OfferWorkshop.h"
 #include "forms/main_window/StationNodes.h"
 #include "forms/program/CommandRecord.h"
 #include "forms/station/StationCommands.h"
@@ -76,8 +77,11 @@ bool GFCPrincipal::IsOnlyInstance() {
     return false;
 }
 
-void GFCPrincipal::RefuseToStart(const std::string& boxTitle, const std::string& text) {
+void GFCPrincipal::RefuseToStart(const std::string& boxTitle, const std::string& text,
+                                 const std::function<void()>& offer) {
     program_.Screen.Ask({.Title = boxTitle, .Text = text, .TheIcon = ui::Icon::Exclamation});
+    if (offer)
+        offer();
     exitCode_ = failedStart;
     Unload();
 }
@@ -106,7 +110,7 @@ bool GFCPrincipal::LoadProjectAndStations() {
     session_.Station.ProjectFile = session_.Project.ProjectFile;
     session_.Station.ProjectName = session_.Project.ProjectName;
     if (outcome == project::LoadOutcome::NoProject)
-        RefuseToStart(title, "Error: please open the I/O Workshop");
+        RefuseToStart(title, "Error: please open the I/O Workshop", [this] { OfferWorkshop(program_); });
     else if (outcome == project::LoadOutcome::NoStations)
         RefuseToStart(title, "Error: no stations in project");
     // A list that could not be had leaves an empty tree, without a word.

@@ -12,6 +12,7 @@
 #include "ui/Tree.h"
 
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -114,7 +115,9 @@ private:
     void AttachMenuImages();
     void PrepareWindow();
     [[nodiscard]] bool LoadProjectAndStations();
-    void RefuseToStart(const std::string& title, const std::string& text);
+    // What helps on is offered behind the message, if anything does.
+    void RefuseToStart(const std::string& title, const std::string& text,
+                       const std::function<void()>& offer = {});
 
     void TellTrouble();
     void Exit();

@@ -214,6 +214,32 @@ TEST_F(StartUp, without_an_open_project_it_ends_with_a_message) {
     EXPECT_EQ(Screen.FormsShown.back(), "UserIDForm");
 }
 
+TEST_F(StartUp, without_an_open_project_the_window_of_the_stand_in_is_offered_where_it_lies_beside) {
+    const std::string window = "/opt/gfc/io-workshop-window";
+    Files.Content[window] = "";
+    Launcher.Works = false;
+    Library.ProjectFile.clear();
+    Start();
+    TheStory.Box("Gas Flow Computer", "Error: please open the I/O Workshop", ui::Icon::Exclamation)
+        .Box("Gas Flow Computer", "", ui::Icon::Question, ui::Answer::Yes)
+        .Box("Gas Flow Computer", window + " could not be started. Start it from the desktop's menu.",
+             ui::Icon::Exclamation);
+    Play();
+    EXPECT_TRUE(Screen.Ended());
+    EXPECT_EQ(Launcher.Started, std::vector{window});
+}
+
+TEST_F(StartUp, the_window_of_the_stand_in_stays_away_from_who_does_not_want_it) {
+    Files.Content["/opt/gfc/io-workshop-window"] = "";
+    Library.ProjectFile.clear();
+    Start();
+    TheStory.Box("Gas Flow Computer", "Error: please open the I/O Workshop", ui::Icon::Exclamation)
+        .Box("Gas Flow Computer", "", ui::Icon::Question, ui::Answer::No);
+    Play();
+    EXPECT_TRUE(Screen.Ended());
+    EXPECT_TRUE(Launcher.Started.empty());
+}
+
 TEST_F(StartUp, without_stations_it_ends_with_a_message) {
     Library.Stations.clear();
     Start();
