@@ -44,6 +44,7 @@ void ContestKeys();
 void ContestStations();
 void ContestTree();
 void ContestTags();
+void ContestAudit();
 void ContestWindows();
 void ContestProcesses();
 

@@ -91,8 +91,8 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     if (!Initialize(argc, argv))
         return EXIT_FAILURE;
-    for (auto* contest :
-         {ContestKeys, ContestStations, ContestTree, ContestTags, ContestWindows, ContestProcesses})
+    for (auto* contest : {ContestKeys, ContestStations, ContestTree, ContestTags, ContestAudit,
+                          ContestWindows, ContestProcesses})
         contest();
     const std::vector<std::string> rows = ChooseRows(options.Rows);
     if (rows.empty())
