@@ -145,7 +145,11 @@ bool ModifyFlow::TrialPasses() {
             });
         // The choices are those of the station's own file: a copy that could not be made knows none.
         config::StationConfig choicesOfTrial;
-        binding::BuildExpectedTags(program_.Ini, trial.Path(), choicesOfTrial, session_.Expected);
+        session_.Expected = {};
+        // Nothing is changed here, but what cannot be read is told in the same way.
+        (void)program_.Storage.Change({TrialCopy::Lost}, trial.Path(), [&](config::FileIni&) {
+            binding::BuildExpectedTags(program_.Ini, trial.Path(), choicesOfTrial, session_.Expected);
+        });
     }
     return binding::CheckExpectedTags(session_.Expected, session_.Inventory);
 }

@@ -10,6 +10,9 @@
 #include "forms/runs/EnableFault.h"
 #include "forms/station/StationCommands.h"
 
+#include <optional>
+#include <utility>
+
 namespace gfc::forms {
 
 namespace {
@@ -52,12 +55,30 @@ std::string ImageOfSelectedNode(Program& program) {
     return selected == 0 ? std::string() : tree.At(selected).Image;
 }
 
-// Its result as a whole is not used: only the entries of the selected run count.
-void CheckTagsOfFile(Program& program) {
+// What the command goes by, all from one reading of the file.
+struct StoredRun {
+    config::StationConfig Station; // the common part
+    std::string Configured;        // the flag that says whether the run ever was
+};
+
+// Nothing if the file cannot be read, and a person was told. The result of the check as a whole is not used:
+// only the entries of the selected run count.
+std::optional<StoredRun> ReadStored(Program& program, int run) {
     auto& session = program.Session;
-    ReadStationTags(program);
-    binding::BuildExpectedTags(program.Ini, session.ConfigFile(), session.Station, session.Expected);
+    const std::string file = session.ConfigFile();
+    StoredRun stored{session.Station, {}};
+    StartAfresh(stored.Station);
+    const std::string lost = (run == 0 ? "The run" : node::RunText(run)) + " was not enabled.";
+    // Nothing is changed here, but what cannot be read is told in the same way.
+    const bool read = program.Storage.Change({lost}, file, [&](config::FileIni&) {
+        binding::BuildExpectedTags(program.Ini, file, session.Station, session.Expected);
+        config::LoadStationConfig(program.Ini, stored.Station, file);
+        stored.Configured = program.Ini.ReadKey(flags, ConfiguredKey(run), file);
+    });
+    if (!read)
+        return std::nullopt;
     (void)binding::CheckExpectedTags(session.Expected, session.Inventory);
+    return stored;
 }
 
 // Given up, a run with errors goes on being enabled in the file; what is wrong with it is told all the same.
@@ -87,12 +108,10 @@ void Refuse(Program& program, int run, const EnableFault& fault) {
 }
 
 // The station as its file has it, but with all runs off in memory: adding a run needs that one alone.
-void LoadWithoutRuns(Program& program) {
-    auto& session = program.Session;
-    auto& station = session.Station;
-    session.EditMode = EditMode::None;
-    StartAfresh(station);
-    config::LoadStationConfig(program.Ini, station, session.ConfigFile());
+void TakeWithoutRuns(Program& program, config::StationConfig stored) {
+    auto& station = program.Session.Station;
+    program.Session.EditMode = EditMode::None;
+    station = std::move(stored);
     station.FlagAGA7 = station.FlowAlgorithm == config::algorithm::AGA7;
     station.Measured = station.GasDensitySource == config::source::Measured;
     for (int run = 1; run <= config::MaxRuns; ++run)
@@ -116,9 +135,7 @@ void OfferToConfigure(Program& program, int run) {
     program.Session.Modules.ClearCounts();
 }
 
-void Enable(Program& program, int run) {
-    const std::string configured =
-        program.Ini.ReadKey(flags, ConfiguredKey(run), program.Session.ConfigFile());
+void Enable(Program& program, int run, const std::string& configured) {
     if (configured == config::Yes) {
         if (StoreEnabled(program, run, true))
             ShowEnabled(program, run, true);
@@ -128,7 +145,7 @@ void Enable(Program& program, int run) {
     // Any other word, or none, is deliberately passed over in silence.
 }
 
-void EnableSelected(Program& program, int run) {
+void EnableSelected(Program& program, int run, const std::string& configured) {
     if (run == 0) {
         program.Screen.Ask({.Title = "Error select run",
                             .Text = "Please select the run that wish to enable at individual parameters",
@@ -141,7 +158,7 @@ void EnableSelected(Program& program, int run) {
                             .TheIcon = ui::Icon::Information});
         return;
     }
-    Enable(program, run);
+    Enable(program, run, configured);
 }
 
 } // namespace
@@ -150,13 +167,16 @@ void EnableSelected(Program& program, int run) {
 void EnableRunCommand(Program& program) {
     auto& session = program.Session;
     const int run = node::RunOf(session.SelectedNodeText);
-    CheckTagsOfFile(program);
+    ReadStationTags(program);
     if (program.Screen.Ended())
+        return;
+    auto stored = ReadStored(program, run);
+    if (!stored)
         return;
     if (const auto fault = FindEnableFault(session.Expected, run))
         return Refuse(program, run, *fault);
-    LoadWithoutRuns(program);
-    EnableSelected(program, run);
+    TakeWithoutRuns(program, std::move(stored->Station));
+    EnableSelected(program, run, stored->Configured);
     // The panes go on showing the station: its flags are again those of the file.
     if (!program.Screen.Ended() && !session.Station.CurrentStation.empty())
         config::LoadStationConfig(program.Ini, session.Station, session.ConfigFile());
