@@ -112,10 +112,22 @@ constexpr std::array<ModuleRow, 3> ModuleRows = {{
 }};
 // clang-format on
 
+// Neighbours mostly stand in one module and share its text, which is then compared once.
+int CountInModule(const std::string& name, const project::TagList& tags) {
+    int count = 0;
+    bool isIn = false;
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        if (i == 0 || tags[i].ModuleName != tags[i - 1].ModuleName)
+            isIn = services::EqualNoCase(tags[i].ModuleName, name);
+        count += isIn ? 1 : 0;
+    }
+    return count;
+}
+
 // A module of inputs and one of outputs count apart, as where the modules are chosen.
 bool IsThere(const ModuleRow& row, const std::string& name, const Inventory& inventory) {
-    return !name.empty() && (project::CountInModule(name, inventory.*row.Inputs) >= row.Registers ||
-                             project::CountInModule(name, inventory.*row.Outputs) >= row.Registers);
+    return !name.empty() && (CountInModule(name, inventory.*row.Inputs) >= row.Registers ||
+                             CountInModule(name, inventory.*row.Outputs) >= row.Registers);
 }
 
 void CheckModules(const Subject& subject, const Inventory& inventory, Sink& sink) {

@@ -3,12 +3,14 @@
 #include "config/AccelabarSizes.h"
 #include "config/Materials.h"
 #include "config/Vocabulary.h"
-#include "services/CodePage.h"
+#include "platform/NameTable.h"
 #include "services/Funciones_III.h"
 #include "services/Text.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace gfc::audit {
 
@@ -164,10 +166,16 @@ constexpr std::array Rows = std::to_array<ValueRow>({
 
 } // namespace
 
+// Asked of each line of a file.
 const ValueRow* ValueRowOf(std::string_view key) {
-    const auto row =
-        std::ranges::find_if(Rows, [&](const ValueRow& r) { return services::EqualBytesNoCase(r.Key, key); });
-    return row == Rows.end() ? nullptr : &*row;
+    static const platform::NameTable places = [] {
+        std::vector<std::string_view> keys;
+        for (const ValueRow& row : Rows)
+            keys.push_back(row.Key);
+        return platform::NameTable(std::move(keys));
+    }();
+    const auto place = places.Find(key);
+    return place ? &Rows.at(*place) : nullptr;
 }
 
 std::optional<double> NumberOf(std::string_view text) {

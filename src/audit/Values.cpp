@@ -1,7 +1,7 @@
+#include "audit/KnownKeys.h"
 #include "audit/Subject.h"
 #include "audit/ValueTable.h"
 #include "config/CommonLayout.h"
-#include "config/RunLayout.h"
 #include "services/CodePage.h"
 #include "services/Funciones_III.h"
 #include "services/Text.h"
@@ -67,13 +67,12 @@ void CheckEntries(const FileSection& section, const Choices& choices, const auto
 }
 
 // The keys of a run's section that say something of their own, and whose choices are made.
-bool IsOwn(std::string_view key, const RunSubject& run, const config::StationConfig& station) {
+bool IsOwn(std::string_view key, const PresentGroups& present) {
     constexpr std::string_view own = "BCDFGKST";
-    return std::ranges::any_of(config::RunRows(), [&](const config::RunRow& row) {
-        return own.find(row.Group) != std::string_view::npos && !config::IsBinding(row) &&
-               services::EqualBytesNoCase(row.Name, key) &&
-               config::GroupPresent(row.Group, station, run.Mechanical);
-    });
+    const KnownKeys& known = KnownKeys::OfRun();
+    const auto place = known.Find(key);
+    return place && !known.IsBinding(*place) && own.find(known.GroupOf(*place)) != std::string_view::npos &&
+           present.Has(known.GroupOf(*place));
 }
 
 } // namespace
@@ -90,9 +89,10 @@ void CheckValues(const Subject& subject, Sink& sink) {
     for (const RunSubject& run : subject.Runs())
         if (run.IsThere()) {
             sink.About(run.Number, run.On, run.Section);
+            const PresentGroups present(subject.Station(), run.Mechanical);
             CheckEntries(
                 *subject.Text().Find(run.Section), {subject.Station(), run.Mechanical},
-                [&](std::string_view key) { return IsOwn(key, run, subject.Station()); }, sink);
+                [&](std::string_view key) { return IsOwn(key, present); }, sink);
         }
 }
 

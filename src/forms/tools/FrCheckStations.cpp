@@ -38,7 +38,7 @@ FrCheckStations::FrCheckStations(Program& program) : ProgramForm(program, "FrChe
 
 void FrCheckStations::Load() {
     ListView1.AddColumns(
-        {{"Station", 18}, {"Severity", 9}, {"Run", 4}, {"Variable", 22}, {"Finding", 70}, {"What to do"}});
+        {{"Station", 18}, {"Severity", 9}, {"Run", 4}, {"Variable", 30}, {"Finding", 64}, {"What to do"}});
     const auto& project = session_.Project;
     const auto names = platform::FileNamesIn(project.Paths.ProjectFolder);
     plant_ = std::make_unique<audit::ProjectPlant>(program_.Machine.Files, program_.Library, project,
