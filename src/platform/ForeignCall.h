@@ -26,10 +26,17 @@ public:
         __asm__ volatile("fninit");
 #endif
         std::fesetenv(&before_);
+#ifdef __SSE__
+        __builtin_ia32_ldmxcsr(control_);
+#endif
     }
 
 private:
     std::fenv_t before_{};
+#ifdef __SSE__
+    // MinGW's account of the environment leaves it out.
+    unsigned control_ = __builtin_ia32_stmxcsr();
+#endif
 };
 
 #ifdef GFC_CALLEE_CLEARS_STACK
