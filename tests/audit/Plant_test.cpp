@@ -31,6 +31,8 @@ struct Case {
     SampleChoices Choices;
     Act Fault;
     Act Friend;
+
+    friend void PrintTo(const Case& the, std::ostream* out) { *out << RuleOf(the.Rule).Name; }
 };
 
 Act Set(const char* section, const char* key, const char* value) {

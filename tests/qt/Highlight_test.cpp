@@ -8,6 +8,7 @@
 #include "qt/support/WindowDriver.h"
 #include "qt/support/WindowLooks.h"
 #include "scenarios/Moves.h"
+#include "support/Named.h"
 #include "support/TestFolders.h"
 #include "support/World.h"
 

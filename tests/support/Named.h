@@ -1,9 +1,11 @@
 #pragma once
 
 #include "config/Vocabulary.h"
+#include "forms/program/Session.h"
 
 #include <cctype>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -43,3 +45,16 @@ std::string_view StoredOf(const Choices& choices, int entry) {
 }
 
 } // namespace gfc::test
+
+// Where the kinds stand that GoogleTest would list byte by byte.
+namespace gfc::forms {
+inline void PrintTo(EditMode mode, std::ostream* out) {
+    *out << "edit mode " << static_cast<int>(mode);
+}
+} // namespace gfc::forms
+
+namespace gfc::binding {
+inline void PrintTo(BindingStage stage, std::ostream* out) {
+    *out << "stage " << static_cast<int>(stage);
+}
+} // namespace gfc::binding
