@@ -57,7 +57,7 @@ Act Alike(const char* section, const char* stem, const char* otherSection, const
 // The instruments of run 1 and one of run 2, of the loops 201 and 202.
 void NameLoops(SampleStation& station) {
     station.Name("Run1", "GasTempKDIO", "TIT-201").Name("Run1", "GasPressKDIO", "PIT-201");
-    station.Name("Run1", "GasDPKDIO", "PDIT-201").Name("Run1", "StdVolFlowKDIO", "FI-201_VOL");
+    station.Name("Run1", "GasDPKDIO", "PDIT-201").Name("Run1", "StdVolFlowKDIO", "FY-201_VOL");
     station.Name("Run2", "GasTempKDIO", "TIT-202").Name("Run2", "GasPressKDIO", "PIT-202");
 }
 

@@ -61,7 +61,18 @@ bool Storage::PutAnew(const Telling& telling, const std::string& file,
 }
 
 bool Storage::Copy(const Telling& telling, const std::string& from, const std::string& to) {
-    return UntilStored(telling, to, [&] { return ini_.CopyConfigFile(from, to); });
+    bool tried = false;
+    return UntilStored(telling, to, [&] {
+        // A failing disk may have kept the copy from being taken back, which would be in its own way now.
+        if (std::exchange(tried, true) && AreAlike(from, to))
+            (void)ini_.DeleteConfigFile(to);
+        return ini_.CopyConfigFile(from, to);
+    });
+}
+
+bool Storage::AreAlike(const std::string& one, const std::string& other) {
+    const auto bytes = files_.Read(one);
+    return bytes && bytes == files_.Read(other);
 }
 
 config::Outcome Storage::TryToDelete(const std::string& file) {

@@ -17,7 +17,7 @@ namespace gfc::forms {
 // all that was entered still in hand; Close gives it up.
 class Storage {
 public:
-    Storage(platform::Files& files, ui::Screen& screen) : ini_(files), screen_(screen) {}
+    Storage(platform::Files& files, ui::Screen& screen) : files_(files), ini_(files), screen_(screen) {}
 
     // For reading: what is changed through it would be changed behind the back of this class.
     [[nodiscard]] const config::FileIni& Ini() const { return ini_; }
@@ -48,6 +48,9 @@ private:
     [[nodiscard]] bool WishesToRetry(const Telling& telling, const std::string& file,
                                      const config::Outcome& outcome);
 
+    [[nodiscard]] bool AreAlike(const std::string& one, const std::string& other);
+
+    platform::Files& files_;
     config::FileIni ini_;
     ui::Screen& screen_;
 };
