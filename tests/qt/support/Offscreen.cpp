@@ -38,7 +38,7 @@ void UseOffscreenPlatform(int scale) {
     if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
         qEnvironmentVariable("QT_QPA_PLATFORM") != "offscreen")
         return;
-    // Kept until the program ends: the platform reads it when the application is made.
+        // Kept until the program ends: the platform reads it when the application is made.
 #ifdef _WIN32
     // A colon ends the word that names the file, so that it is named without its drive.
     static const QTemporaryDir folder(QDir::current().absoluteFilePath(QStringLiteral("screen-XXXXXX")));
