@@ -4,25 +4,15 @@
 #include "record/History.h"
 #include "record/Sha256.h"
 #include "record/Verification.h"
-#include "services/modLocalTimeAndGMT.h"
+#include "services/UtcText.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace gfc::record {
 namespace {
 
 using config::FileChange;
 using config::FileState;
-
-std::string UtcText(const services::Clock& clock, const services::TimeZone& zone) {
-    services::SystemTime now;
-    services::GetGMTNow(clock, zone, now);
-    char text[40];
-    (void)std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02dZ", int(now.wYear), int(now.wMonth),
-                        int(now.wDay), int(now.wHour), int(now.wMinute), int(now.wSecond));
-    return text;
-}
 
 std::string HashOfFile(const FileState& file) {
     return file ? Sha256(*file) : std::string();
@@ -107,7 +97,7 @@ void ProjectRecorder::Enter(History& history, const FileChange& change) {
 void ProjectRecorder::Append(History& history, const FileChange& change, const FileState& before) {
     StoredEntry entry;
     auto& facts = entry.Facts;
-    facts.Time = UtcText(clock_, zone_);
+    facts.Time = services::UtcText(clock_, zone_);
     facts.User = change.User;
     facts.MachineUser = machineUser_;
     facts.Command = change.Command;

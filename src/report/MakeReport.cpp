@@ -4,22 +4,11 @@
 #include "audit/StationPages.h"
 #include "record/Sha256.h"
 #include "services/CodePage.h"
-#include "services/modLocalTimeAndGMT.h"
-
-#include <cstdio>
+#include "services/UtcText.h"
 
 namespace gfc::report {
 
 namespace {
-
-std::string TimeNow(const platform::Machine& machine) {
-    services::SystemTime now;
-    services::GetGMTNow(machine.Clock, machine.TimeZone, now);
-    char text[40];
-    (void)std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02dZ", int(now.wYear), int(now.wMonth),
-                        int(now.wDay), int(now.wHour), int(now.wMinute), int(now.wSecond));
-    return text;
-}
 
 SummaryTable FindingsTable(const audit::StationReport& checked) {
     SummaryTable table{
@@ -119,7 +108,7 @@ std::optional<Report> MakeReport(const Sources& sources, const Request& request,
     const project::Project& project = sources.Project;
     const auto entries = sources.Recorder.Entries(config::RecordPath(project.Paths, project.ProjectName), {});
     Report report;
-    report.Time = TimeNow(sources.Machine);
+    report.Time = services::UtcText(sources.Machine.Clock, sources.Machine.TimeZone);
     report.Project = project.ProjectName;
     report.ProjectFile = project.ProjectFile;
     report.User = request.User;
