@@ -1,20 +1,10 @@
 #include "services/Text.h"
 
+#include "services/CodePage.h"
 #include "services/Utf8.h"
 
 namespace gfc::services {
 namespace {
-
-// The capitals of the code page, as Unicode numbers them.
-char32_t FoldCharacter(char32_t code) {
-    const bool latin = code >= U'A' && code <= U'Z';
-    const bool accented = code >= 0xC0 && code <= 0xDE && code != 0xD7; // D7 is the multiplication sign
-    if (latin || accented)
-        return code + 0x20;
-    if (code == 0x0160 || code == 0x0152 || code == 0x017D)
-        return code + 1;
-    return code == 0x0178 ? 0xFF : code;
-}
 
 bool IsPlainByte(char byte) {
     return static_cast<unsigned char>(byte) < 0x80;
@@ -26,7 +16,7 @@ char FoldPlain(char byte) {
 
 bool SameNoCase(const Utf8Character& a, const Utf8Character& b) {
     return a.Valid == b.Valid &&
-           (a.Valid ? FoldCharacter(a.Code) == FoldCharacter(b.Code) : a.Code == b.Code);
+           (a.Valid ? MachinePage.Fold(a.Code) == MachinePage.Fold(b.Code) : a.Code == b.Code);
 }
 
 } // namespace
@@ -57,7 +47,7 @@ std::string FoldCase(std::string_view utf8) {
     while (!utf8.empty()) {
         const Utf8Character character = FirstCharacter(utf8);
         if (character.Valid)
-            AppendUtf8(folded, FoldCharacter(character.Code));
+            AppendUtf8(folded, MachinePage.Fold(character.Code));
         else
             folded += utf8.front();
         utf8.remove_prefix(character.Length);
