@@ -2,6 +2,7 @@
 #include "platform/DynamicLibrary.h"
 #include "platform/Machine.h"
 #include "platform/windows/CommandLine.h"
+#include "platform/windows/ViewerWatch.h"
 #include "platform/windows/Wide.h"
 #include "services/modLocalTimeAndGMT.h"
 #include "support/TempFolder.h"
@@ -80,6 +81,38 @@ TEST(Launcher, asks_for_a_maximised_window_alone) {
     const STARTUPINFOW start = windows::StartInfo(ViewerWindow::Maximised);
     EXPECT_EQ(start.dwFlags, DWORD{STARTF_USESHOWWINDOW});
     EXPECT_EQ(start.wShowWindow, SW_SHOWMAXIMIZED);
+}
+
+// A process that ends by itself with that code, and has ended.
+windows::Handle Ended(const std::string& code) {
+    std::wstring line = windows::CommandLine("cmd.exe", {"/c", "exit", code});
+    STARTUPINFOW start = windows::StartInfo(ViewerWindow::Normal);
+    PROCESS_INFORMATION process{};
+    EXPECT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                                 &process));
+    const windows::Handle thread(process.hThread);
+    EXPECT_EQ(::WaitForSingleObject(process.hProcess, 30'000), DWORD{WAIT_OBJECT_0});
+    return windows::Handle(process.hProcess);
+}
+
+TEST(ViewerWatch, tells_once_of_a_viewer_that_ended_badly_at_once) {
+    windows::ViewerWatch watch;
+    EXPECT_FALSE(watch.Failed()) << "none was started";
+    watch.Begin(Ended("3"));
+    EXPECT_TRUE(watch.Failed());
+    EXPECT_FALSE(watch.Failed());
+    watch.Begin(Ended("0"));
+    EXPECT_FALSE(watch.Failed());
+}
+
+TEST(ViewerWatch, says_nothing_of_a_viewer_that_is_there) {
+    windows::ViewerWatch watch;
+    HANDLE copy = nullptr;
+    ASSERT_TRUE(::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentProcess(), ::GetCurrentProcess(), &copy,
+                                  0, FALSE, DUPLICATE_SAME_ACCESS));
+    watch.Begin(windows::Handle(copy));
+    EXPECT_FALSE(watch.Failed());
+    EXPECT_FALSE(watch.Failed());
 }
 
 TEST(Paths, names_the_folder_of_this_program_and_that_of_the_profiles) {
