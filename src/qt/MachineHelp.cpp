@@ -19,7 +19,8 @@ constexpr UINT CloseAll = 0x0012;     // HH_CLOSE_ALL
 // The viewer is a library that stays loaded; null on a machine that has none.
 HtmlHelp* Viewer() {
     static HtmlHelp* const viewer = [] {
-        const HMODULE library = ::LoadLibraryW(L"hhctrl.ocx");
+        // The machine's own, and not what lies beside the program under that name.
+        const HMODULE library = ::LoadLibraryExW(L"hhctrl.ocx", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
         return library == nullptr ? nullptr
                                   : reinterpret_cast<HtmlHelp*>(
                                         reinterpret_cast<void*>(::GetProcAddress(library, "HtmlHelpA")));
@@ -39,13 +40,16 @@ void CloseWithTheProgram() {
 } // namespace
 
 bool OpenMachineHelp(const std::string& file, int context) {
-    if (!QFileInfo::exists(QString::fromStdString(file)) || Viewer() == nullptr)
+    const QString name = QString::fromStdString(file);
+    // The viewer takes names in the machine's code page; what that lacks it would look for as something else.
+    const QByteArray path = name.toLocal8Bit();
+    if (!QFileInfo::exists(name) || QString::fromLocal8Bit(path) != name || Viewer() == nullptr)
         return false;
     CloseWithTheProgram();
     const auto topic = static_cast<DWORD_PTR>(context);
-    if (context != 0 && Viewer()(::GetDesktopWindow(), file.c_str(), HelpContext, topic) != nullptr)
+    if (context != 0 && Viewer()(::GetDesktopWindow(), path.constData(), HelpContext, topic) != nullptr)
         return true;
-    return Viewer()(::GetDesktopWindow(), file.c_str(), DisplayTopic, 0) != nullptr;
+    return Viewer()(::GetDesktopWindow(), path.constData(), DisplayTopic, 0) != nullptr;
 }
 
 } // namespace gfc::qt
