@@ -70,7 +70,7 @@ void DemandNoTrouble(config::Recorder& recorder) {
 }
 
 Operand ReadOperand(const std::string& text, const std::string& projectFile, platform::Machine& machine) {
-    Operand operand{.Text = text, .Station = text};
+    Operand operand{.Text = text, .Station = text, .Bytes = {}};
     if (auto bytes = machine.Files.Read(text)) {
         operand.Bytes = *std::move(bytes);
         return operand;

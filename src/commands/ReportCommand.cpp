@@ -61,7 +61,7 @@ OpenProject ProjectOf(const Options& options, platform::Machine& machine) {
     open.Project.ProjectName = files.ProjectName;
     open.Project.Paths = files.Paths;
     for (const std::string& name : options.Stations)
-        open.Project.Stations.push_back({.Name = name});
+        open.Project.Stations.push_back({.Name = name, .Type = {}, .Address = {}});
     return open;
 }
 

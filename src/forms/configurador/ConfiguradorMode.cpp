@@ -69,7 +69,8 @@ bool Configurador::NoRunBoxSet() {
 }
 
 Configurador::PassedChoices Configurador::Choices() const {
-    PassedChoices choices{.Standard = general.CombStandard.ListIndex(),
+    PassedChoices choices{.Runs = {},
+                          .Standard = general.CombStandard.ListIndex(),
                           .Source = general.cbSourceGas.ListIndex(),
                           .FromOutside = general.cbSourceGas.ListIndex() > 0 && Option5.Value(),
                           .Units = general.CombUnits.ListIndex()};
