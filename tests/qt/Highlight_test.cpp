@@ -3,8 +3,7 @@
 #include "forms/binding/TagRuns.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "qt/ProbeForm.h"
-#include "qt/QtScreen.h"
-#include "qt/support/RandomHands.h"
+#include "qt/support/RandomSequence.h"
 #include "qt/support/WindowDriver.h"
 #include "qt/support/WindowLooks.h"
 #include "scenarios/Moves.h"
@@ -16,7 +15,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
-#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -24,8 +22,6 @@
 #include <QTreeView>
 #include <gtest/gtest.h>
 
-#include <deque>
-#include <functional>
 #include <memory>
 
 // What is highlighted is what happens: after every event, in every list and tree, and in the form behind
@@ -44,85 +40,6 @@ project::TagList TagsNamed(const std::string& stem, const std::string& type, int
         tags.push_back(tag);
     }
     return tags;
-}
-
-constexpr unsigned usualSeed = 20'240'611;
-
-unsigned Seed() {
-    const QByteArray given = qgetenv("GFC_SEED");
-    return given.isEmpty() ? usualSeed : given.toUInt();
-}
-
-// Boxes are answered at once, menus and help stay closed.
-class QuickScreen : public qt::QtScreen {
-public:
-    std::function<ui::Answer(const ui::Box&)> OnAsk;
-    ui::Answer Ask(const ui::Box& box) override {
-        if (OnAsk)
-            return OnAsk(box);
-        return box.TheButtons == ui::Buttons::YesNo ? ui::Answer::No : ui::Answer::Ok;
-    }
-    void PopUp(ui::MenuEntry&) override {}
-    void OpenHelp(const std::string&, int) override {}
-    bool ViewText(const std::string&, ui::WindowState) override { return true; }
-};
-
-// Events at random, with what the form's side does in between, until something is not as it is shown.
-class Sequence {
-public:
-    Sequence(ui::Form& form, QWidget& window, unsigned seed)
-        : Hands(window, seed), form_(form), window_(&window), seed_(seed) {}
-
-    RandomHands Hands;
-    std::function<std::string()> Between; // something of the form's own; the text says what
-    std::function<::testing::AssertionResult()> Also;
-
-    // The events that were sent until the window went, at most that many.
-    int Run(int events) {
-        for (int sent = 0; sent < events; ++sent) {
-            if (window_ == nullptr || !window_->isVisible())
-                return sent;
-            Note(Between && Hands.OneIn(10) ? Between() : Hands.Act());
-            if (!Holds()) {
-                Tell(sent);
-                return events;
-            }
-        }
-        return events;
-    }
-
-private:
-    bool Holds() {
-        if (window_ == nullptr || !window_->isVisible())
-            return true;
-        outcome_ = HighlightsWhatIsSelected(form_, *window_);
-        if (outcome_ && Also)
-            outcome_ = Also();
-        return static_cast<bool>(outcome_);
-    }
-    void Note(const std::string& event) {
-        constexpr std::size_t kept = 8;
-        trail_.push_back(event);
-        if (trail_.size() > kept)
-            trail_.pop_front();
-    }
-    void Tell(int sent) {
-        std::string trail;
-        for (const std::string& event : trail_)
-            trail += "\n  " + event;
-        ADD_FAILURE() << "event " << sent << " of GFC_SEED=" << seed_ << ": " << outcome_.message()
-                      << "\nlast events:" << trail;
-    }
-
-    ui::Form& form_;
-    QPointer<QWidget> window_;
-    unsigned seed_;
-    std::deque<std::string> trail_;
-    ::testing::AssertionResult outcome_ = ::testing::AssertionSuccess();
-};
-
-void TellOf(const char* what, int events) {
-    std::printf("%d random events over %s, GFC_SEED=%u\n", events, what, Seed());
 }
 
 } // namespace

@@ -169,12 +169,38 @@ void PressureTakesAnotherTag(Story& story) {
         .Click(configurador, "btExtAtmChange")
         .SeeText("Step", "Label1", "Press 'Continue' to configure common Atmospheric Pressure I/O assignment")
         .Click("Step", "Command1")
+        // Neither the tag that it has nor that of the density.
+        .Check([](Driver& eyes) {
+            EXPECT_EQ(eyes.Cell("TagRuns", "ListViewRuns", 2, 1), "FT-3");
+            EXPECT_EQ(eyes.Cell("TagRuns", "ListViewRuns", 7, 1), "FT-8");
+            EXPECT_EQ(eyes.Cell("TagRuns", "ListViewRuns", 8, 1), "FT-10");
+        })
         .ClickNode("TagRuns", "TreeAGA", "Common Inputs\\Atmospheric Pressure")
         .Click("TagRuns", "Command4")
         .ClickRow("TagRuns", "ListViewRuns", 5)
         .Click("TagRuns", "Command1")
         .Click("TagRuns", "Command5")
         .SeeText(configurador, "AtmExtName", "Name: FT-6");
+    Save(story);
+}
+
+// What was bound under other units is bound again before it is stored.
+void AnotherChoiceOwesThePassAgain(Story& story) {
+    Configure(story, north);
+    story.Menu(configurador, "ConfigAll")
+        .Click(configurador, "Run22")
+        .Select(configurador, "CombStandard", 2)
+        .Select(configurador, "cbSourceGas", 2)
+        .SelectTab(configurador, "SSTab2", 3)
+        .Click(configurador, "Option5")
+        .SelectTab(configurador, "SSTab2", 0);
+    PassOverRun2(story);
+    story.Select(configurador, "CombUnits", 2)
+        .Menu(configurador, "SalvarSalir2")
+        .Box("I/O Tag assignments configuration...", "", Icon::Exclamation)
+        .SeeShown(configurador)
+        .SelectTab(configurador, "SSTab2", 0);
+    PassOverRun2(story);
     Save(story);
 }
 
@@ -260,6 +286,12 @@ std::vector<Scenario> ConfiguradorScenarios() {
              [](FakeProgram& program) {
                  EXPECT_EQ(ValueOf(program, "AGA3", "CommonPaKDIOTag"), "FT-6");
                  EXPECT_EQ(ValueOf(program, "Run2", "PaKDIORegAddr"), "1006");
+             }),
+        Told("configurator_owes_the_pass_again_after_another_choice", moves::ThreeStations,
+             AnotherChoiceOwesThePassAgain,
+             [](FakeProgram& program) {
+                 EXPECT_EQ(ValueOf(program, "Run2", "SystemUnits"), "Metric");
+                 EXPECT_NE(ValueOf(program, "Run2", "GasDPKDIOTag"), "");
              }),
         Told("configurator_comes_back_after_a_cancelled_pass", moves::ThreeStations, CancelledPassLeadsBack,
              NothingWritten),
