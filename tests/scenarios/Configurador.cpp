@@ -14,16 +14,17 @@ const std::string configurador = "Configurador";
 const std::string north = "All Stations\\North";
 const std::string northFile = "/jobs/KDOrmAGA_plant_North.ini";
 
-const std::string stored = "; by hand\r\n"
-                           "[Station]\r\nEnableDataTraces=No\r\n"
-                           "[FlowRuns]\r\nRun1=No\r\nRun2=Yes\r\nFlowAlgorithm=AGA3\r\n"
-                           "GasDensitySource=MEASURED\r\nSystemUnits=Metric\r\n"
-                           "WrkFloatModName=VF0\r\nWrkIntLongModName=VL0\r\nWrkAnalogModName=VA0\r\n"
-                           "Run11=No\r\nRun22=Yes\r\n"
-                           "[AGA3]\r\nStandardT=15.00\r\nStandardP=1.01325\r\nFlowingViscosity=0.010268\r\n"
-                           "IsentropicCoeff=1.3\r\nCompressible=Yes\r\nPressType=Gage\r\nExtAtmPress=Yes\r\n"
-                           "CommonPaKDIORegAddr=1002\r\nCommonPaKDIOTag=FT-2\r\nCommonPaKDIOType=FX\r\n"
-                           "[Run2]\r\nStandardT=15.00\r\nGasDPKDIOTag=FT-9\r\n";
+const std::string stored =
+    "; by hand\r\n"
+    "[Station]\r\nEnableDataTraces=No\r\n"
+    "[FlowRuns]\r\nRun1=No\r\nRun2=Yes\r\nFlowAlgorithm=AGA3\r\n"
+    "GasDensitySource=MEASURED\r\nSystemUnits=Metric\r\n"
+    "WrkFloatModName=VF0\r\nWrkIntLongModName=VL0\r\nWrkAnalogModName=VA0\r\n"
+    "Run11=No\r\nRun22=Yes\r\n"
+    "[AGA3]\r\nStandardT=15.00\r\nStandardP=1.01325\r\nFlowingViscosity=0.010268\r\n"
+    "IsentropicCoeff=1.3\r\nCompressible=Yes\r\nPressType=Gage\r\nExtAtmPress=Yes\r\n"
+    "CommonPaKDIORegAddr=1002\r\nCommonPaKDIOTag=FT-2\r\nCommonPaKDIOType=FX\r\n"
+    "[Run2]\r\nStandardT=15.00\r\nGasDPKDIORegAddr=1009\r\nGasDPKDIOTag=FT-9\r\nGasDPKDIOType=FX\r\n";
 
 void NorthIsConfigured(FakeProgram& program) {
     moves::ThreeStations(program);
