@@ -26,7 +26,6 @@ public:
     bool Delete(const std::string&) override { return false; }
     bool CopyNew(const std::string&, const std::string&) override { return false; }
 
-    [[nodiscard]] const std::string& Path() const { return path_; }
     [[nodiscard]] const std::string& Bytes() const { return bytes_; }
 
 private:

@@ -273,7 +273,7 @@ constexpr std::array<Rule, static_cast<std::size_t>(Count)> Table = {{
 }};
 // clang-format on
 
-constexpr bool InOrder() {
+consteval bool InOrder() {
     for (std::size_t i = 0; i < Table.size(); ++i)
         if (Table[i].Id != static_cast<RuleId>(i))
             return false;

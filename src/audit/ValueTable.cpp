@@ -36,7 +36,7 @@ constexpr std::string_view TapPlaces[] = {"Up", "Down"};
 // clang-format on
 
 template <class Rows, class Row>
-constexpr auto WordsOf(const Rows& rows, std::string_view Row::*word) {
+consteval auto WordsOf(const Rows& rows, std::string_view Row::*word) {
     std::array<std::string_view, std::tuple_size_v<Rows>> words;
     std::ranges::transform(rows, words.begin(), word);
     return words;

@@ -125,7 +125,7 @@ constexpr Presence Composition {BindsComposition,   ChecksComposition,    BindsC
 constexpr Presence GasValues   {BindsGasParameters, ChecksGasParameters,  BindsGasParameters};
 
 // One text for all three, where they agree.
-constexpr Captions Alike(std::string_view caption) { return {caption, caption, caption}; }
+consteval Captions Alike(std::string_view caption) { return {caption, caption, caption}; }
 
 constexpr std::nullopt_t NoUnit = std::nullopt;
 

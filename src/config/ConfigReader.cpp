@@ -21,7 +21,7 @@ constexpr RunRow HydrogenOfDetail{'R', "GC_H2", GasBinding{GasSlot::XH2}, "KDIOA
 // Groups of a run's rows. In one word, since each key of a run is asked for its group.
 class Groups {
 public:
-    explicit constexpr Groups(std::string_view letters) {
+    explicit consteval Groups(std::string_view letters) {
         for (const char letter : letters)
             bits_ |= BitOf(letter);
     }

@@ -163,20 +163,6 @@ const std::string& TextOf(const RunRow& row, BindingPart part, const RunSource& 
                        row.Field);
 }
 
-std::string* PlaceOf(const RunRow& row, BindingPart part, const RunTarget& to) {
-    return std::visit(
-        Overload{
-            [&](CommonCopy field) { return field.Copy == nullptr ? nullptr : &(to.Mechanical.*field.Copy); },
-            [&](std::string RunMechanical::*field) { return &(to.Mechanical.*field); },
-            [&](std::string RunIO::*field) { return &(to.IO.*field); },
-            [&](TagBinding RunIO::*field) { return &PartOf(to.IO.*field, part); },
-            [&](SharedBinding field) { return &PartOf(to.IO.*field.Own, part); },
-            [&](GasBinding field) { return &PartOf(to.Gas[field.Slot], part); },
-            [&](GasValue field) { return &to.FixedValues[field.Slot].Tag; },
-        },
-        row.Field);
-}
-
 const std::string& PartOf(const TagBinding& binding, BindingPart part) {
     return binding.*MemberOf(part);
 }

@@ -82,8 +82,6 @@ struct RunTarget {
     RunMechanical& Mechanical;
     RunGas& FixedValues;
 };
-// Null for a text that is not read back.
-[[nodiscard]] std::string* PlaceOf(const RunRow& row, BindingPart part, const RunTarget& to);
 
 [[nodiscard]] std::string& PartOf(TagBinding& binding, BindingPart part);
 [[nodiscard]] const std::string& PartOf(const TagBinding& binding, BindingPart part);

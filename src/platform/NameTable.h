@@ -18,8 +18,6 @@ public:
 
     // The place of the name, counted from 0.
     [[nodiscard]] std::optional<std::size_t> Find(std::string_view name) const;
-    [[nodiscard]] std::string_view operator[](std::size_t place) const { return names_[place]; }
-    [[nodiscard]] std::size_t Count() const { return names_.size(); }
 
 private:
     [[nodiscard]] std::size_t SlotOf(std::string_view name) const;

@@ -85,11 +85,6 @@ void BuildAvailableLists(TagInventory& inventory, const WorkingModuleNames& work
         Append(inventory.AvailDigital, *more);
 }
 
-int CountInModule(std::string_view moduleName, const TagList& list) {
-    return static_cast<int>(
-        std::ranges::count_if(list, [&](const Tag& tag) { return EqualNoCase(tag.ModuleName, moduleName); }));
-}
-
 TagList MergeWithout(const TagList& a, const TagList& b, std::string_view moduleName) {
     TagList target;
     target.reserve(a.size() + b.size());

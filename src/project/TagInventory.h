@@ -52,8 +52,6 @@ struct WorkingModuleNames {
 // AvailLong is built for AGA-7 only, and otherwise left as it is.
 void BuildAvailableLists(TagInventory& inventory, const WorkingModuleNames& working, bool isAGA7);
 
-// Entries of the list whose module has this name, ignoring case.
-[[nodiscard]] int CountInModule(std::string_view moduleName, const TagList& list);
 // The entries of a, then those of b, that stand outside the module.
 [[nodiscard]] TagList MergeWithout(const TagList& a, const TagList& b, std::string_view moduleName);
 // One name for each run of neighbours in one module; names compare exactly here, unlike everywhere else.

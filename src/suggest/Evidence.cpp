@@ -39,7 +39,7 @@ constexpr std::array<EvidenceRow, static_cast<std::size_t>(Evidence::Count)> Tab
 }};
 // clang-format on
 
-constexpr bool InOrder() {
+consteval bool InOrder() {
     for (std::size_t i = 0; i < Table.size(); ++i)
         if (static_cast<std::size_t>(Table[i].Kind) != i)
             return false;

@@ -1,5 +1,6 @@
 #include "SampleStation.h"
 #include "config/ConfigReader.h"
+#include "config/Overload.h"
 #include "config/RunLayout.h"
 #include "support/MemoryFiles.h"
 
@@ -281,6 +282,21 @@ std::string FileOfAllKeys() {
             bytes.insert(0, key + "=" + std::to_string(++number) + "\r\n");
         });
     return "[Run1]\r\n" + bytes;
+}
+
+// Where a text is read to, told row by row; null for one that is not read back.
+std::string* PlaceOf(const RunRow& row, BindingPart part, const RunTarget& to) {
+    return std::visit(
+        Overload{
+            [&](CommonCopy field) { return field.Copy == nullptr ? nullptr : &(to.Mechanical.*field.Copy); },
+            [&](std::string RunMechanical::*field) { return &(to.Mechanical.*field); },
+            [&](std::string RunIO::*field) { return &(to.IO.*field); },
+            [&](TagBinding RunIO::*field) { return &PartOf(to.IO.*field, part); },
+            [&](SharedBinding field) { return &PartOf(to.IO.*field.Own, part); },
+            [&](GasBinding field) { return &PartOf(to.Gas[field.Slot], part); },
+            [&](GasValue field) { return &to.FixedValues[field.Slot].Tag; },
+        },
+        row.Field);
 }
 
 TEST_F(ConfigReader, reads_each_key_of_a_run_as_if_it_were_read_alone) {

@@ -132,12 +132,6 @@ TEST(AvailableLists, are_empty_of_floats_without_virtual_modules) {
     EXPECT_THAT(inventory.AvailFloat, IsEmpty());
 }
 
-TEST(ModuleCounts, compare_names_in_any_case) {
-    const TagList list = Module("Mé", "", "X", 2) + Module("N", "", "X", 1) + Module("MÉ", "", "X", 1);
-    EXPECT_EQ(CountInModule("mé", list), 3);
-    EXPECT_EQ(CountInModule("none", list), 0);
-}
-
 TEST(MergeWithout, copies_both_lists_in_order) {
     const TagList a = Module("M", "", "X", 1, "a") + Module("W", "", "X", 1, "w");
     const TagList b = Module("w", "", "X", 1, "w") + Module("M", "", "X", 1, "b");
