@@ -4,8 +4,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
-#include <exception>
 #include <iostream>
 
 namespace gfc::commands {
@@ -15,25 +13,6 @@ void Tell(std::string_view text) {
 }
 
 namespace {
-
-int Run(CLI::App& app, std::vector<std::string> arguments, const int& status) {
-    try {
-        std::ranges::reverse(arguments); // as the parser takes them
-        app.parse(arguments);
-        if (!std::cout.flush())
-            throw Failure(exitcode::NotToBeHad,
-                          "the output could not be written; check the disk and the access rights.");
-        return status;
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? exitcode::Clean : exitcode::WrongUse; // asking for help is one, too
-    } catch (const Failure& failure) {
-        Tell(failure.what());
-        return failure.Code;
-    } catch (const std::exception& error) {
-        Tell(error.what());
-        return exitcode::NotToBeHad;
-    }
-}
 
 int Main(int argc, const char* const* argv) {
     CLI::App app("Looks over the configurations of the stations of a project and their history.",
@@ -61,7 +40,7 @@ int Main(int argc, const char* const* argv) {
     AddVerifyCommand(app, context);
     AddRestoreCommand(app, context);
 #endif
-    return Run(app, platform::ConsoleArguments(argc, argv), status);
+    return RunApp(app, platform::ConsoleArguments(argc, argv), status);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -14,8 +15,8 @@ namespace gfc::platform {
 struct Machine;
 }
 
-// The command line of gfc-audit: one source file for each subcommand. None of them writes a station's file
-// but "restore".
+// The command lines: one source file for each subcommand. Those of gfc-audit stand here, and none of them
+// writes a station's file but "restore"; those of gfc-configure, which do write, in a folder of their own.
 namespace gfc::commands {
 
 // Ends a command with a message that says what, where and what to do, and with an exit code.
@@ -42,7 +43,11 @@ void AddReportCommand(CLI::App& app, Context context);
 void AddRestoreCommand(CLI::App& app, Context context);
 #endif
 
-// A line for whoever sits at the screen, apart from what a command gives out.
+// Does what the arguments say and gives the exit code: that of a command that fails, else the status.
+[[nodiscard]] int RunApp(CLI::App& app, std::vector<std::string> arguments, const int& status);
+
+// A line for whoever sits at the screen, apart from what a command gives out. Each program puts its name
+// first.
 void Tell(std::string_view text);
 
 } // namespace gfc::commands

@@ -1,0 +1,64 @@
+#include "commands/Listing.h"
+#include "commands/configure/Configure.h"
+#ifdef GFC_RECORD
+#include "record/ProjectRecorder.h"
+#endif
+
+#include <algorithm>
+#include <iostream>
+
+namespace gfc::commands {
+
+namespace {
+
+std::unique_ptr<config::Recorder> RecorderFor([[maybe_unused]] platform::Machine& machine) {
+#ifdef GFC_RECORD
+    return std::make_unique<record::ProjectRecorder>(machine.Clock, machine.TimeZone,
+                                                     machine.Paths.UserName());
+#else
+    return std::make_unique<config::NoRecorder>();
+#endif
+}
+
+} // namespace
+
+std::vector<Result> WriteAll(OpenProject& open, const std::vector<Target>& targets, const std::string& user,
+                             Context context) {
+    const auto recorder = RecorderFor(context.Machine);
+    const plan::Writer writer{context.Machine.Files, *open.Library, *recorder, open.Project, user};
+    std::vector<Result> results;
+    for (const Target& target : targets)
+        results.push_back(
+            {plan::Write(writer, target.Change), plan::CheckOf(open.Project, target.Change, target.Tags)});
+    recorder->Settle();
+    if (!recorder->Trouble().empty())
+        Tell("what was written is not entered in the history. " + recorder->Trouble());
+    return results;
+}
+
+int CodeOf(const std::vector<Result>& results) {
+    if (!std::ranges::all_of(results, [](const Result& result) { return result.Written.Done; }))
+        return exitcode::NotToBeHad;
+    const bool sound = std::ranges::all_of(results, [](const Result& result) {
+        return audit::CountOf(result.Report.Findings, audit::Severity::Error) == 0;
+    });
+    return sound ? exitcode::Clean : exitcode::Found;
+}
+
+void PutResults(const std::vector<Target>& targets, const std::vector<Result>& results) {
+    const auto listing = MakeTextListing(std::cout, audit::Severity::Warning);
+    std::size_t written = 0;
+    for (std::size_t i = 0; i < targets.size(); ++i) {
+        if (results[i].Written.Done) {
+            listing->Put(results[i].Report);
+            ++written;
+        } else {
+            Tell(targets[i].Change.Station + ": not written. " + results[i].Written.Reason);
+        }
+    }
+    std::cout << "\n"
+              << written << " of " << targets.size() << (targets.size() == 1 ? " station" : " stations")
+              << " written\n";
+}
+
+} // namespace gfc::commands

@@ -1,0 +1,58 @@
+#include "plan/Change.h"
+
+#include "plan/Draft.h"
+
+namespace gfc::plan {
+
+namespace {
+
+std::string Standing(platform::Files& files, const Change& change) {
+    const auto now = files.Read(change.File);
+    if (now == change.Before)
+        return change.Before ? "The file stands as it was before." : "There is no such file now.";
+    if (now == change.After)
+        return "The file holds the new values, but the system does not confirm that they are safe on the "
+               "disk.";
+    return now ? "The file holds something else now." : "What stands there now cannot be read.";
+}
+
+void Enter(const Writer& writer, const Change& change) {
+    writer.Recorder.Record({{.Record = config::RecordPath(writer.Project.Paths, writer.Project.ProjectName),
+                             .Station = change.Station,
+                             .Command = change.Command,
+                             .User = writer.User,
+                             .Before = change.Before,
+                             .After = change.After}});
+}
+
+} // namespace
+
+bool ReadState(platform::Files& files, const std::string& file, config::FileState& state) {
+    state = files.Read(file);
+    return state || !files.Exists(file);
+}
+
+Written Write(const Writer& writer, const Change& change) {
+    config::FileState now;
+    if (!ReadState(writer.Files, change.File, now))
+        return {false, "The file cannot be read, and is left as it is: " + writer.Files.LastFailure()};
+    if (now != change.Before && now != change.After)
+        return {false,
+                "Somebody has changed the file since it was looked at; it is left as it is. Look again."};
+    if (now != change.After && !writer.Files.Replace(change.File, change.After)) {
+        const std::string reason = writer.Files.LastFailure(); // before the next call
+        return {false, "The system says: " + reason + ". " + Standing(writer.Files, change)};
+    }
+    Enter(writer, change);
+    project::RegisterStation(writer.Library, writer.Project, change.Station);
+    return {true, {}};
+}
+
+audit::StationReport CheckOf(const project::Project& project, const Change& change,
+                             const project::TagList& tags) {
+    Draft draft(change.File, change.After);
+    return audit::CheckFile(draft, {change.File, project.ProjectFile, project.ProjectName, change.Station},
+                            &tags);
+}
+
+} // namespace gfc::plan

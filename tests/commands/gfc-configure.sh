@@ -1,0 +1,87 @@
+#!/usr/bin/env bash
+# Runs gfc-configure as a shell does: forty stations from one, what does not fit, what is bound anew after a rename.
+#   gfc-configure.sh BIN     the folder of the programs
+set -u
+bin=$1
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export HOME=$work XDG_STATE_HOME=$work/state
+unset DISPLAY WAYLAND_DISPLAY
+failed=0
+
+# expect PROGRAM CODE WORDS ARGUMENT...: the exit code, and a text in what is given out.
+expect() {
+    local program=$1 code=$2 words=$3 out status
+    shift 3
+    out=$("$bin/$program" "$@" 2>&1)
+    status=$?
+    if [ $status -ne "$code" ] || ! grep -qF -- "$words" <<<"$out"; then
+        echo "$program $*: exit code $status instead of $code, or no \"$words\" in:" >&2
+        head -n 30 <<<"$out" >&2
+        failed=1
+    fi
+}
+configure() { expect gfc-configure "$@"; }
+same() { [ "$(sha256sum "$plant"/*.ini)" = "$before" ] || { echo "a file was changed: $1" >&2; failed=1; }; }
+
+plant=$work/plant
+source=Lakeside_Delivery
+configure 3 "no project is open" copy A B
+configure 2 "" bogus
+configure 0 "Exit codes:" --help
+"$bin/io-workshop" demo "$plant" >/dev/null || exit 1
+"$bin/io-workshop" open "$plant/plant.KPJ" >/dev/null || exit 1
+
+# Forty stations like it, with loops of their own: 601 is 1101 in the first of them.
+"$bin/io-workshop" export-tags "$work/tags.csv" >/dev/null || exit 1
+twins=()
+head -n 1 "$work/tags.csv" >"$work/twins.csv"
+for n in {1..40}; do
+    twins+=("Twin_$n")
+    sed -n "s/^$source,\([^,]*\),[^,]*,[^,]*,/Twin_$n,\1,,,/; T; s/-60\([0-9]\)/-$((n + 10))0\1/g; p" "$work/tags.csv"
+done >>"$work/twins.csv"
+"$bin/io-workshop" import-tags "$work/twins.csv" >"$work/import.txt" 2>&1 || { cat "$work/import.txt" >&2; exit 1; }
+
+before=$(sha256sum "$plant"/*.ini)
+configure 0 "TIT-601_PV (FX 1202) -> TIT-1101_PV (FX 1202)  [the same name but for its number: 601 is 1101" copy $source Twin_1 --rebind --preview
+configure 0 '"proposed": {' copy $source "${twins[@]}" --rebind --preview --json
+same "a preview"
+configure 1 "no tag of Odorizer_2 is like" copy $source Twin_1 Odorizer_2 --rebind
+configure 1 "The station has no tags." copy $source Twin_1 Pig_Receiver_3 --rebind --incomplete
+configure 2 "are one station" copy $source $source
+configure 2 "is not configured" copy Twin_1 Twin_2
+configure 2 'no station "Nowhere"' copy $source Nowhere
+configure 2 "say to which stations" copy $source
+configure 2 "" copy $source Twin_1 --incomplete --only-complete
+same "what does not fit is refused as a whole"
+
+configure 0 "40 of 40 stations written" copy $source "${twins[@]}" --rebind --user 4711
+expect gfc-audit 0 "Twin_40: nothing to report" check
+expect gfc-audit 0 "Twin_40  Copy to station  4711" history
+expect io-workshop 0 "KDOrmAGA_plant_Twin_40.ini" files
+before=$(sha256sum "$plant"/*.ini)
+configure 1 "replaced with --replace alone" copy $source Twin_1 --rebind
+same "a configuration is replaced when it is asked for alone"
+configure 0 "1 of 1 station written" copy $source Twin_1 --rebind --replace
+same "the same copy gives the same bytes"
+configure 1 "Odorizer_2: 11 variables have no tags" copy $source Odorizer_2 Twin_1 --rebind --replace --preview
+configure 0 "Odorizer_2: left out" copy $source Odorizer_2 Twin_1 --rebind --replace --only-complete
+
+# The tags of one station get other names; bound anew it is sound again.
+"$bin/io-workshop" rename-tag Twin_7 TIT-1701_PV TT_NEW >/dev/null 2>&1 || { echo "no rename" >&2; failed=1; }
+expect gfc-audit 1 "tag-not-found" check Twin_7
+configure 0 "TT_NEW (FX 1202)  [the same register, which was called TIT-1701_PV]" rebind Twin_7 --preview
+configure 0 "Twin_7: nothing to report" rebind Twin_7
+expect gfc-audit 0 "Twin_7: nothing to report" check Twin_7
+expect gfc-audit 0 "Bind anew" history Twin_7
+
+# Without --rebind it is the file itself, and the check says what it lacks.
+configure 1 "tag-not-found" copy $source Eastfield_Meter
+
+# A folder that takes no file: what could not be written is told, and nothing is left behind.
+if [ "$(id -u)" -ne 0 ]; then
+    chmod a-w "$plant"
+    configure 3 "Twin_2: not written. The system says:" copy $source Twin_2 --rebind --replace
+    chmod u+w "$plant"
+fi
+exit $failed
