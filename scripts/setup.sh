@@ -12,7 +12,7 @@ packages_for_checks=(libgtest-dev libgmock-dev clang-format)
 packages_for_package=(dpkg-dev file lintian desktop-file-utils appstream xvfb xdotool)
 # And the compiler of the width. Making the kit takes dpkg-dev and tcl, packing icoutils, nsis and zip.
 packages_for_windows=(
-    wine wine64 libc6-i386 googletest dpkg-dev make tcl xvfb xdotool fonts-dejavu-core icoutils nsis zip
+    wine wine64 fonts-wine libc6-i386 googletest dpkg-dev make tcl xvfb xdotool fonts-dejavu-core icoutils nsis zip
 )
 packages_for_deep=(g++ libclang-rt-14-dev llvm mold python3 binutils)
 

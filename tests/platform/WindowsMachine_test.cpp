@@ -201,6 +201,31 @@ TEST(DynamicLibrary, is_never_searched_for) {
     }
 }
 
+// Whose rules stand in the registry, for each year that had others.
+TEST(MachineTimeZone, is_that_of_the_system) {
+    FILETIME now{}, local{};
+    ::GetSystemTimeAsFileTime(&now);
+    ASSERT_TRUE(::FileTimeToLocalFileTime(&now, &local));
+    const auto count = [](const FILETIME& time) {
+        return static_cast<std::int64_t>(std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime);
+    };
+    const auto zone = MakeTimeZone();
+    EXPECT_EQ(zone->CurrentBias(), (count(now) - count(local)) / 600'000'000);
+
+    DYNAMIC_TIME_ZONE_INFORMATION named{};
+    TIME_ZONE_INFORMATION thisYear{};
+    SYSTEMTIME today{};
+    ::GetLocalTime(&today);
+    ASSERT_NE(::GetDynamicTimeZoneInformation(&named), DWORD{TIME_ZONE_ID_INVALID});
+    ASSERT_TRUE(::GetTimeZoneInformationForYear(today.wYear, &named, &thisYear));
+    EXPECT_EQ(zone->GetTimeZoneInformation().Bias, thisYear.Bias);
+
+    // The suite runs this in several zones, and says which offset is theirs in winter.
+    if (const char* expected = std::getenv("GFC_ZONE_BIAS")) {
+        EXPECT_EQ(zone->GetTimeZoneInformation().Bias, std::atoi(expected));
+    }
+}
+
 TEST(RealMachine, gives_all_seams) {
     const TempFolder folder;
     RealMachine real;

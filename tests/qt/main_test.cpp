@@ -1,3 +1,4 @@
+#include "qt/SystemLook.h"
 #include "qt/support/Offscreen.h"
 #include "support/NamedEnd.h"
 
@@ -11,7 +12,11 @@ int main(int argc, char* argv[]) {
     gfc::test::UseOffscreenPlatform();
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    // Windows in memory look alike on every machine, those on a screen as the program's own.
+    if (QApplication::platformName() == QStringLiteral("offscreen"))
+        QApplication::setStyle(QStyleFactory::create("Fusion"));
+    else
+        gfc::qt::TakeSystemLook();
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setCursorFlashTime(0); // pictures are held against each other
     return RUN_ALL_TESTS();

@@ -67,7 +67,7 @@ std::string AllBytes() {
 
 class CodePages : public testing::TestWithParam<Page> {};
 INSTANTIATE_TEST_SUITE_P(All, CodePages, testing::ValuesIn(Pages),
-                         [](const auto& info) { return std::string(info.param.Name); });
+                         [](const auto& page) { return std::string(page.param.Name); });
 
 TEST_P(CodePages, bring_every_byte_back) {
     const CodePage page = Made(GetParam());
@@ -77,8 +77,9 @@ TEST_P(CodePages, bring_every_byte_back) {
 TEST_P(CodePages, give_their_characters) {
     const CodePage page = Made(GetParam());
     for (std::size_t place = 0; place < GetParam().Characters.size(); ++place)
-        if (const char32_t code = GetParam().Characters[place]; code != 0)
+        if (const char32_t code = GetParam().Characters[place]; code != 0) {
             EXPECT_EQ(page.CharacterOf(static_cast<char>(0x80 + place)), code) << std::hex << 0x80 + place;
+        }
 }
 
 TEST_P(CodePages, pair_their_capitals_and_nothing_else) {

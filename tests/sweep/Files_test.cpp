@@ -64,8 +64,9 @@ void ExpectNothingFound(SweepWorld& world, const Choice& choice) {
     // The program offers each run the pulse counters of the others again, and the way takes the first for
     // all.
     for (const audit::Finding& finding : report.Findings)
-        if (finding.Rule != audit::RuleId::PulsesShared)
+        if (finding.Rule != audit::RuleId::PulsesShared) {
             EXPECT_EQ(finding.Severity, audit::Severity::Note) << finding.Row().Name << ": " << finding.Text;
+        }
 }
 
 void Prove(const Choice& choice) {

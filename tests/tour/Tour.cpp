@@ -1,10 +1,11 @@
-// The tour: the real program on Qt's offscreen platform, driven by real clicks and keys from splash to exit.
-// It takes stations of the sample project through the wizard and through the daily work on their runs, and
-// leaves a picture of every window.
+// The tour: the real program, on Qt's offscreen platform unless another is named, driven by real clicks and
+// keys from splash to exit. It takes stations of the sample project through the wizard and through the daily
+// work on their runs, and leaves a picture of every window.
 
 #include "app/Application.h"
 #include "forms/program/StartUp.h"
 #include "platform/DynamicLibrary.h"
+#include "qt/SystemLook.h"
 #include "qt/support/Offscreen.h"
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
@@ -184,7 +185,11 @@ int main(int argc, char* argv[]) {
     test::UseOffscreenPlatform(options.Scale);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    // Windows in memory look alike on every machine, those on a screen as the program's own.
+    if (QApplication::platformName() == QStringLiteral("offscreen"))
+        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    else
+        qt::TakeSystemLook();
     QApplication::setQuitOnLastWindowClosed(false);
     if (options.Dark)
         test::UseDarkPalette();

@@ -194,10 +194,12 @@ TEST_F(Command, wrong_usage_has_a_status_of_its_own) {
     }
 }
 
+#ifndef _WIN32 // where no file stands for a full disk
 TEST_F(Command, an_output_that_is_lost_is_a_failure) {
     EXPECT_EQ(Run("export-tags - --template > /dev/full").Status, 1);
     EXPECT_EQ(Run("export-tags - --template > /dev/null").Status, 0);
 }
+#endif
 
 TEST_F(Command, each_one_explains_itself_with_an_example) {
     const Outcome all = Run("--help");

@@ -80,7 +80,7 @@ TEST_P(ForeignTable, is_taken_or_refused_as_expected) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, ForeignTable, testing::ValuesIn(TableNames()),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& table) { return table.param; });
 
 class ImportWishes : public WorkshopFixture {
 protected:

@@ -5,26 +5,55 @@
 #include "workshop/store/OpenProject.h"
 
 #include <cstring>
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#else
 #include <dlfcn.h>
+#endif
 
 namespace gfc::workshop {
 
 using namespace project;
 
+#ifdef _WIN32
+constexpr const char* LibraryFile = "kdaddon_VBwrapper.dll";
+void* LoadAt(const std::filesystem::path& path) {
+    return ::LoadLibraryW(path.c_str());
+}
+void* SymbolIn(void* library, const char* name) {
+    return reinterpret_cast<void*>(::GetProcAddress(static_cast<HMODULE>(library), name));
+}
+void Release(void* library) {
+    ::FreeLibrary(static_cast<HMODULE>(library));
+}
+#else
+constexpr const char* LibraryFile = "kdaddon_VBwrapper.so";
+void* LoadAt(const std::filesystem::path& path) {
+    return ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+}
+void* SymbolIn(void* library, const char* name) {
+    return ::dlsym(library, name);
+}
+void Release(void* library) {
+    ::dlclose(library);
+}
+#endif
+
+// Anew for each test, so that none finds what another left in it.
 class Library : public WorkshopFixture {
 protected:
-    Library()
-        : handle_(::dlopen((test::BinFolder() / "kdaddon_VBwrapper.so").c_str(), RTLD_NOW | RTLD_LOCAL)) {}
+    Library() : handle_(LoadAt(test::BinFolder() / LibraryFile)) {}
     ~Library() override {
         if (handle_ != nullptr) {
-            ::dlclose(handle_);
+            Release(handle_);
         }
     }
-    void SetUp() override { ASSERT_NE(handle_, nullptr) << ::dlerror(); }
+    void SetUp() override { ASSERT_NE(handle_, nullptr) << LibraryFile; }
 
     template <typename Function>
     [[nodiscard]] Function Get(const char* name) const {
-        return reinterpret_cast<Function>(::dlsym(handle_, name));
+        return reinterpret_cast<Function>(SymbolIn(handle_, name));
     }
 
     void OpenSmallProject() {

@@ -9,19 +9,34 @@ TEST_F(OpenMark, stands_under_the_state_folder) {
     EXPECT_EQ(OpenProjectMark(), Folder / "state" / "io-workshop" / "open-project");
 }
 
+#ifdef _WIN32
+TEST_F(OpenMark, falls_back_to_the_users_own_folder_for_an_unusable_variable) {
+    const std::string before = std::getenv("LOCALAPPDATA");
+    SetVariable("LOCALAPPDATA", Folder.string());
+    for (const char* unusable : {"relative/state", ""}) {
+        SetVariable("XDG_STATE_HOME", unusable);
+        EXPECT_EQ(OpenProjectMark(), Folder / "io-workshop" / "open-project");
+    }
+    SetVariable("LOCALAPPDATA", "");
+    EXPECT_NE(FailureOf([] { static_cast<void>(OpenProjectMark()); }).find("set LOCALAPPDATA"),
+              std::string::npos);
+    SetVariable("LOCALAPPDATA", before);
+}
+#else
 TEST_F(OpenMark, falls_back_to_the_home_folder_for_an_unusable_variable) {
     const char* before = std::getenv("HOME");
     const std::string home = before == nullptr ? "" : before;
-    ::setenv("HOME", Folder.c_str(), 1);
-    ::setenv("XDG_STATE_HOME", "relative/state", 1);
-    EXPECT_EQ(OpenProjectMark(), Folder / ".local" / "state" / "io-workshop" / "open-project");
-    ::unsetenv("XDG_STATE_HOME");
-    EXPECT_EQ(OpenProjectMark(), Folder / ".local" / "state" / "io-workshop" / "open-project");
-    ::unsetenv("HOME");
+    SetVariable("HOME", Folder.string());
+    for (const char* unusable : {"relative/state", ""}) {
+        SetVariable("XDG_STATE_HOME", unusable);
+        EXPECT_EQ(OpenProjectMark(), Folder / ".local" / "state" / "io-workshop" / "open-project");
+    }
+    SetVariable("HOME", "");
     EXPECT_NE(FailureOf([] { static_cast<void>(OpenProjectMark()); }).find("set XDG_STATE_HOME or HOME"),
               std::string::npos);
-    ::setenv("HOME", home.c_str(), 1);
+    SetVariable("HOME", home);
 }
+#endif
 
 TEST_F(OpenMark, remembers_replaces_and_forgets) {
     EXPECT_FALSE(RecordedProject());

@@ -1,6 +1,7 @@
 // A folder, a state folder and a way to run the command, all of them one test's own.
 #pragma once
 
+#include "support/TempFolder.h"
 #include "support/TestFolders.h"
 #include "workshop/store/Project.h"
 #include "workshop/store/Stations.h"
@@ -8,13 +9,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#ifndef _WIN32
 #include <sys/wait.h>
-#include <unistd.h>
+#endif
 
 namespace gfc::workshop {
 
@@ -39,35 +43,27 @@ std::string FailureOf(Call call) {
 }
 
 class WorkshopFixture : public testing::Test {
+    test::TempFolder folder_;
+
 protected:
     struct Outcome {
         int Status;
         std::string Output; ///< what it wrote on either stream
     };
 
-    WorkshopFixture() {
-        std::string name = (std::filesystem::temp_directory_path() / "workshop-XXXXXX").string();
-        Folder = ::mkdtemp(name.data());
-        ::setenv("XDG_STATE_HOME", (Folder / "state").c_str(), 1);
-    }
-    ~WorkshopFixture() override {
-        ::unsetenv("XDG_STATE_HOME");
-        std::error_code ignored;
-        std::filesystem::remove_all(Folder, ignored);
-    }
+    WorkshopFixture() : Folder(folder_.Path()) { SetVariable("XDG_STATE_HOME", In("state")); }
+    ~WorkshopFixture() override { SetVariable("XDG_STATE_HOME", ""); }
 
-    /// Runs io-workshop with `arguments` as a shell would split them.
+    /// Runs io-workshop with `arguments` as a shell would split them; single quotes hold a word together.
     static Outcome Run(const std::string& arguments) {
-        const std::string command =
-            "'" + (test::BinFolder() / "io-workshop").string() + "' " + arguments + " 2>&1";
-        FILE* pipe = ::popen(command.c_str(), "r");
+        FILE* pipe =
+            OpenShell("'" + (test::BinFolder() / "io-workshop").string() + "' " + arguments + " 2>&1");
         std::string output;
         char chunk[4096];
         while (const std::size_t size = std::fread(chunk, 1, sizeof chunk, pipe)) {
             output.append(chunk, size);
         }
-        const int status = ::pclose(pipe);
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+        return {CloseShell(pipe), output};
     }
 
     [[nodiscard]] std::string In(const std::string& name) const { return (Folder / name).string(); }
@@ -85,7 +81,37 @@ protected:
         return project;
     }
 
-    std::filesystem::path Folder;
+    /// Of this process and of those that it starts; an empty value takes it away.
+    static void SetVariable(const char* name, const std::string& value) {
+#ifdef _WIN32
+        ::_putenv_s(name, value.c_str());
+#else
+        value.empty() ? ::unsetenv(name) : ::setenv(name, value.c_str(), 1);
+#endif
+    }
+
+    const std::filesystem::path Folder;
+
+private:
+#ifdef _WIN32
+    static FILE* OpenShell(std::string command) {
+        std::ranges::replace(command, '\'', '"');
+        // The shell takes the outer quotes away.
+        command = '"' + command + '"';
+        return ::_wpopen(std::filesystem::path(std::u8string(command.begin(), command.end())).c_str(), L"rt");
+    }
+    static int CloseShell(FILE* pipe) {
+        return ::_pclose(pipe);
+    }
+#else
+    static FILE* OpenShell(const std::string& command) {
+        return ::popen(command.c_str(), "r");
+    }
+    static int CloseShell(FILE* pipe) {
+        const int status = ::pclose(pipe);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+#endif
 };
 
 } // namespace gfc::workshop
