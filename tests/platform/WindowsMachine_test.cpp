@@ -85,7 +85,7 @@ TEST(Launcher, asks_for_a_maximised_window_alone) {
 
 // A process that ends by itself with that code, and has ended.
 windows::Handle Ended(const std::string& code) {
-    std::wstring line = windows::CommandLine("cmd.exe", {"/c", "exit", code});
+    std::wstring line = windows::Wide("cmd.exe /c exit " + code);
     STARTUPINFOW start = windows::StartInfo(ViewerWindow::Normal);
     PROCESS_INFORMATION process{};
     EXPECT_TRUE(::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,

@@ -6,6 +6,7 @@
 
 #include <cfenv>
 #include <cmath>
+#include <ostream>
 
 namespace gfc::test {
 
@@ -112,6 +113,10 @@ struct Kind {
     const char* Library;
     std::size_t Name;
 };
+
+void PrintTo(const Kind& kind, std::ostream* out) {
+    *out << kind.Library;
+}
 
 class ExportKind : public testing::TestWithParam<Kind> {};
 

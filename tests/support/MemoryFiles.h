@@ -2,11 +2,23 @@
 
 #include "platform/Files.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
 
 namespace gfc::test {
+
+// Of two names of a file that differ in their separators alone the machine makes none.
+struct PathLess {
+    bool operator()(std::string left, std::string right) const {
+#ifdef _WIN32
+        std::ranges::replace(left, '\\', '/');
+        std::ranges::replace(right, '\\', '/');
+#endif
+        return left < right;
+    }
+};
 
 // A file system in memory. Failures are asked for by path; Reads and Replaces count the accesses.
 class MemoryFiles : public platform::Files {
@@ -65,12 +77,12 @@ public:
         return Content.emplace(to, *bytes).second;
     }
 
-    std::map<std::string, std::string> Content;
-    std::set<std::string> Unreadable;
-    std::set<std::string> Unwritable; // may neither be written nor deleted
-    std::set<std::string> Held;       // may not be deleted
-    bool DiskFull = false;            // takes no bytes, but lets files go
-    int FullFor = 0;                  // the same, for so many more attempts
+    std::map<std::string, std::string, PathLess> Content;
+    std::set<std::string, PathLess> Unreadable;
+    std::set<std::string, PathLess> Unwritable; // may neither be written nor deleted
+    std::set<std::string, PathLess> Held;       // may not be deleted
+    bool DiskFull = false;                      // takes no bytes, but lets files go
+    int FullFor = 0;                            // the same, for so many more attempts
     int Reads = 0;
     int Replaces = 0;
 

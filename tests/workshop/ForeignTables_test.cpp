@@ -15,7 +15,8 @@ using testing::Not;
 
 namespace {
 
-const std::filesystem::path Tables = GFC_FOREIGN_TABLES;
+// With its drive where there are drives: the command takes what begins with a stroke there as an option.
+const std::filesystem::path Tables = std::filesystem::absolute(GFC_FOREIGN_TABLES);
 
 std::vector<std::string> TableNames() {
     std::vector<std::string> names;
