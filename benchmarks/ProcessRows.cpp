@@ -1,6 +1,6 @@
 #include "Contest.h"
 #include "Material.h"
-#include "platform/Machine.h"
+#include "Workshop.h"
 #include "project/WireRecords.h"
 
 #include <QByteArray>
@@ -18,10 +18,6 @@ namespace {
 
 constexpr int SampleStations = 8;
 constexpr double Tags = 100'000;
-
-std::string Beside(const std::string& name) {
-    return platform::MakePaths()->ExecutableFolder() + "/" + name;
-}
 
 // A process that runs, and is waited for at the end.
 using Process = std::unique_ptr<FILE, int (*)(FILE*)>;
@@ -53,10 +49,6 @@ public:
     }
 
 private:
-    void Workshop(const std::string& arguments) {
-        (void)!std::system((Beside("io-workshop") + " " + arguments + " > /dev/null").c_str());
-    }
-
     Folder folder_;
 };
 

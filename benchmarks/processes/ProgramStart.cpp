@@ -8,6 +8,8 @@
 #include "forms/program/formInicio.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
+#include "record/BackgroundRecorder.h"
+#include "record/ProjectRecorder.h"
 
 #include <QApplication>
 #include <QStyleFactory>
@@ -63,7 +65,10 @@ int main(int argc, char* argv[]) {
     application.setQuitOnLastWindowClosed(false);
     platform::RealMachine machine;
     HastyScreen screen;
-    app::Application program(machine.Seams(), screen);
+    const platform::Machine seams = machine.Seams();
+    record::ProjectRecorder entries(seams.Clock, seams.TimeZone, seams.Paths.UserName());
+    record::BackgroundRecorder recorder(entries);
+    app::Application program(seams, screen, recorder);
     if (!program.Start(platform::LoadLibraryAt))
         return EXIT_FAILURE;
     argc > 1 ? screen.WaitForSplash() : screen.CutTheWaitShort();

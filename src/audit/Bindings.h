@@ -33,4 +33,11 @@ void About(const Bound& bound, Sink& sink);
 // A finding about the variable.
 Finding& Add(Sink& sink, RuleId rule, const Bound& bound, std::initializer_list<std::string_view> words);
 
+// The rules about bindings; all are those of the subject. The first looks at the station's tags, the others
+// at the file alone.
+void CheckTags(const Subject& subject, const std::vector<Bound>& all, project::TagList tags, Sink& sink);
+void CheckDirections(const std::vector<Bound>& all, Sink& sink);
+void CheckSharedTags(std::vector<Bound> all, Sink& sink);
+void CheckTagNames(const std::vector<Bound>& all, const config::StationConfig& station, Sink& sink);
+
 } // namespace gfc::audit

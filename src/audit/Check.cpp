@@ -1,5 +1,6 @@
 #include "audit/Check.h"
 
+#include "audit/Bindings.h"
 #include "audit/Plausible.h"
 #include "audit/Subject.h"
 #include "platform/Files.h"
@@ -27,18 +28,19 @@ void CheckPlausibility(const Subject& subject, Sink& sink) {
         }
 }
 
-void CheckAll(const Subject& subject, const project::TagList* tags, Findings& findings) {
+void CheckAll(const Subject& subject, std::optional<project::TagList> tags, Findings& findings) {
     Sink sink(findings);
     CheckNames(subject, sink);
     CheckLayout(subject, sink);
     CheckValues(subject, sink);
     CheckRuns(subject, sink);
     CheckPlausibility(subject, sink);
-    if (tags != nullptr)
-        CheckTags(subject, *tags, sink);
-    CheckDirections(subject, sink);
-    CheckSharedTags(subject, sink);
-    CheckTagNames(subject, sink);
+    const std::vector<Bound> all = BindingsOf(subject);
+    if (tags)
+        CheckTags(subject, all, *std::move(tags), sink);
+    CheckDirections(all, sink);
+    CheckSharedTags(all, sink);
+    CheckTagNames(all, subject.Station(), sink);
     SortBySeverity(findings);
 }
 
@@ -59,15 +61,19 @@ std::string StationReport::FileName() const {
     return folder.empty() || File.empty() ? File : File.substr(folder.size() + 1);
 }
 
-StationReport CheckFile(platform::Files& files, const Whose& whose, const project::TagList* tags) {
+StationReport CheckFile(platform::Files& files, const Whose& whose, std::optional<project::TagList> tags) {
     StationReport report{whose.Station, whose.File, false, {}};
     auto bytes = whose.File.empty() ? std::nullopt : files.Read(whose.File);
     report.Configured = bytes.has_value() || (!whose.File.empty() && files.Exists(whose.File));
     if (bytes)
-        CheckAll(Subject(whose, *std::move(bytes)), tags, report.Findings);
+        CheckAll(Subject(whose, *std::move(bytes)), std::move(tags), report.Findings);
     else if (report.Configured)
         Sink(report.Findings).Add(RuleId::FileUnreadable, {});
     return report;
+}
+
+StationReport CheckFile(platform::Files& files, const Whose& whose, const project::TagList* tags) {
+    return CheckFile(files, whose, tags == nullptr ? std::nullopt : std::optional(*tags));
 }
 
 StationReport CheckStation(platform::Files& files, project::AddOnLibrary& library,
@@ -75,8 +81,7 @@ StationReport CheckStation(platform::Files& files, project::AddOnLibrary& librar
     const Whose whose{project.ConfigFileOf(station), project.ProjectFile, project.ProjectName, station};
     if (whose.File.empty() || !files.Exists(whose.File))
         return {station, whose.File, false, {}};
-    const project::TagList tags = library.ReadTags(station, project.ProjectFile, {});
-    return CheckFile(files, whose, &tags);
+    return CheckFile(files, whose, library.ReadTags(station, project.ProjectFile, {}));
 }
 
 bool IsConfigurationName(std::string_view fileName) {
@@ -151,8 +156,8 @@ StationReport FolderPlant::Check(std::size_t station) const {
     const std::string projectName = project::ProjectNameOf(projectFile);
     const auto name = StationOfFile(names_.at(station), projectName);
     if (!projectName.empty() && name)
-        return CheckFile(files_, {file, projectFile, projectName, *name}, nullptr);
-    return CheckFile(files_, {file, {}, {}, NameOf(station)}, nullptr);
+        return CheckFile(files_, {file, projectFile, projectName, *name}, std::nullopt);
+    return CheckFile(files_, {file, {}, {}, NameOf(station)}, std::nullopt);
 }
 
 bool CheckPlant(const Plant& plant,

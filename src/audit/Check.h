@@ -31,8 +31,10 @@ struct Whose {
     std::string Station;
 };
 
-// Without tags (null) the rules about tags are left out; a list without a tag is one of a station that has
-// none.
+// Without tags the rules about tags are left out; a list without a tag is one of a station that has none.
+[[nodiscard]] StationReport CheckFile(platform::Files& files, const Whose& whose,
+                                      std::optional<project::TagList> tags);
+// For who keeps the tags; null for none.
 [[nodiscard]] StationReport CheckFile(platform::Files& files, const Whose& whose,
                                       const project::TagList* tags);
 // A station of the open project, whose tags are asked for if it has a file.

@@ -5,14 +5,29 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <bitset>
 
 namespace gfc::audit {
 
 namespace {
 
 using naming::Subject;
-using Subjects = std::set<Subject>;
+
+constexpr auto SubjectCount = static_cast<std::size_t>(Subject::Aside) + 1;
+
+// Made for each of many names.
+class Subjects {
+public:
+    void Add(Subject subject) { said_.set(static_cast<std::size_t>(subject)); }
+    void Add(const std::vector<Subject>& subjects) {
+        for (const Subject subject : subjects)
+            Add(subject);
+    }
+    [[nodiscard]] bool Has(Subject subject) const { return said_.test(static_cast<std::size_t>(subject)); }
+
+private:
+    std::bitset<SubjectCount> said_;
+};
 
 // What a name can be about. Flow alone says little: volumes, masses and pulses are all of a flow, and a
 // transmitter of several variables bears its letter.
@@ -22,19 +37,17 @@ bool IsQuantity(Subject subject) {
 }
 
 // What makes another quantity of the one beside it.
-bool Changes(Subject subject) {
-    return subject == Subject::Differential || subject == Subject::Atmospheric;
-}
+constexpr std::array Changing = {Subject::Differential, Subject::Atmospheric};
 
 // A single letter, or the beginning of a longer word, says too little to doubt a binding for it: "T1012" may
 // as well be a tag as a temperature.
 Subjects SaidBy(const naming::TagName& name) {
     Subjects said;
     if (!AreOfRegisters(name.Device.Letters))
-        said.insert(name.Device.Means.begin(), name.Device.Means.end());
+        said.Add(name.Device.Means);
     for (const naming::Part& part : name.Parts)
         if (part.Text.size() > 1 && !part.Cut)
-            said.insert(part.Means.begin(), part.Means.end());
+            said.Add(part.Means);
     return said;
 }
 
@@ -46,14 +59,14 @@ bool Holds(const std::vector<Subject>& list, Subject subject) {
 bool Says(const Subjects& said, const suggest::Meaning& meaning) {
     bool any = false;
     for (const Subject subject : meaning.Needs) {
-        if (IsQuantity(subject) && !said.contains(subject))
+        if (IsQuantity(subject) && !said.Has(subject))
             return false;
-        any = any || said.contains(subject);
+        any = any || said.Has(subject);
     }
     const auto isForeign = [&](Subject subject) {
-        return Changes(subject) && !Holds(meaning.Needs, subject) && !Holds(meaning.Allows, subject);
+        return said.Has(subject) && !Holds(meaning.Needs, subject) && !Holds(meaning.Allows, subject);
     };
-    return any && std::ranges::none_of(said, isForeign);
+    return any && std::ranges::none_of(Changing, isForeign);
 }
 
 bool SaysPV(const naming::TagName& name) {
@@ -62,9 +75,12 @@ bool SaysPV(const naming::TagName& name) {
 
 std::string NamesOf(const Subjects& said) {
     std::string names;
-    for (const Subject subject : said)
-        if (IsQuantity(subject) && !(subject == Subject::Pressure && said.contains(Subject::Differential)))
+    for (std::size_t place = 0; place < SubjectCount; ++place) {
+        const auto subject = static_cast<Subject>(place);
+        const bool isPart = subject == Subject::Pressure && said.Has(Subject::Differential);
+        if (said.Has(subject) && IsQuantity(subject) && !isPart)
             names.append(names.empty() ? "" : ", ").append(naming::NameOf(subject));
+    }
     return names;
 }
 
@@ -141,24 +157,24 @@ std::string QuantityAgainst(const Bound& bound, const naming::TagName& name) {
     if (bound.IsOutput() && SaysPV(name))
         return "a PV is measured, and this is a result of the calculation";
     const Subjects said = SaidBy(name);
-    const std::string names = NamesOf(said);
     const auto meanings = suggest::MeaningsOf(*bound.Row);
     const auto says = [&](const suggest::Meaning* meaning) { return Says(said, *meaning); };
-    if (names.empty() || meanings.empty() || std::ranges::any_of(meanings, says))
+    if (meanings.empty() || std::ranges::any_of(meanings, says))
         return {};
-    return "its name says " + names;
+    const std::string names = NamesOf(said);
+    return names.empty() ? names : "its name says " + names;
 }
 
-std::string UnitAgainst(const Bound& bound, std::string_view name, const config::StationConfig& station) {
+std::string UnitAgainst(const Bound& bound, const naming::TagName& name,
+                        const config::StationConfig& station) {
     if (!bound.Row->Unit)
         return {};
-    const std::string folded = naming::Fold(name);
     const auto system = static_cast<std::size_t>(config::UnitsIndex(station.SystemUnits));
     std::string against;
     for (const UnitWord& unit : Units) {
         const bool isAscii = static_cast<unsigned char>(unit.Word.front()) < 0x80;
         if (unit.Quantity != *bound.Row->Unit ||
-            !HoldsWord(isAscii ? std::string_view(folded) : name, unit.Word))
+            !HoldsWord(isAscii ? name.Folded : bound.Binding->Tag, unit.Word))
             continue;
         if (unit.Systems[system] == 'Y')
             return {};

@@ -18,7 +18,7 @@ namespace gfc::audit {
 
 // A unit that the name ends with or holds as a word of its own, and that is another one of the same quantity.
 // Empty, too, for a variable without a unit.
-[[nodiscard]] std::string UnitAgainst(const Bound& bound, std::string_view name,
+[[nodiscard]] std::string UnitAgainst(const Bound& bound, const naming::TagName& name,
                                       const config::StationConfig& station);
 
 } // namespace gfc::audit

@@ -57,8 +57,7 @@ void Judge(const Bound& earlier, const Bound& later, Sink& sink) {
 // Each variable is held against the first one on its tag, so that five runs on one chromatograph give four
 // findings for each component and not ten; but against the first output, too, since that is what spoils a
 // tag.
-void CheckSharedTags(const Subject& subject, Sink& sink) {
-    auto all = BindingsOf(subject);
+void CheckSharedTags(std::vector<Bound> all, Sink& sink) {
     std::erase_if(all, [](const Bound& bound) { return !bound.IsMade(); });
     const auto before = [](const Bound& left, const Bound& right) {
         return left.Binding->RegAddr < right.Binding->RegAddr;

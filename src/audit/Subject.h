@@ -60,11 +60,5 @@ void CheckNames(const Subject& subject, Sink& sink);
 void CheckLayout(const Subject& subject, Sink& sink);
 void CheckValues(const Subject& subject, Sink& sink);
 void CheckRuns(const Subject& subject, Sink& sink);
-// With the tags of the station.
-void CheckTags(const Subject& subject, const project::TagList& tags, Sink& sink);
-// By the file alone.
-void CheckDirections(const Subject& subject, Sink& sink);
-void CheckSharedTags(const Subject& subject, Sink& sink);
-void CheckTagNames(const Subject& subject, Sink& sink);
 
 } // namespace gfc::audit

@@ -40,14 +40,14 @@ TagIndex::TagIndex(const std::vector<Bound>& bindings, const project::TagList& t
     const Asked asked(bindings);
     for (const project::Tag& tag : tags)
         if (asked.Has(tag.RegAddr))
-            tags_.emplace(std::to_string(tag.RegAddr), &tag);
+            tags_.emplace(std::to_string(tag.RegAddr), tag);
 }
 
 const project::Tag* TagIndex::Find(const Bound& bound, Match match) const {
     for (auto [tag, last] = tags_.equal_range(bound.Binding->RegAddr); tag != last; ++tag)
-        if (tag->second->TagName == bound.Binding->Tag && match(*tag->second, bound) &&
-            IsOfClass(*tag->second, bound))
-            return tag->second;
+        if (tag->second.TagName == bound.Binding->Tag && match(tag->second, bound) &&
+            IsOfClass(tag->second, bound))
+            return &tag->second;
     return nullptr;
 }
 

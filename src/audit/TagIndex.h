@@ -11,7 +11,7 @@ namespace gfc::audit {
 // The station's tags at the registers that are bound, found in one walk over all tags.
 class TagIndex {
 public:
-    // Both must outlive it.
+    // Takes copies of the tags that it holds.
     TagIndex(const std::vector<Bound>& bindings, const project::TagList& tags);
 
     // The tag of that name, address and type that the variable's class can be bound to; null if there is
@@ -25,7 +25,7 @@ private:
     using Match = bool (*)(const project::Tag& tag, const Bound& bound);
     [[nodiscard]] const project::Tag* Find(const Bound& bound, Match match) const;
 
-    std::unordered_multimap<std::string, const project::Tag*> tags_; // by the address as it is written
+    std::unordered_multimap<std::string, project::Tag> tags_; // by the address as it is written
 };
 
 } // namespace gfc::audit

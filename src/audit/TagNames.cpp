@@ -14,6 +14,7 @@ struct Named {
 
 std::vector<Named> NamedOf(const std::vector<Bound>& all) {
     std::vector<Named> named;
+    named.reserve(all.size());
     for (const Bound& bound : all)
         if (bound.IsMade() && !bound.Binding->Tag.empty())
             named.push_back({&bound, naming::Parse(bound.Binding->Tag)});
@@ -25,7 +26,7 @@ void CheckWords(const std::vector<Named>& all, const config::StationConfig& stat
         const std::string& tag = bound->Binding->Tag;
         if (const std::string reason = QuantityAgainst(*bound, name); !reason.empty())
             Add(sink, RuleId::NameQuantity, *bound, {bound->Variable(), tag, reason});
-        else if (const std::string unit = UnitAgainst(*bound, tag, station); !unit.empty())
+        else if (const std::string unit = UnitAgainst(*bound, name, station); !unit.empty())
             Add(sink, RuleId::NameUnit, *bound,
                 {bound->Variable(), tag,
                  config::UnitCaption(*bound->Row->Unit, station.SystemUnits, station.FlowAlgorithm), unit});
@@ -84,10 +85,9 @@ void CheckLoops(const std::vector<Named>& all, Sink& sink) {
 
 } // namespace
 
-void CheckTagNames(const Subject& subject, Sink& sink) {
-    const auto all = BindingsOf(subject);
+void CheckTagNames(const std::vector<Bound>& all, const config::StationConfig& station, Sink& sink) {
     const auto named = NamedOf(all);
-    CheckWords(named, subject.Station(), sink);
+    CheckWords(named, station, sink);
     CheckLoops(named, sink);
 }
 

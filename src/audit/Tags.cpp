@@ -158,11 +158,10 @@ void CheckModuleOf(const Bound& bound, const project::Tag& tag, const Modules& m
 
 } // namespace
 
-void CheckTags(const Subject& subject, const project::TagList& tags, Sink& sink) {
-    project::TagInventory inventory;
-    project::BuildInventory(tags, inventory);
-    const auto all = BindingsOf(subject);
+void CheckTags(const Subject& subject, const std::vector<Bound>& all, project::TagList tags, Sink& sink) {
     const TagIndex index(all, tags);
+    project::TagInventory inventory;
+    project::BuildInventory(std::move(tags), inventory);
     CheckExpected(subject, inventory, sink);
     CheckModules(subject, inventory, sink);
     for (const Bound& bound : all) {
@@ -172,8 +171,8 @@ void CheckTags(const Subject& subject, const project::TagList& tags, Sink& sink)
     }
 }
 
-void CheckDirections(const Subject& subject, Sink& sink) {
-    for (const Bound& bound : BindingsOf(subject)) {
+void CheckDirections(const std::vector<Bound>& all, Sink& sink) {
+    for (const Bound& bound : all) {
         const std::string& type = bound.Binding->Type;
         if (!bound.IsMade() || type.empty())
             continue;

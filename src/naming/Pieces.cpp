@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::size_t ShortestGrown = 3; // a word within grown-together ones; shorter ones stand in anything
 constexpr std::size_t ShortestCut = 4;   // the beginning of a word
+constexpr std::size_t Usual = 8;         // parts of a name
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -39,13 +40,14 @@ bool IsNewCapital(std::string_view raw, std::size_t at) {
 std::size_t WordWithDigits(std::string_view folded, std::size_t at) {
     if (at > 0 && KindOf(folded[at - 1]) == PartKind::Letters && !IsDigit(folded[at]))
         return 0;
-    std::size_t end = at;
-    while (end < folded.size() && KindOf(folded[end]) != PartKind::Sign)
-        ++end;
-    for (; end > at + 1; --end) {
+    std::size_t end = at, digit = folded.size();
+    for (; end < folded.size() && KindOf(folded[end]) != PartKind::Sign; ++end)
+        if (IsDigit(folded[end]))
+            digit = std::min(digit, end);
+    for (; end > std::max(at + 1, digit); --end) {
         const auto text = folded.substr(at, end - at);
         const bool whole = end == folded.size() || KindOf(folded[end]) != KindOf(folded[end - 1]);
-        if (whole && std::ranges::any_of(text, IsDigit) && FindWord(text) != nullptr)
+        if (whole && FindWord(text) != nullptr)
             return text.size();
     }
     return 0;
@@ -67,34 +69,48 @@ Part PartOf(std::string_view text, std::size_t begin, PartKind kind) {
     return part;
 }
 
-// The fewest words that make up the text, if they do.
-std::optional<std::vector<const Word*>> GrownTogether(std::string_view text) {
-    std::vector<std::optional<std::vector<const Word*>>> upTo(text.size() + 1);
-    upTo[0].emplace();
+// The last of the fewest words that make up the text up to here.
+struct Grown {
+    const Word* Last = nullptr;
+    std::size_t Count = 0; // of all of them
+};
+
+// For each length of the text's beginnings; without a last word where none make it up.
+std::vector<Grown> GrowthOf(std::string_view text) {
+    std::vector<Grown> upTo(text.size() + 1);
     for (std::size_t end = ShortestGrown; end <= text.size(); ++end)
         for (std::size_t begin = 0; begin + ShortestGrown <= end; ++begin) {
-            const Word* word = upTo[begin] ? FindWord(text.substr(begin, end - begin)) : nullptr;
-            if (word == nullptr || (upTo[end] && upTo[end]->size() <= upTo[begin]->size() + 1))
+            const bool opens = begin == 0 || upTo[begin].Last != nullptr;
+            const std::size_t count = upTo[begin].Count + 1;
+            if (!opens || (upTo[end].Last != nullptr && upTo[end].Count <= count))
                 continue;
-            upTo[end] = upTo[begin];
-            upTo[end]->push_back(word);
+            if (const Word* word = FindWord(text.substr(begin, end - begin)))
+                upTo[end] = {word, count};
         }
-    return upTo[text.size()];
+    return upTo;
 }
 
-// The word of which the text is the beginning, if all such words mean the same.
+// The fewest words that make up the text; none if they do not.
+std::vector<const Word*> GrownTogether(std::string_view text) {
+    const std::vector<Grown> upTo = GrowthOf(text);
+    std::vector<const Word*> words(upTo.back().Count);
+    std::size_t end = text.size();
+    for (auto word = words.rbegin(); word != words.rend(); ++word) {
+        *word = upTo[end].Last;
+        end -= (*word)->Text.size();
+    }
+    return words;
+}
+
+// The word of which the text is the beginning, if all such words mean the same: the last of the table.
 const Word* WordThatBegins(std::string_view text) {
     if (text.size() < ShortestCut)
         return nullptr;
-    const Word* found = nullptr;
-    for (const Word& word : Words()) {
-        if (!word.Text.starts_with(text))
-            continue;
-        if (found != nullptr && (found->Means != word.Means || found->Also != word.Also))
-            return nullptr;
-        found = &word;
-    }
-    return found;
+    const auto words = WordsFrom(text);
+    const auto isOther = [&](const Word* word) {
+        return word->Means != words.front()->Means || word->Also != words.front()->Also;
+    };
+    return words.empty() || std::ranges::any_of(words, isOther) ? nullptr : *std::ranges::max_element(words);
 }
 
 void Give(Part& part, const Word& word) {
@@ -115,9 +131,9 @@ bool IsPlace(const std::vector<Part>& parts) {
 void AppendMeaning(Part part, std::vector<Part>& parts) {
     if (const Word* word = FindWord(part.Text)) {
         Give(part, *word);
-    } else if (const auto grown = GrownTogether(part.Text)) {
+    } else if (const auto grown = GrownTogether(part.Text); !grown.empty()) {
         std::size_t begin = part.Begin;
-        for (const Word* each : *grown) {
+        for (const Word* each : grown) {
             parts.push_back(PartOf(each->Text, begin, PartKind::Letters));
             Give(parts.back(), *each);
             begin += each->Text.size();
@@ -160,16 +176,16 @@ void JoinWords(std::vector<Part>& parts) {
 
 } // namespace
 
-std::vector<Part> PiecesOf(std::string_view name) {
-    std::string folded = Fold(name);
+std::vector<Part> PiecesOf(std::string_view folded, std::string_view name) {
     // Capitals are looked for only where both texts stand letter by letter beside each other.
-    const std::string_view raw = folded.size() == name.size() ? name : std::string_view(folded);
+    const std::string_view raw = folded.size() == name.size() ? name : folded;
     std::vector<Part> parts;
+    parts.reserve(Usual);
     for (std::size_t at = 0; at < folded.size();) {
         const std::size_t word = WordWithDigits(folded, at);
         const std::size_t end = word != 0 ? at + word : PlainEnd(folded, raw, at);
         const PartKind kind = word != 0 ? PartKind::Letters : KindOf(folded[at]);
-        std::string_view text = std::string_view(folded).substr(at, end - at);
+        std::string_view text = folded.substr(at, end - at);
         // "C6+" is all from hexane on.
         const bool plus = (text == "C6" || text == "NC6") && end < folded.size() && folded[end] == '+';
         parts.push_back(PartOf(plus ? "C6PLUS" : text, at, kind));
@@ -182,6 +198,7 @@ void ReadMeanings(std::vector<Part>& parts) {
     JoinWords(parts);
     const bool place = IsPlace(parts);
     std::vector<Part> read;
+    read.reserve(parts.size());
     for (Part& part : parts) {
         if (part.Kind == PartKind::Letters && !part.Device && !(place && read.empty()))
             AppendMeaning(std::move(part), read);

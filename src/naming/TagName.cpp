@@ -72,7 +72,7 @@ TagName Parse(std::string_view text) {
     TagName name;
     name.Folded = Fold(text);
     name.ToolSuffix = EndsAsToolsMark(name.Folded);
-    name.Parts = PiecesOf(text);
+    name.Parts = PiecesOf(name.Folded, text);
     ReadDevice(name);
     ReadMeanings(name.Parts);
     ReadSubjects(name);

@@ -1,6 +1,7 @@
 #include "naming/Words.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <vector>
 
 namespace gfc::naming {
@@ -120,7 +121,7 @@ constexpr Word Table[] = {
     {"ANHIDRIDO", CarbonDioxide, Spanish}, {"ETHANE", Ethane, English}, {"ETANO", Ethane}, {"C2", Ethane},
     {"C2H6", Ethane}, {"ETH", Ethane, English}, {"PROPANE", Propane, English}, {"PROPANO", Propane},
     {"C3", Propane}, {"C3H8", Propane}, {"PROP", Propane}, {"WATER", Water, English}, {"AGUA", Water},
-    {"H2O", Water}, {"HYDROGENSULFIDE", HydrogenSulfide, English}, {"H2S", HydrogenSulfide},
+    {"H2O", Water}, {"HYDROGENSULFIDE", HydrogenSulfide, English}, {"HYDROGENSULFITE", HydrogenSulfide, English}, {"H2S", HydrogenSulfide},
     {"SULFHIDRICO", HydrogenSulfide, Spanish}, {"SULFIDRICO", HydrogenSulfide, Portuguese},
     {"SULFIDE", HydrogenSulfide, English}, {"SULFHIDR", HydrogenSulfide, Spanish},
     {"SULFURO", HydrogenSulfide, Spanish}, {"HYDROGEN", Hydrogen, English},
@@ -226,6 +227,13 @@ std::vector<const Word*> Sorted() {
     return words;
 }
 
+std::unordered_map<std::string_view, const Word*> ByText() {
+    std::unordered_map<std::string_view, const Word*> words;
+    for (const Word& word : Table)
+        words.emplace(word.Text, &word);
+    return words;
+}
+
 } // namespace
 
 std::span<const Word> Words() {
@@ -233,9 +241,16 @@ std::span<const Word> Words() {
 }
 
 const Word* FindWord(std::string_view text) {
+    static const std::unordered_map<std::string_view, const Word*> words = ByText();
+    const auto found = words.find(text);
+    return found == words.end() ? nullptr : found->second;
+}
+
+std::span<const Word* const> WordsFrom(std::string_view text) {
     static const std::vector<const Word*> sorted = Sorted();
-    const auto found = std::ranges::lower_bound(sorted, text, {}, &Word::Text);
-    return found != sorted.end() && (*found)->Text == text ? *found : nullptr;
+    const auto first = std::ranges::lower_bound(sorted, text, {}, &Word::Text);
+    const auto begins = [&](const Word* word) { return word->Text.starts_with(text); };
+    return {first, std::find_if_not(first, sorted.end(), begins)};
 }
 
 } // namespace gfc::naming

@@ -94,6 +94,8 @@ struct Word {
 [[nodiscard]] std::span<const Word> Words();
 // Null for a text that is no word of the table. text as the table writes them.
 [[nodiscard]] const Word* FindWord(std::string_view text);
+// All words that begin with the text, sorted; it may be empty.
+[[nodiscard]] std::span<const Word* const> WordsFrom(std::string_view text);
 
 // A few words for people, in English: "differential pressure". Empty for what qualifies.
 [[nodiscard]] std::string_view NameOf(Subject subject);

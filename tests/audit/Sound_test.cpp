@@ -1,5 +1,6 @@
 #include "SampleStation.h"
 #include "audit/GasTables.h"
+#include "binding/Catalogue.h"
 #include "config/RunLayout.h"
 
 #include <gtest/gtest.h>
@@ -60,6 +61,26 @@ TEST(PublishedGases, are_sound_for_AGA8_and_ISO_12213) {
             EXPECT_EQ(nearest->Text, "The nearest of the published reference gases is " +
                                          std::string(gas.Name) + ", 0 mol % off.");
         }
+}
+
+std::string WithoutBlanks(std::string_view caption) {
+    std::string name(caption);
+    std::ranges::replace(name, ' ', '_');
+    return name;
+}
+
+// Whoever calls the tags as the program calls the variables has made no mistake.
+TEST(SoundStation, may_name_its_tags_as_the_program_names_its_variables) {
+    for (const auto caption : {&binding::Captions::Tree, &binding::Captions::Summary})
+        for (const auto& algorithm : config::FlowAlgorithms)
+            for (const auto source : {config::source::AGA8, config::source::SGERG88}) {
+                SampleStation station(SampleChoices{
+                    .Algorithm = algorithm.Stored, .Source = source, .Chromatograph = true, .Runs = {1}});
+                for (const binding::VariableRow& row : binding::Catalogue())
+                    if (!station.Value("Run1", std::string(row.Stem) + "Type").empty())
+                        station.Name("Run1", row.Stem, "Run1_" + WithoutBlanks(row.Captions.*caption));
+                EXPECT_EQ(Worse(station.Check().Findings), "") << algorithm.Stored << " " << source;
+            }
 }
 
 } // namespace

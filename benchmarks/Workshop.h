@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace gfc::bench {
+
+// The full path of what stands in the program's own folder.
+[[nodiscard]] std::string Beside(const std::string& name);
+
+// Runs io-workshop with these arguments and waits for it.
+void Workshop(const std::string& arguments);
+
+} // namespace gfc::bench
