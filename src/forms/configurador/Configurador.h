@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audit/Plausible.h"
+#include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "forms/station/CommonGroups.h"
 #include "ui/Buttons.h"
@@ -86,6 +88,8 @@ public:
     ui::Label AtmExtType{FrameExtAtmPress, "AtmExtType", " Type: "};
     ui::Label AtmExtAddr{FrameExtAtmPress, "AtmExtAddr", " Addr: "};
     ui::CommandButton btExtAtmChange{FrameExtAtmPress, "btExtAtmChange", "Change"};
+    // What is implausible in the common gas data and the atmospheric pressure.
+    ui::Label Notes{*this, "Notes"};
 
 protected:
     void Load() override;
@@ -161,7 +165,9 @@ private:
     [[nodiscard]] bool LacksParameter();
     [[nodiscard]] bool Write(bool inPlace);
     void StoreValues();
-    void StoreChoices();
+    void StoreChoices(config::StationConfig& station) const;
+    // The common gas data and the pressure as the tabs have them now.
+    [[nodiscard]] config::StationConfig Entered() const;
 
     // What decides which tags and data the runs of a new configuration need. The numbers are those of the
     // lists.
@@ -175,6 +181,7 @@ private:
     };
     [[nodiscard]] PassedChoices Choices() const;
 
+    QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckCommonValues(Entered(), sink); }};
     bool finished_ = false; // the pass went through all runs
     PassedChoices passed_;  // with these
     bool fallingBack_ = false;

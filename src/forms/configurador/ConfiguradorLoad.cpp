@@ -35,6 +35,7 @@ void Configurador::Load() {
     else
         LoadNew();
     OpenAsChosen();
+    notes_.Refresh();
 }
 
 // Neither another station's values nor its runs may shine through.

@@ -44,6 +44,11 @@ void Configurador::BindRules() {
     CheckShapeOnLeaving(program_.Screen, Text2);
     FilterKeys(pressure.txtAtmPress);
     FilterKeys(traces.Number);
+    notes_.Follow({&Text1, &Text2, &Text3, &Text4, &pressure.txtAtmPress});
+    notes_.FollowChoices({&pressure.OptAbsPress.OnClick, &pressure.OptGagePress.OnClick,
+                          &pressure.OptAtmPressFixed.OnClick, &pressure.OptAtmPressExt.OnClick,
+                          &general.CombUnits.OnClick, &general.CombStandard.OnClick,
+                          &general.cbSourceGas.OnClick});
 }
 
 void Configurador::EnableExternalPressure(bool enabled) {

@@ -91,15 +91,21 @@ bool Configurador::Write(bool inPlace) {
                                    [&](config::FileIni& ini) { save(ini, session_.Station, file); });
 }
 
+config::StationConfig Configurador::Entered() const {
+    config::StationConfig station;
+    StoreChoices(station);
+    pressure.Store(station);
+    return station;
+}
+
 void Configurador::StoreValues() {
-    StoreChoices();
+    StoreChoices(session_.Station);
     pressure.Store(session_.Station);
     traces.Store(session_.Station);
     modules.Store(session_.Station.WorkingModules, session_.Inventory);
 }
 
-void Configurador::StoreChoices() {
-    auto& station = session_.Station;
+void Configurador::StoreChoices(config::StationConfig& station) const {
     const int standard = general.CombStandard.ListIndex();
     const auto& algorithm = standard == ui::DropDownList::None
                                 ? config::FlowAlgorithms.back()

@@ -19,6 +19,15 @@ void QuietNotes::Follow(std::initializer_list<ui::TextBox*> fields) {
         field->OnEdited = [this] { Refresh(); };
 }
 
+void QuietNotes::FollowChoices(std::initializer_list<std::function<void()>*> clicks) {
+    for (std::function<void()>* click : clicks)
+        *click = [this, before = std::move(*click)] {
+            if (before)
+                before();
+            Refresh();
+        };
+}
+
 void QuietNotes::Refresh() {
     audit::Findings findings;
     audit::Sink sink(findings);

@@ -19,6 +19,8 @@ public:
 
     // The fields whose editing the line follows.
     void Follow(std::initializer_list<ui::TextBox*> fields);
+    // Choices, too, once what they do is bound: the line changes after that.
+    void FollowChoices(std::initializer_list<std::function<void()>*> clicks);
     // After what a program has put on the form.
     void Refresh();
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "audit/Plausible.h"
+#include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "forms/station/CommonGroups.h"
 #include "ui/Buttons.h"
@@ -55,6 +57,8 @@ public:
     ui::CommandButton siguiente{*this, "siguiente", "Next"};
     ui::CommandButton finalizar{*this, "finalizar", "Finish"};
     ui::CommandButton cancelar{*this, "cancelar", "Cancel"};
+    // What is implausible in the common gas data and the atmospheric pressure.
+    ui::Label Notes{*this, "Notes"};
 
     // Copies the pages into the station's configuration, as the texts that are stored.
     void StoreWizardValues();
@@ -100,7 +104,9 @@ private:
 
     // The commit of the pages (WizardStore.cpp)
     [[nodiscard]] bool LacksValue() const;
-    void StoreChoices();
+    void StoreChoices(config::StationConfig& station) const;
+    // The common gas data and the pressure as the pages have them now.
+    [[nodiscard]] config::StationConfig Entered() const;
 
     // The end (WizardSave.cpp)
     void Finish();
@@ -110,6 +116,7 @@ private:
     void CloseForms();
     void Quit();
 
+    QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckCommonValues(Entered(), sink); }};
     int nStep_ = 0;
     int lastPage_ = 3;
     bool finished_ = false;

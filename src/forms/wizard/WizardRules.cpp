@@ -32,6 +32,11 @@ void WizardFC::BindRules() {
     // Deliberately not alike: the standard pressure takes any key, the atmospheric pressure any shape.
     CheckShapeOnLeaving(program_.Screen, TextDensityStandardP);
     FilterKeys(pressure.txtAtmPress);
+    notes_.Follow({&Text1, &Text2, &TextDensityStandardTemp, &TextDensityStandardP, &pressure.txtAtmPress});
+    notes_.FollowChoices({&pressure.OptAbsPress.OnClick, &pressure.OptGagePress.OnClick,
+                          &pressure.OptAtmPressFixed.OnClick, &pressure.OptAtmPressExt.OnClick,
+                          &general.CombUnits.OnClick, &general.CombStandard.OnClick,
+                          &general.cbSourceGas.OnClick});
 }
 
 void WizardFC::AbsoluteChosen() {

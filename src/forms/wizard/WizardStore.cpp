@@ -6,14 +6,13 @@
 namespace gfc::forms {
 
 void WizardFC::StoreWizardValues() {
-    StoreChoices();
+    StoreChoices(session_.Station);
     pressure.Store(session_.Station);
     traces.Store(session_.Station);
     modules.Store(session_.Station.WorkingModules, session_.Inventory);
 }
 
-void WizardFC::StoreChoices() {
-    auto& station = session_.Station;
+void WizardFC::StoreChoices(config::StationConfig& station) const {
     station.FlowAlgorithm = config::StoredAlgorithm(general.CombStandard.Text());
     station.FlagAGA7 = station.FlowAlgorithm == config::algorithm::AGA7;
     StoreSource(station, config::StoredSource(general.cbSourceGas.Text()), OptCromatografo.Value());
@@ -23,6 +22,13 @@ void WizardFC::StoreChoices() {
     station.FlowingViscosity = Text1.Text();
     station.IsentropicCoeff = Text2.Text();
     station.Compressible = YesOrNo(OptComprensible.Value());
+}
+
+config::StationConfig WizardFC::Entered() const {
+    config::StationConfig station;
+    StoreChoices(station);
+    pressure.Store(station);
+    return station;
 }
 
 bool WizardFC::LacksValue() const {

@@ -155,5 +155,18 @@ TEST(ConfiguradorSource, a_gas_model_gives_aga7_its_pressure_back) {
     ExpectEnabled(form, pressureGroup, false);
 }
 
+// Notes.
+
+TEST(ConfiguradorNotes, say_what_is_implausible_in_what_is_stored_and_in_what_is_typed) {
+    std::string file = WizardFile("aga3_densimeter_external");
+    ConfiguradorWorld world(file);
+    auto& form = world.Form();
+    form.Text2.PersonEdits("1.01325");
+    const std::string noted = form.Notes.Caption();
+    EXPECT_NE(noted.find("1.01325"), std::string::npos) << noted;
+    form.Text2.PersonEdits("14.73");
+    EXPECT_NE(form.Notes.Caption(), noted);
+}
+
 } // namespace
 } // namespace gfc::test

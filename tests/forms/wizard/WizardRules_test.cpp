@@ -253,5 +253,31 @@ TEST(WizardRules, the_atmospheric_pressure_takes_numbers_of_any_shape) {
     world.PlayPages();
 }
 
+TEST(WizardNotes, say_what_is_implausible_in_the_gas_data_while_it_is_typed) {
+    WizardWorld world;
+    auto& form = world.Preset(AGA3, AGA8, 1);
+    EXPECT_EQ(form.Notes.Caption(), "");
+    form.TextDensityStandardP.PersonEdits("101.325");
+    EXPECT_NE(form.Notes.Caption().find("101.325"), std::string::npos) << form.Notes.Caption();
+    form.TextDensityStandardP.PersonEdits("14.73");
+    EXPECT_EQ(form.Notes.Caption(), "");
+    form.Text1.PersonEdits("10.3");
+    EXPECT_NE(form.Notes.Caption(), "");
+    // A turbine needs no viscosity.
+    form.general.CombStandard.SetListIndex(AGA7);
+    EXPECT_EQ(form.Notes.Caption(), "");
+}
+
+TEST(WizardNotes, judge_the_atmospheric_pressure_where_it_counts) {
+    WizardWorld world;
+    auto& form = world.Preset(AGA3, AGA8, 1);
+    form.pressure.txtAtmPress.PersonEdits("101.325");
+    EXPECT_EQ(form.Notes.Caption(), "");
+    form.pressure.OptGagePress.SetValue(true);
+    EXPECT_NE(form.Notes.Caption().find("101.325"), std::string::npos) << form.Notes.Caption();
+    form.pressure.OptAbsPress.SetValue(true);
+    EXPECT_EQ(form.Notes.Caption(), "");
+}
+
 } // namespace
 } // namespace gfc::test
