@@ -35,7 +35,7 @@ int FindRow(const ui::ListView& list, const QString& text, int from, bool upward
     for (int passed = 0; passed < count; ++passed) {
         const int at = from - 1 + (upwards ? -passed : passed);
         const int row = (at % count + count) % count + 1;
-        if (Holds(list, row, text))
+        if (list.PlaceOfRow(row) > 0 && Holds(list, row, text))
             return row;
     }
     return 0;

@@ -177,13 +177,23 @@ private:
     void ReadOrder() {
         for (const Known& variable : known_) {
             std::map<std::string, std::vector<std::size_t>> alike;
-            for (const Match& match : variable.Matches)
-                if (readings_[match.Tag].Run == 0)
-                    alike[WithoutNumbers(match.Tag)].push_back(match.Tag);
+            std::set<std::string> told; // of one that says its run the others are other runs'
+            for (const Match& match : variable.Matches) {
+                const std::string name = WithoutNumbers(match.Tag);
+                alike[name].push_back(match.Tag);
+                if (readings_[match.Tag].Run != 0 || NamesARun(match.Tag))
+                    told.insert(name);
+            }
             for (auto& [name, tags] : alike)
-                if (tags.size() == question_.Runs.size())
+                if (tags.size() == question_.Runs.size() && !told.contains(name))
                     GiveInOrder(tags);
         }
+    }
+
+    // Be it a run that is not asked for.
+    [[nodiscard]] bool NamesARun(std::size_t tag) const {
+        const auto& name = facts_[tag].Name;
+        return facts_[tag].Module.Run != 0 || (name.Run != 0 && !countsFromZero_.contains(WordOf(name)));
     }
 
     [[nodiscard]] std::string WithoutNumbers(std::size_t tag) const {

@@ -43,6 +43,62 @@ void ListView::AddRows(std::vector<Row> rows) {
         observer_->RowsAdded(first, Count());
 }
 
+void ListView::InsertRows(int row, std::vector<Row> rows) {
+    if (rows.empty() || row < 1 || row > Count() + 1)
+        return;
+    const int last = row + static_cast<int>(rows.size()) - 1;
+    rows_.insert(rows_.begin() + (row - 1), std::make_move_iterator(rows.begin()),
+                 std::make_move_iterator(rows.end()));
+    if (selected_ >= row)
+        selected_ += last - row + 1;
+    if (observer_ != nullptr)
+        observer_->RowsAdded(row, last);
+}
+
+void ListView::ShowRows(std::vector<int> rows) {
+    if (shown_ == rows)
+        return;
+    shown_ = std::move(rows);
+    if (observer_ != nullptr)
+        observer_->RowsReset();
+}
+
+void ListView::ShowAllRows() {
+    if (!shown_)
+        return;
+    shown_.reset();
+    if (observer_ != nullptr)
+        observer_->RowsReset();
+}
+
+int ListView::ShownCount() const {
+    return shown_ ? static_cast<int>(shown_->size()) : Count();
+}
+
+int ListView::RowAtPlace(int place) const {
+    if (place < 1 || place > ShownCount())
+        return 0;
+    const int row = shown_ ? (*shown_)[static_cast<std::size_t>(place - 1)] : place;
+    return row <= Count() ? row : 0;
+}
+
+int ListView::PlaceOfRow(int row) const {
+    return row >= 1 && ShownFrom(row) == row ? ShownCount() - ShownBehind(row) : 0;
+}
+
+int ListView::ShownFrom(int row) const {
+    if (!shown_)
+        return row >= 1 && row <= Count() ? row : 0;
+    const auto found = std::ranges::lower_bound(*shown_, row);
+    return found == shown_->end() || *found > Count() ? 0 : *found;
+}
+
+int ListView::ShownBehind(int row) const {
+    if (!shown_)
+        return Count() - row;
+    return static_cast<int>(shown_->end() - std::ranges::upper_bound(*shown_, row));
+}
+
 void ListView::SetCell(int row, int column, std::string text) {
     Row& cells = rows_.at(static_cast<std::size_t>(row - 1));
     if (column >= static_cast<int>(cells.size()))
@@ -96,12 +152,22 @@ void ListView::SelectRow(int row) {
 }
 
 bool ListView::PersonClicksRow(int row) {
-    if (row < 1 || row > Count() || !PersonActs())
+    if (row < 1 || PlaceOfRow(row) == 0 || !PersonActs())
         return false;
     SelectRow(row);
     Fire([this, row] {
         if (OnRowClick)
             OnRowClick(row);
+    });
+    return true;
+}
+
+bool ListView::PersonAsksForMenu(int row) {
+    if (row > 0 ? !PersonClicksRow(row) : !PersonActs())
+        return false;
+    Fire([this, row] {
+        if (OnMenu)
+            OnMenu(row);
     });
     return true;
 }

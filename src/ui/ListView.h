@@ -2,6 +2,7 @@
 
 #include "ui/Control.h"
 
+#include <optional>
 #include <vector>
 
 namespace gfc::ui {
@@ -39,11 +40,28 @@ public:
     [[nodiscard]] const std::string& Cell(int row, int column) const;
     void AddRow(Row row);
     void AddRows(std::vector<Row> rows);
+    // In front of the row; Count() + 1 adds them at the end.
+    void InsertRows(int row, std::vector<Row> rows);
     void SetCell(int row, int column, std::string text);
     void RemoveRows(int first, int count);
     void ClearRows();
     // Gives each row the bare number of its place as its text.
     void Renumber();
+
+    // Only these rows, ascending, are to be seen; their numbers and all that counts rows stay those of the
+    // whole list. Whoever changes the rows afterwards says anew which are shown.
+    void ShowRows(std::vector<int> rows);
+    void ShowAllRows();
+    [[nodiscard]] bool ShowsAllRows() const { return !shown_; }
+    [[nodiscard]] int ShownCount() const;
+    // The row at a place among the shown ones, counted from 1, and the other way round; 0 for none.
+    [[nodiscard]] int RowAtPlace(int place) const;
+    [[nodiscard]] int PlaceOfRow(int row) const;
+    // The first shown row from this one on; 0 for none.
+    [[nodiscard]] int ShownFrom(int row) const;
+
+    // More about a row than its cells say; empty for no more.
+    std::function<std::string(int row)> HintOf;
 
     // 0 for none.
     [[nodiscard]] int SelectedRow() const { return selected_; }
@@ -51,12 +69,18 @@ public:
     // A person clicked a row.
     std::function<void(int row)> OnRowClick;
     bool PersonClicksRow(int row);
+    // A person asks for the menu of a row, which is clicked first; 0 where there is none.
+    std::function<void(int row)> OnMenu;
+    bool PersonAsksForMenu(int row);
 
     void SetRowsObserver(RowsObserver* observer) { observer_ = observer; }
 
 private:
+    [[nodiscard]] int ShownBehind(int row) const;
+
     std::vector<Column> columns_;
     std::vector<Row> rows_;
+    std::optional<std::vector<int>> shown_;
     RowsObserver* observer_ = nullptr;
     int selected_ = 0;
 };

@@ -9,6 +9,11 @@ void MenuEntry::SetImage(std::string image) {
     Changed();
 }
 
+void MenuEntry::SetShortcut(std::string shortcut) {
+    shortcut_ = std::move(shortcut);
+    Changed();
+}
+
 bool MenuEntry::PersonClicks() {
     if (IsSeparator() || !PersonActs())
         return false;

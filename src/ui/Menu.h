@@ -13,6 +13,10 @@ public:
     // The picture's name in the icon set; empty for none.
     [[nodiscard]] const std::string& Image() const { return image_; }
     void SetImage(std::string image);
+    // The keys that choose it, such as "Ctrl+Shift+Z"; empty for none. A field that uses them itself keeps
+    // them.
+    [[nodiscard]] const std::string& Shortcut() const { return shortcut_; }
+    void SetShortcut(std::string shortcut);
     // A separator has no caption and cannot be chosen.
     [[nodiscard]] bool IsSeparator() const { return Caption() == "-"; }
     // Runs for an entry when it is chosen, for a menu when it is about to open.
@@ -21,6 +25,7 @@ public:
 
 private:
     std::string image_;
+    std::string shortcut_;
 };
 
 } // namespace gfc::ui

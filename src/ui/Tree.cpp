@@ -73,6 +73,16 @@ void Tree::SetBold(int node, bool bold) {
     NodeChanged(node);
 }
 
+void Tree::SetNote(int node, std::string note, std::string hint, Colour colour) {
+    Node& its = Mutable(node);
+    if (its.Note == note && its.Hint == hint && its.NoteColour == colour)
+        return;
+    its.Note = std::move(note);
+    its.Hint = std::move(hint);
+    its.NoteColour = colour;
+    NodeChanged(node);
+}
+
 void Tree::SetExpanded(int node, bool expanded) {
     if (Mutable(node).Expanded == expanded)
         return;

@@ -33,6 +33,9 @@ public:
         Colour TheColour = Colour::Default;
         bool Bold = false;
         bool Expanded = false;
+        std::string Note; // stands beside the node, if the tree has notes
+        std::string Hint; // says more of the note
+        Colour NoteColour = Colour::Default;
     };
 
     Tree(Place place, std::string name) : Control(place, Kind::Tree, std::move(name)) {}
@@ -55,6 +58,10 @@ public:
     void SetBold(int node, bool bold);
     void SetExpanded(int node, bool expanded);
     void EnsureVisible(int node);
+    // A second column, for what is to be seen without opening a node. To be decided before the tree is shown.
+    void HaveNotes() { hasNotes_ = true; }
+    [[nodiscard]] bool HasNotes() const { return hasNotes_; }
+    void SetNote(int node, std::string note, std::string hint, Colour colour = Colour::Default);
 
     [[nodiscard]] int SelectedNode() const { return selected_; }
     // By program: runs no event.
@@ -76,6 +83,7 @@ private:
     std::vector<Node> nodes_;
     TreeObserver* observer_ = nullptr;
     int selected_ = 0;
+    bool hasNotes_ = false;
 };
 
 } // namespace gfc::ui

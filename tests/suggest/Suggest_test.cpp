@@ -144,6 +144,13 @@ TEST(Suggest, WhatToolsPutBehindANameIsNoRun) {
     EXPECT_NE(bare.For(2, Pressure).Confidence, Confidence::High);
 }
 
+TEST(Suggest, ATagOfARunThatIsOffIsNotThatOfTheOnlyOne) {
+    const auto word = Station({1}).Tags({"R2_PRES", "R2_TEMP", "R1_TEMP"}).AskInputs();
+    ExpectThat(word.For(1, Pressure), "", Confidence::None);
+    const auto loops = Station({1}).Tags({"PIT-101", "PIT-102", "TIT-101", "TIT-102"}).AskInputs();
+    ExpectThat(loops.For(1, Pressure), "PIT-101", Confidence::High);
+}
+
 TEST(Suggest, NamesMadeAlikeAreNeverSure) {
     const auto station = Station({1, 2}).Tags({"STATIC_PRES_RUN_", "STATIC_PRES_RUN_"}).AskInputs();
     EXPECT_NE(station.For(1, Pressure).Confidence, Confidence::High);

@@ -14,9 +14,13 @@ std::int32_t RegisterOf(const std::string& text) {
     return value;
 }
 
+// A blank where a sign would stand, and two behind the number.
+std::string NumberText(int number) {
+    return " " + std::to_string(number) + "  ";
+}
+
 ui::ListView::Row RowOf(const project::Tag& tag, int number) {
-    // A blank where a sign would stand, and two behind the number.
-    std::string text = " " + std::to_string(number) + "  ";
+    std::string text = NumberText(number);
     if (!binding::ClassOf(tag.RegType))
         return {std::move(text)};
     return {std::move(text), tag.TagName, tag.RegType, std::to_string(tag.RegAddr)};
@@ -36,6 +40,12 @@ void FillTagList(ui::ListView& list, const project::TagList& tags, int rowOffset
     for (const project::Tag& tag : tags)
         rows.push_back(RowOf(tag, static_cast<int>(rows.size()) + 1 + rowOffset));
     list.AddRows(std::move(rows));
+}
+
+void NumberAsFilled(ui::ListView& list) {
+    for (int row = 1; row <= list.Count(); ++row)
+        if (list.Cell(row, 0) != NumberText(row))
+            list.SetCell(row, 0, NumberText(row));
 }
 
 project::TagList TagsInList(const ui::ListView& list) {

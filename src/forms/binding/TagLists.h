@@ -22,6 +22,9 @@ void HeadTagList(ui::ListView& list, std::string_view heading);
 // numbers.
 void FillTagList(ui::ListView& list, const project::TagList& tags, int rowOffset);
 
+// Gives the rows the numbers that they are filled with.
+void NumberAsFilled(ui::ListView& list);
+
 // The list's rows as tags; a register that is no number counts as 0.
 [[nodiscard]] project::TagList TagsInList(const ui::ListView& list);
 

@@ -11,20 +11,30 @@ namespace gfc::forms {
 using binding::OfferList;
 namespace node = binding::node;
 
-TagRuns::TagRuns(Program& program) : ProgramForm(program, "TagRuns") {
-    Command1.OnClick = [this] { Assign(); };
-    Command4.OnClick = [this] { UndoTag(); };
-    Command3.OnClick = borrartodo.OnClick = [this] { UndoAll(); };
-    Command6.OnClick = AutoAsociar.OnClick = [this] { AutoAssign(); };
+TagRuns::TagRuns(Program& program) : ProgramForm(program, "TagRuns"), suggestions_(program) {
+    Command1.OnClick = [this] { Do("Assign of " + NameOfSelected(), [this] { Assign(); }); };
+    Command4.OnClick = [this] { Do("Undo Tag of " + NameOfSelected(), [this] { UndoTag(); }); };
+    Command3.OnClick = borrartodo.OnClick = [this] { Do("Undo All", [this] { UndoAll(); }); };
+    Command6.OnClick = AutoAsociar.OnClick = [this] { Do("Auto-Assign", [this] { AutoAssign(); }); };
     Command5.OnClick = [this] { Continue(); };
     Command2.OnClick = salirform.OnClick = [this] { Cancel(); };
     Command7.OnClick = [this] { Help(); };
-    CopyGasCompButton.OnClick = [this] { Copy(); };
+    CopyGasCompButton.OnClick = [this] { Do("Copy", [this] { Copy(); }); };
+    ConnectEdit();
 
     ListViewRuns.OnRowClick = [this](int row) { floatRow_ = row; };
     ListLong.OnRowClick = [this](int row) { longRow_ = row; };
     ListAnalogDig.OnRowClick = [this](int row) { analogDigRow_ = row; };
-    TreeAGA.OnNodeClick = [this](int clicked) { selectedNode_ = clicked; };
+    TreeAGA.OnNodeClick = [this](int clicked) {
+        selectedNode_ = clicked;
+        menuList_ = nullptr;
+        ShowEditState();
+    };
+    Filter.OnEdited = [this] {
+        filter_.SetWords(Filter.Text());
+        ApplyFilter();
+    };
+    FilterKind.OnClick = [this] { ApplyFilter(); };
 
     // Only the keys are looked at: these three may hold any shape of number, and may stay empty.
     FilterKeys(Text1);

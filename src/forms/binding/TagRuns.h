@@ -2,6 +2,9 @@
 
 #include "binding/Assignment.h"
 #include "binding/Catalogue.h"
+#include "forms/binding/BindingHistory.h"
+#include "forms/binding/TagFilter.h"
+#include "forms/binding/TagSuggestions.h"
 #include "forms/program/Program.h"
 #include "ui/Buttons.h"
 #include "ui/ControlArray.h"
@@ -22,11 +25,19 @@ class TagRuns : public ProgramForm {
 public:
     explicit TagRuns(Program& program);
 
+    ui::Label Progress{*this, "Progress"};
+    ui::Label Missing{*this, "Missing"};
     ui::Tree TreeAGA{*this, "TreeAGA"};
     ui::CommandButton Command1{*this, "Command1", "Assign"};
     ui::CommandButton Command4{*this, "Command4", "Undo Tag"};
     ui::CommandButton Command3{*this, "Command3", "Undo All"};
     ui::CommandButton Command6{*this, "Command6", "Auto-Assign"};
+    ui::CommandButton SuggestTags{*this, "SuggestTags", "Suggest"};
+    ui::CommandButton TakeSure{*this, "TakeSure", "Take All Sure"};
+    ui::Label lbFilter{*this, "lbFilter", "Filter"};
+    ui::TextBox Filter{*this, "Filter"};
+    ui::DropDownList FilterKind{*this, "FilterKind"};
+    ui::Label FilterSays{*this, "FilterSays"};
     ui::ListView ListViewRuns{*this, "ListViewRuns"};
     ui::ListView ListLong{*this, "ListLong"};
     ui::ListView ListAnalogDig{*this, "ListAnalogDig"};
@@ -64,6 +75,19 @@ public:
     ui::MenuEntry borrartodo{*this, "borrartodo", "&Undo All"};
     ui::MenuEntry AutoAsociar{*this, "AutoAsociar", "&Auto-Assign"};
     ui::MenuEntry salirform{*this, "salirform", "&Cancel"};
+
+    ui::MenuEntry edicion{*this, "edicion", "&Edit"};
+    ui::MenuEntry deshacer{edicion, "deshacer", "&Undo"};
+    ui::MenuEntry rehacer{edicion, "rehacer", "&Redo"};
+    ui::MenuEntry lineaEdicion1{edicion, "lineaEdicion1", "-"};
+    ui::MenuEntry sugerir{edicion, "sugerir", "&Suggest"};
+    ui::MenuEntry tomar{edicion, "tomar", "&Take Suggestion"};
+    ui::MenuEntry tomarSeguras{edicion, "tomarSeguras", "Take &All That Are Sure"};
+    ui::MenuEntry repuestos{edicion, "repuestos", "&Offer Spare Registers"};
+    ui::MenuEntry lineaEdicion2{edicion, "lineaEdicion2", "-"};
+    ui::MenuEntry soltar{edicion, "soltar", "Take &Back"};
+    ui::MenuEntry buscar{edicion, "buscar", "&Filter"};
+    ui::MenuEntry dondeSeUsa{edicion, "dondeSeUsa", "&Where Used"};
 
     // The row, from 1, that the next Assign takes from that list; past the end it takes nothing.
     [[nodiscard]] int RowToTake(binding::OfferList list) { return RowFieldOf(list); }
@@ -110,6 +134,40 @@ private:
     void TakeRows();
     void SelectFirstRows();
 
+    // Suggesting, and what is seen of it at once
+    void ConnectEdit();
+    // Runs an act of the person and notes it, so that it can be undone.
+    void Do(const std::string& what, const std::function<void()>& act);
+    void UndoLast();
+    void RedoLast();
+    [[nodiscard]] BindingHistory::Picture TakePicture() const;
+    void ShowPicture(const BindingHistory::Picture& picture);
+    void ShowRows(ui::ListView& list, const BindingHistory::Picture::List& state);
+    [[nodiscard]] std::string NameOfSelected() const;
+    void Suggest();
+    void TakeSuggestion();
+    void TakeAllSure();
+    void OfferSpares();
+    void TakeBack();
+    void Bind(int position, const config::TagBinding& binding);
+    void Release(int position);
+    [[nodiscard]] bool IsOffered(int position) const;
+    void ShowNotes();
+    void ShowNote(int position);
+    void ShowProgress();
+    void ShowMissing();
+    void ShowEditState();
+    void OpenMenu();
+    void ShowWhereUsed();
+    [[nodiscard]] std::vector<config::TagBinding> ShownBindings() const;
+
+    // The filter over the lists
+    void ApplyFilter();
+    void FilterList(binding::OfferList offer);
+    // The first shown row from this one on; past the end where none is.
+    [[nodiscard]] static int NextShown(const ui::ListView& list, int row);
+    [[nodiscard]] std::string HintOf(const ui::ListView& list, int row) const;
+
     // Leaving
     void Continue();
     [[nodiscard]] bool MayContinue();
@@ -138,6 +196,10 @@ private:
     int longRow_ = 1;
     int selectedNode_ = 0;
     std::string configFilePath_;
+    BindingHistory history_;
+    TagSuggestions suggestions_;
+    TagFilter filter_;
+    ui::ListView* menuList_ = nullptr; // the list whose menu is open or was open last
 };
 
 } // namespace gfc::forms

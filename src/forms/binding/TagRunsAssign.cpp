@@ -33,7 +33,7 @@ void TagRuns::Assign() {
     const OfferList offer = binding::OfferListOf(position, needed_);
     ui::ListView& list = ListOf(offer);
     // The row field stays where it is, so it may point past the end.
-    const int row = RowFieldOf(offer);
+    const int row = NextShown(list, RowFieldOf(offer));
     if (row > list.Count())
         return;
     ShowBinding(position, BindingInRow(list, row));
@@ -95,9 +95,14 @@ bool TagRuns::MayAutoAssign() {
         SaySomethingIsBound();
         return false;
     }
-    const binding::FreeRows free{binding::RowsFrom(floatRow_, ListViewRuns.Count()),
-                                 binding::RowsFrom(longRow_, ListLong.Count()),
-                                 binding::RowsFrom(analogDigRow_, ListAnalogDig.Count())};
+    const auto rowsFrom = [](const ui::ListView& list, int clicked) {
+        if (list.ShowsAllRows())
+            return binding::RowsFrom(clicked, list.Count());
+        const int first = list.PlaceOfRow(list.ShownFrom(clicked));
+        return first == 0 ? 0 : binding::RowsFrom(first, list.ShownCount());
+    };
+    const binding::FreeRows free{rowsFrom(ListViewRuns, floatRow_), rowsFrom(ListLong, longRow_),
+                                 rowsFrom(ListAnalogDig, analogDigRow_)};
     if (binding::CanAutoAssign(needed_, free))
         return true;
     Tell("Tag Auto-assignments...", binding::AutoAssignShortage(needed_), ui::Icon::Exclamation);
@@ -109,11 +114,16 @@ void TagRuns::TakeRows() {
     int position = 0;
     for (const OfferList offer : AllLists) {
         ui::ListView& list = ListOf(offer);
-        const int first = RowFieldOf(offer);
         const int count = std::min(binding::NeededFrom(offer, needed_), VariablesShown() - position);
-        for (int row = first; row < first + count; ++row)
+        std::vector<int> taken;
+        int row = RowFieldOf(offer);
+        for (int i = 0; i < count; ++i) {
+            row = NextShown(list, row);
             ShowBinding(position++, BindingInRow(list, row));
-        list.RemoveRows(first, count);
+            taken.push_back(row++);
+        }
+        for (auto last = taken.rbegin(); last != taken.rend(); ++last)
+            list.RemoveRows(*last, 1);
         list.Renumber();
     }
 }

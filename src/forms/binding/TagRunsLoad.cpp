@@ -73,8 +73,14 @@ void TagRuns::Load() {
     RemoveCloseCommand();
     configFilePath_ = session_.ConfigFile();
     ShowCopySources();
+    for (const char* kind : {"All", "Free", "Suggested"})
+        FilterKind.AddEntry(kind);
+    FilterKind.SetListIndex(0);
     PrepareStage();
     ShowRowFields();
+    history_.Clear();
+    suggestions_.Forget();
+    ShowNotes();
 }
 
 void TagRuns::ShowCopySources() {

@@ -56,13 +56,32 @@ private:
         rows.setDefaultSectionSize(widget_.fontMetrics().height() + 6);
     }
 
-    [[nodiscard]] int ItemAt(const QModelIndex& at) const override { return at.row() + 1; }
+    [[nodiscard]] int ItemAt(const QModelIndex& at) const override { return model_.RowOf(at); }
     // In the column in which the arrow keys stand.
     [[nodiscard]] QModelIndex IndexOf(int row) const override {
-        return model_.index(row - 1, std::max(0, widget_.currentIndex().column()));
+        return model_.IndexOf(row, std::max(0, widget_.currentIndex().column()));
     }
     [[nodiscard]] int Selected() const override { return control_.SelectedRow(); }
     void ClickItem(int row) override { (void)control_.PersonClicksRow(row); }
+
+    // The second button takes the row before it opens its menu.
+    void TakePress(QMouseEvent& event) override {
+        ViewRenderer::TakePress(event);
+        if (event.button() == Qt::RightButton)
+            AskForMenu();
+    }
+
+    // The keyboard's way to what the second mouse button does.
+    bool TakeMenuRequest(QContextMenuEvent& event) override {
+        if (event.reason() == QContextMenuEvent::Keyboard)
+            AskForMenu();
+        return true;
+    }
+
+    void AskForMenu() {
+        if (window_.Form() != nullptr && control_.OnMenu)
+            Act([this] { (void)control_.PersonAsksForMenu(control_.SelectedRow()); });
+    }
 
     void RowsReset() override {
         const FormWindow::Writing writing(window_);

@@ -53,6 +53,9 @@ void MenuEntryRenderer::Refresh() {
         image_ = control_.Image();
         action_->setIcon(IconNamed(image_));
     }
+    // An entry without keys of its own may have been given a letter by the window.
+    if (const QKeySequence keys(ToQt(control_.Shortcut())); !keys.isEmpty() && action_->shortcut() != keys)
+        action_->setShortcut(keys);
     action_->setEnabled(control_.Enabled());
     action_->setVisible(control_.Visible());
 }

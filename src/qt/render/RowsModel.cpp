@@ -13,11 +13,22 @@ int RowsModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
-    if (list_ == nullptr || !index.isValid() || index.row() >= list_->Count())
-        return {};
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
-    return ToQt(list_->Cell(index.row() + 1, index.column()));
+    const int row = RowOf(index);
+    if (row == 0)
+        return {};
+    const std::string hint = role == Qt::ToolTipRole && list_->HintOf ? list_->HintOf(row) : std::string();
+    return ToQt(hint.empty() ? list_->Cell(row, index.column()) : hint);
+}
+
+int RowsModel::RowOf(const QModelIndex& at) const {
+    return list_ == nullptr || !at.isValid() ? 0 : list_->RowAtPlace(at.row() + 1);
+}
+
+QModelIndex RowsModel::IndexOf(int row, int column) const {
+    const int place = list_ == nullptr ? 0 : list_->PlaceOfRow(row);
+    return place == 0 || place > rows_ ? QModelIndex() : index(place - 1, column);
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -32,24 +43,31 @@ QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int rol
 
 void RowsModel::Reset() {
     beginResetModel();
-    rows_ = list_ == nullptr ? 0 : list_->Count();
+    rows_ = list_ == nullptr ? 0 : list_->ShownCount();
     columns_ = list_ == nullptr ? 0 : static_cast<int>(list_->Columns().size());
     endResetModel();
 }
 
 void RowsModel::Added(int first, int last) {
+    if (!list_->ShowsAllRows())
+        return Reset();
     beginInsertRows({}, first - 1, last - 1);
     rows_ += last - first + 1;
     endInsertRows();
 }
 
 void RowsModel::Removed(int first, int last) {
+    if (!list_->ShowsAllRows())
+        return Reset();
     beginRemoveRows({}, first - 1, last - 1);
     rows_ -= last - first + 1;
     endRemoveRows();
 }
 
 void RowsModel::Altered(int first, int last) {
+    // Of a list that is filtered all of it may be another row's.
+    if (list_ != nullptr && !list_->ShowsAllRows())
+        first = 1, last = rows_;
     if (rows_ > 0 && columns_ > 0)
         Q_EMIT dataChanged(index(first - 1, 0), index(last - 1, columns_ - 1));
 }

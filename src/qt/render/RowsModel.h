@@ -17,7 +17,11 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
-    // Rows are counted from 1, as in the control.
+    // Rows are counted from 1, as in the control; 0 and the invalid index stand for each other. A row that
+    // the list does not show has none.
+    [[nodiscard]] int RowOf(const QModelIndex& at) const;
+    [[nodiscard]] QModelIndex IndexOf(int row, int column) const;
+
     void Reset();
     void Added(int first, int last);
     void Removed(int first, int last);

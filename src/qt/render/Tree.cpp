@@ -4,6 +4,7 @@
 #include "qt/render/TreeModel.h"
 #include "qt/render/ViewRenderer.h"
 
+#include <QHeaderView>
 #include <QTreeView>
 
 #include <set>
@@ -20,6 +21,7 @@ public:
         widget.setHeaderHidden(true);
         widget.setUniformRowHeights(true);
         FollowPerson();
+        SetUpNotes();
         control.SetTreeObserver(this);
         for (int node = 1; node <= control.Count(); ++node)
             RefreshBranch(node);
@@ -37,6 +39,14 @@ public:
     }
 
 private:
+    // The nodes take what they need, and their notes the rest.
+    void SetUpNotes() {
+        if (!control_.HasNotes())
+            return;
+        widget_.header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+        widget_.header()->setStretchLastSection(true);
+    }
+
     [[nodiscard]] int ItemAt(const QModelIndex& at) const override { return TreeModel::NodeOf(at); }
     [[nodiscard]] QModelIndex IndexOf(int node) const override { return model_.IndexOf(node); }
     [[nodiscard]] int Selected() const override { return control_.SelectedNode(); }

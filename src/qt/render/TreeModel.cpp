@@ -38,7 +38,8 @@ QVariant ColourOf(ui::Colour colour) {
 // With what the picture and the colour tell.
 QString InWords(const ui::Tree::Node& node) {
     const QString state = StateTold(node.Image);
-    return state.isEmpty() ? ToQt(node.Text) : ToQt(node.Text) + QStringLiteral(", ") + state;
+    const QString text = state.isEmpty() ? ToQt(node.Text) : ToQt(node.Text) + QStringLiteral(", ") + state;
+    return node.Note.empty() ? text : text + QStringLiteral(", ") + ToQt(node.Note);
 }
 
 } // namespace
@@ -51,9 +52,9 @@ QModelIndex TreeModel::IndexOf(int node) const {
 
 QModelIndex TreeModel::index(int row, int column, const QModelIndex& parent) const {
     const auto& siblings = children_[static_cast<std::size_t>(NodeOf(parent))];
-    if (row < 0 || column != 0 || row >= static_cast<int>(siblings.size()))
+    if (row < 0 || column < 0 || column >= columnCount() || row >= static_cast<int>(siblings.size()))
         return {};
-    return createIndex(row, 0, static_cast<quintptr>(siblings[static_cast<std::size_t>(row)]));
+    return createIndex(row, column, static_cast<quintptr>(siblings[static_cast<std::size_t>(row)]));
 }
 
 QModelIndex TreeModel::parent(const QModelIndex& child) const {
@@ -64,11 +65,33 @@ int TreeModel::rowCount(const QModelIndex& parent) const {
     return static_cast<int>(children_[static_cast<std::size_t>(NodeOf(parent))].size());
 }
 
+int TreeModel::columnCount(const QModelIndex&) const {
+    return tree_ != nullptr && tree_->HasNotes() ? 2 : 1;
+}
+
+// The second column: what is known of the node without opening it.
+QVariant TreeModel::NoteData(const ui::Tree::Node& node, int role) {
+    switch (role) {
+    case Qt::DisplayRole:
+        return ToQt(node.Note);
+    case Qt::ToolTipRole:
+        return ToQt(node.Hint.empty() ? node.Note : node.Hint);
+    case Qt::AccessibleTextRole:
+        return ToQt(node.Hint.empty() ? node.Note : node.Note + ", " + node.Hint);
+    case Qt::ForegroundRole:
+        return ColourOf(node.NoteColour);
+    default:
+        return {};
+    }
+}
+
 QVariant TreeModel::data(const QModelIndex& index, int role) const {
     if (tree_ == nullptr || !index.isValid())
         return {};
     const int node = NodeOf(index);
     const ui::Tree::Node& its = tree_->At(node);
+    if (index.column() == 1)
+        return NoteData(its, role);
     switch (role) {
     case Qt::DisplayRole:
         return ToQt(its.Text);
@@ -130,7 +153,7 @@ void TreeModel::Learn(int node) {
 void TreeModel::Altered(int node) {
     const QModelIndex at = IndexOf(node);
     if (at.isValid())
-        Q_EMIT dataChanged(at, at);
+        Q_EMIT dataChanged(at, at.siblingAtColumn(columnCount() - 1));
 }
 
 void TreeModel::Release() {

@@ -29,7 +29,7 @@ public:
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& child) const override;
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] int columnCount(const QModelIndex& = {}) const override { return 1; }
+    [[nodiscard]] int columnCount(const QModelIndex& = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
     void Reset();
@@ -41,6 +41,7 @@ public:
 private:
     void Learn(int node);
     [[nodiscard]] QVariant Picture(int node) const;
+    [[nodiscard]] static QVariant NoteData(const ui::Tree::Node& node, int role);
 
     const ui::Tree* tree_;
     std::vector<std::vector<int>> children_;        // of node 0, the roots

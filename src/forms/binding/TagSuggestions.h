@@ -1,0 +1,58 @@
+#pragma once
+
+#include "forms/program/Program.h"
+#include "suggest/Known.h"
+#include "suggest/Suggest.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace gfc::forms {
+
+// What is suggested for the variables of one showing of TagRuns, by their positions.
+class TagSuggestions {
+public:
+    explicit TagSuggestions(Program& program) : program_(program) {}
+
+    // Another stage is shown: what was known is of another run.
+    void Forget();
+    // Asks anew. shown is what the tree says of each variable, as it writes it.
+    void Ask(const std::vector<config::TagBinding>& shown);
+    // Spare registers for the variables that no tag was found for. False if there are none.
+    bool AskForSpares(const std::vector<config::TagBinding>& shown);
+    [[nodiscard]] bool WereAsked() const { return asked_; }
+    // Null where nothing is known of the position, or nothing was asked.
+    [[nodiscard]] const suggest::Suggestion* At(int position) const;
+
+    // Whether another run or stage of the station binds the register.
+    [[nodiscard]] bool IsBoundElsewhere(const config::TagBinding& binding) const;
+    // Null for a register that the station does not have.
+    [[nodiscard]] const project::Tag* TagAt(const std::string& type, const std::string& address) const;
+    [[nodiscard]] std::vector<std::string> PlacesOf(const config::TagBinding& binding,
+                                                    const std::vector<config::TagBinding>& shown) const;
+
+private:
+    [[nodiscard]] std::vector<suggest::Want> Variables() const;
+    [[nodiscard]] const std::vector<suggest::BoundVariable>& Elsewhere() const;
+    [[nodiscard]] std::vector<suggest::BoundVariable>
+    BoundHere(const std::vector<config::TagBinding>& shown) const;
+    [[nodiscard]] std::vector<int> ActiveRuns() const;
+    [[nodiscard]] suggest::Question QuestionFor(const std::vector<config::TagBinding>& shown) const;
+    void AddOtherWants(suggest::Question& question) const;
+    [[nodiscard]] bool HoldsAllRuns() const;
+    [[nodiscard]] int RunHere() const;
+
+    Program& program_;
+    bool asked_ = false;
+    std::map<int, suggest::Suggestion> suggestions_;
+    // Found out once for a showing, when first asked for.
+    mutable std::optional<std::vector<suggest::BoundVariable>> elsewhere_;
+    mutable std::unordered_set<std::string> boundElsewhere_; // registers
+    mutable std::unordered_map<std::string, const project::Tag*> tags_;
+};
+
+} // namespace gfc::forms
