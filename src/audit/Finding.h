@@ -51,6 +51,8 @@ public:
     void AboutStation(std::string section) { About(0, true, std::move(section)); }
     // words fill the braces of the rule's text, in order.
     Finding& Add(RuleId rule, const Place& place, std::initializer_list<std::string_view> words = {});
+    // One that was found before, as it is.
+    void Take(Finding finding) { findings_.push_back(std::move(finding)); }
 
 private:
     Findings& findings_;

@@ -132,11 +132,15 @@ void ListView::ClearRows() {
 }
 
 void ListView::Renumber() {
+    NumberRows([](int row) { return std::to_string(row); });
+}
+
+void ListView::NumberRows(const std::function<std::string(int row)>& textOf) {
     for (int row = 1; row <= Count(); ++row) {
         Row& cells = rows_[static_cast<std::size_t>(row - 1)];
         if (cells.empty())
             cells.emplace_back();
-        cells.front() = std::to_string(row);
+        cells.front() = textOf(row);
     }
     if (observer_ != nullptr && Count() > 0)
         observer_->RowsChanged(1, Count());

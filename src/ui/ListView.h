@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Control.h"
+#include "ui/DragPlace.h"
 
 #include <optional>
 #include <vector>
@@ -19,7 +19,7 @@ public:
 };
 
 // A table of texts. Rows are counted from 1, as its users count them; column 0 is the row's own text.
-class ListView : public Control {
+class ListView : public DragPlace {
 public:
     using Row = std::vector<std::string>;
     struct Column {
@@ -27,7 +27,7 @@ public:
         int Width = 0; // in characters; 0 for as wide as needed
     };
 
-    ListView(Place place, std::string name) : Control(place, Kind::ListView, std::move(name)) {}
+    ListView(Place place, std::string name) : DragPlace(place, Kind::ListView, std::move(name)) {}
 
     [[nodiscard]] const std::vector<Column>& Columns() const { return columns_; }
     // All at once: a window lays its table out anew for each call.
@@ -47,6 +47,8 @@ public:
     void ClearRows();
     // Gives each row the bare number of its place as its text.
     void Renumber();
+    // Gives each row a text that follows from its place.
+    void NumberRows(const std::function<std::string(int row)>& textOf);
 
     // Only these rows, ascending, are to be seen; their numbers and all that counts rows stay those of the
     // whole list. Whoever changes the rows afterwards says anew which are shown.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/Control.h"
+#include "ui/DragPlace.h"
 
 #include <string_view>
 #include <vector>
@@ -21,7 +21,7 @@ public:
 };
 
 // Nodes are counted from 1 in the order in which they were added; 0 is no node.
-class Tree : public Control {
+class Tree : public DragPlace {
 public:
     struct Node {
         std::string Key;
@@ -38,7 +38,7 @@ public:
         Colour NoteColour = Colour::Default;
     };
 
-    Tree(Place place, std::string name) : Control(place, Kind::Tree, std::move(name)) {}
+    Tree(Place place, std::string name) : DragPlace(place, Kind::Tree, std::move(name)) {}
 
     // The new node's index. A parent of 0 makes a root.
     int Add(int parent, std::string key, std::string text, std::string image = {},

@@ -246,6 +246,11 @@ private:
         return ::testing::AssertionSuccess();
     }
     std::string Command(RandomHands& hands) {
+        // The hands have come upon the filter: without rows nothing would be bound any more.
+        if (form_->FilterKind.ListIndex() > 0 && hands.OneIn(2)) {
+            (void)form_->FilterKind.PersonSelects(0);
+            return "all rows are shown";
+        }
         const char* const buttons[] = {"Command1", "Command1", "Command1", "Command4",
                                        "Command4", "Command3", "Command6"};
         const char* name = buttons[hands.Draw(std::size(buttons))];
@@ -293,7 +298,7 @@ TEST_P(HighlightOfTagRuns, is_what_is_bound) {
     constexpr int events = 1500;
     EXPECT_GE(Run(events), events);
     if (GetParam() != binding::BindingStage::GasInputs) { // there only all at once
-        EXPECT_GT(assigned_, 5);
+        EXPECT_GT(assigned_, 3);
     }
     TellOf("TagRuns", events);
 }

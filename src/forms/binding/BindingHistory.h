@@ -9,16 +9,16 @@
 
 namespace gfc::forms {
 
-// What a showing of TagRuns has done, so that it can be undone and done again.
+// What a showing of TagRuns has done, so that it can be undone and done again. The lists may hold many
+// thousands of rows, so of these each act tells which it has changed.
 class BindingHistory {
 public:
     static constexpr std::size_t Lists = 3;
     static constexpr std::size_t Fields = 7;
 
-    // All that an act may change. The rows are without their numbers, which follow from their order.
+    // All that an act may change, but for the rows.
     struct Picture {
         struct List {
-            std::vector<ui::ListView::Row> Rows;
             bool HasBareNumbers = false; // as after any renumbering
             int ClickedRow = 1;
 
@@ -26,40 +26,49 @@ public:
         };
 
         std::vector<config::TagBinding> Shown; // by position; as the tree writes them
+        std::vector<std::string> Images;       // by position
         std::array<List, Lists> ListOf;
         std::array<std::string, Fields> FieldTexts;
+    };
 
-        bool operator==(const Picture&) const = default;
+    // From row First on, counted from 1, a list has other rows than before. They are without their numbers,
+    // which follow from their order.
+    struct RowChange {
+        std::size_t List = 0;
+        int First = 1;
+        std::vector<ui::ListView::Row> Before, After;
+    };
+
+    // What there is to be done to go one step back or forth: the rows first, in this order.
+    struct Move {
+        Picture To;
+        std::vector<RowChange> Rows;
     };
 
     // An act is done; nothing is noted if it changed nothing. What could be done again is forgotten.
-    void Note(std::string what, const Picture& before, const Picture& after);
+    void Note(std::string what, Picture before, Picture after, std::vector<RowChange> rows);
     void Clear();
 
     // What would be undone or done again, as it was noted; empty for nothing.
     [[nodiscard]] std::string ToUndo() const;
     [[nodiscard]] std::string ToRedo() const;
-    // The picture to go back or forth to. Where a field was typed into since, it keeps what it holds. There
-    // must be something to undo or to do again.
-    [[nodiscard]] Picture Undo(Picture now);
-    [[nodiscard]] Picture Redo(Picture now);
+    // Where a field was typed into since, it keeps what it holds. There must be something to undo or to do
+    // again.
+    [[nodiscard]] Move Undo(const Picture& now);
+    [[nodiscard]] Move Redo(const Picture& now);
+
+    // The change from some rows to others, without those at both ends that stay; nothing in it if all do.
+    [[nodiscard]] static RowChange ChangeOf(std::size_t list, const std::vector<ui::ListView::Row>& before,
+                                            const std::vector<ui::ListView::Row>& after);
 
 private:
-    // The rows from First on that were others, so that a step in a list of many thousands stays small.
-    struct ListChange {
-        std::size_t First = 0;
-        std::vector<ui::ListView::Row> Before, After;
-        Picture::List StateBefore, StateAfter; // without rows
-    };
     struct Step {
         std::string What;
-        std::vector<config::TagBinding> Before, After;
-        std::array<ListChange, Lists> Lists;
-        std::array<std::string, Fields> FieldsBefore, FieldsAfter;
+        Picture Before, After;
+        std::vector<RowChange> Rows;
     };
 
-    static ListChange ChangeOf(const Picture::List& before, const Picture::List& after);
-    static void Apply(const Step& step, bool back, Picture& picture);
+    static void KeepWhatWasTyped(const Picture& left, const Picture& now, Picture& to);
 
     std::vector<Step> steps_;
     std::size_t done_ = 0; // of the steps

@@ -43,9 +43,7 @@ void FillTagList(ui::ListView& list, const project::TagList& tags, int rowOffset
 }
 
 void NumberAsFilled(ui::ListView& list) {
-    for (int row = 1; row <= list.Count(); ++row)
-        if (list.Cell(row, 0) != NumberText(row))
-            list.SetCell(row, 0, NumberText(row));
+    list.NumberRows(NumberText);
 }
 
 project::TagList TagsInList(const ui::ListView& list) {
@@ -68,12 +66,12 @@ config::TagBinding BindingInRow(const ui::ListView& list, int row) {
             .RegAddr = list.Cell(row, tag_column::Register)};
 }
 
-void PutBack(ui::ListView& list, const config::TagBinding& tag) {
+int RowWith(const ui::ListView& list, const config::TagBinding& tag) {
     for (int row = 1; row <= list.Count(); ++row)
         if (list.Cell(row, tag_column::Register) == tag.RegAddr &&
             list.Cell(row, tag_column::Type) == tag.Type)
-            return;
-    list.AddRow({std::string(), tag.Tag, tag.Type, tag.RegAddr});
+            return row;
+    return 0;
 }
 
 } // namespace gfc::forms

@@ -30,8 +30,7 @@ void NumberAsFilled(ui::ListView& list);
 
 [[nodiscard]] config::TagBinding BindingInRow(const ui::ListView& list, int row);
 
-// Puts a tag back at the end, unless a row of its address and type is there already. The rows are not
-// renumbered.
-void PutBack(ui::ListView& list, const config::TagBinding& tag);
+// The first row of the tag's address and type, whatever its name; 0 for none.
+[[nodiscard]] int RowWith(const ui::ListView& list, const config::TagBinding& tag);
 
 } // namespace gfc::forms

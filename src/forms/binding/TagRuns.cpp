@@ -27,7 +27,6 @@ TagRuns::TagRuns(Program& program) : ProgramForm(program, "TagRuns"), suggestion
     ListAnalogDig.OnRowClick = [this](int row) { analogDigRow_ = row; };
     TreeAGA.OnNodeClick = [this](int clicked) {
         selectedNode_ = clicked;
-        menuList_ = nullptr;
         ShowEditState();
     };
     Filter.OnEdited = [this] {
@@ -40,6 +39,7 @@ TagRuns::TagRuns(Program& program) : ProgramForm(program, "TagRuns"), suggestion
     FilterKeys(Text1);
     FilterKeys(kfactor);
     FilterKeys(phostd);
+    notes_.Follow({&Text1, &kfactor, &phostd});
 }
 
 bool TagRuns::KeyDown(ui::Key key) {

@@ -5,6 +5,7 @@
 #include "forms/binding/BindingHistory.h"
 #include "forms/binding/TagFilter.h"
 #include "forms/binding/TagSuggestions.h"
+#include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "ui/Buttons.h"
 #include "ui/ControlArray.h"
@@ -68,6 +69,9 @@ public:
         FrameCopy, "Option1", [](int i) { return "Run " + std::to_string(i + 1); }};
     ui::CommandButton CopyGasCompButton{FrameCopy, "CopyGasCompButton", "Copy"};
 
+    // What the rules of the plant's check say of what is bound here.
+    ui::Label Notes{*this, "Notes"};
+
     ui::CommandButton Command7{*this, "Command7", "Help"};
     ui::CommandButton Command2{*this, "Command2", "Cancel"};
     ui::CommandButton Command5{*this, "Command5", "Continue"};
@@ -85,6 +89,7 @@ public:
     ui::MenuEntry tomarSeguras{edicion, "tomarSeguras", "Take &All That Are Sure"};
     ui::MenuEntry repuestos{edicion, "repuestos", "&Offer Spare Registers"};
     ui::MenuEntry lineaEdicion2{edicion, "lineaEdicion2", "-"};
+    ui::MenuEntry atar{edicion, "atar", "&Bind Chosen Tag"};
     ui::MenuEntry soltar{edicion, "soltar", "Take &Back"};
     ui::MenuEntry buscar{edicion, "buscar", "&Filter"};
     ui::MenuEntry dondeSeUsa{edicion, "dondeSeUsa", "&Where Used"};
@@ -141,13 +146,22 @@ private:
     void UndoLast();
     void RedoLast();
     [[nodiscard]] BindingHistory::Picture TakePicture() const;
-    void ShowPicture(const BindingHistory::Picture& picture);
-    void ShowRows(ui::ListView& list, const BindingHistory::Picture::List& state);
+    void GoTo(const BindingHistory::Move& move);
+    void ShowFields(const BindingHistory::Picture& picture);
+    void Replace(const BindingHistory::RowChange& change);
+    void TellFilter(const BindingHistory::RowChange& change);
+    // The ways in which an act changes the lists; what they do is noted for the history.
+    void TakeRow(binding::OfferList list, int row);
+    // At the end, unless a row of its address and type is there already. The rows are not renumbered.
+    void PutBack(binding::OfferList list, const config::TagBinding& tag);
+    void Refill();
     [[nodiscard]] std::string NameOfSelected() const;
     void Suggest();
     void TakeSuggestion();
     void TakeAllSure();
     void OfferSpares();
+    void BindChosen();
+    [[nodiscard]] bool MayBindChosen(int position);
     void TakeBack();
     void Bind(int position, const config::TagBinding& binding);
     void Release(int position);
@@ -157,16 +171,25 @@ private:
     void ShowProgress();
     void ShowMissing();
     void ShowEditState();
-    void OpenMenu();
+    // With the module where the station has the register.
+    [[nodiscard]] std::string HintOfRow(const ui::ListView& list, int row) const;
+    void Judge(audit::Sink& sink) const;
+    [[nodiscard]] config::RunIO EnteredFactors() const;
+    void ConnectMenus();
+    void GiveKeys();
     void ShowWhereUsed();
     [[nodiscard]] std::vector<config::TagBinding> ShownBindings() const;
+
+    void ConnectDragging();
+    void DropOnto(int position, const ui::DragPlace& from);
 
     // The filter over the lists
     void ApplyFilter();
     void FilterList(binding::OfferList offer);
+    [[nodiscard]] std::vector<int> RowsToShow(const ui::ListView& list);
+    void SayWhatIsShown();
     // The first shown row from this one on; past the end where none is.
     [[nodiscard]] static int NextShown(const ui::ListView& list, int row);
-    [[nodiscard]] std::string HintOf(const ui::ListView& list, int row) const;
 
     // Leaving
     void Continue();
@@ -197,9 +220,12 @@ private:
     int selectedNode_ = 0;
     std::string configFilePath_;
     BindingHistory history_;
+    std::vector<BindingHistory::RowChange> changes_; // of the act that goes on
     TagSuggestions suggestions_;
-    TagFilter filter_;
-    ui::ListView* menuList_ = nullptr; // the list whose menu is open or was open last
+    TagFilter filter_{[this](std::string_view type, std::string_view address) {
+        return suggestions_.ModuleOf(type, address);
+    }};
+    QuietNotes notes_{Notes, [this](audit::Sink& sink) { Judge(sink); }};
 };
 
 } // namespace gfc::forms

@@ -37,7 +37,7 @@ void TagRuns::Assign() {
     if (row > list.Count())
         return;
     ShowBinding(position, BindingInRow(list, row));
-    list.RemoveRows(row, 1);
+    TakeRow(offer, row);
     list.Renumber();
     ShowRowFields();
 }
@@ -49,10 +49,10 @@ void TagRuns::UndoTag() {
     if (!IsBound(position))
         return Tell("Error undo Tag", "Can´t undo. No I/O assignments has been made for this variable",
                     ui::Icon::Exclamation);
-    ui::ListView& list = ListOf(binding::OfferListOf(position, needed_));
-    PutBack(list, ShownBinding(position));
+    const OfferList offer = binding::OfferListOf(position, needed_);
+    PutBack(offer, ShownBinding(position));
     ShowUnbound(position);
-    list.Renumber();
+    ListOf(offer).Renumber();
     // The row that has come back may be the one that a field points at.
     ShowRowFields();
 }
@@ -63,7 +63,7 @@ void TagRuns::UndoAll() {
     if (session_.EditMode == EditMode::ModifyTags)
         UndoOneByOne();
     else
-        PrepareStage();
+        Refill();
     floatRow_ = analogDigRow_ = longRow_ = 1;
     ShowRowFields();
 }
@@ -72,7 +72,7 @@ void TagRuns::UndoAll() {
 // Configured", which the others find.
 void TagRuns::UndoOneByOne() {
     for (int position = 0; position < std::min(needed_.Total(), VariablesShown()); ++position) {
-        PutBack(ListOf(binding::OfferListOf(position, needed_)), ShownBinding(position));
+        PutBack(binding::OfferListOf(position, needed_), ShownBinding(position));
         ShowUnbound(position);
     }
     for (const OfferList list : AllLists)
@@ -123,7 +123,7 @@ void TagRuns::TakeRows() {
             taken.push_back(row++);
         }
         for (auto last = taken.rbegin(); last != taken.rend(); ++last)
-            list.RemoveRows(*last, 1);
+            TakeRow(offer, *last);
         list.Renumber();
     }
 }

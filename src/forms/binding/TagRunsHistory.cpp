@@ -5,18 +5,32 @@
 
 namespace gfc::forms {
 
+using binding::OfferList;
+namespace node = binding::node;
+
 namespace {
 
 using Picture = BindingHistory::Picture;
+using RowChange = BindingHistory::RowChange;
+using Rows = std::vector<ui::ListView::Row>;
 
-// The list's rows without their numbers.
-std::vector<ui::ListView::Row> RowsOf(const ui::ListView& list) {
-    std::vector<ui::ListView::Row> rows;
+// In the order of the history.
+constexpr std::array<OfferList, BindingHistory::Lists> ListOrder = {OfferList::Float, OfferList::Long,
+                                                                    OfferList::AnalogDig};
+
+std::size_t PlaceOf(OfferList list) {
+    return static_cast<std::size_t>(std::ranges::find(ListOrder, list) - ListOrder.begin());
+}
+
+ui::ListView::Row WithoutNumber(const ui::ListView::Row& cells) {
+    return {cells.empty() ? cells.begin() : cells.begin() + 1, cells.end()};
+}
+
+Rows RowsOf(const ui::ListView& list) {
+    Rows rows;
     rows.reserve(static_cast<std::size_t>(list.Count()));
-    for (int row = 1; row <= list.Count(); ++row) {
-        const auto& cells = list.At(row);
-        rows.emplace_back(cells.empty() ? cells.begin() : cells.begin() + 1, cells.end());
-    }
+    for (int row = 1; row <= list.Count(); ++row)
+        rows.push_back(WithoutNumber(list.At(row)));
     return rows;
 }
 
@@ -28,20 +42,45 @@ bool HasBareNumbers(const ui::ListView& list) {
 } // namespace
 
 void TagRuns::Do(const std::string& what, const std::function<void()>& act) {
-    const Picture before = TakePicture();
+    Picture before = TakePicture();
+    changes_.clear();
     act();
-    history_.Note(what, before, TakePicture());
-    filter_.Forget();
+    std::ranges::for_each(changes_, [this](const RowChange& change) { TellFilter(change); });
+    history_.Note(what, std::move(before), TakePicture(), std::exchange(changes_, {}));
     ShowNotes();
 }
 
-BindingHistory::Picture TagRuns::TakePicture() const {
+void TagRuns::TakeRow(OfferList list, int row) {
+    changes_.push_back({PlaceOf(list), row, {WithoutNumber(ListOf(list).At(row))}, {}});
+    ListOf(list).RemoveRows(row, 1);
+}
+
+void TagRuns::PutBack(OfferList list, const config::TagBinding& tag) {
+    ui::ListView& its = ListOf(list);
+    if (RowWith(its, tag) != 0)
+        return;
+    its.AddRow({std::string(), tag.Tag, tag.Type, tag.RegAddr});
+    changes_.push_back({PlaceOf(list), its.Count(), {}, {WithoutNumber(its.At(its.Count()))}});
+}
+
+void TagRuns::Refill() {
+    std::array<Rows, BindingHistory::Lists> before;
+    for (std::size_t list = 0; list < before.size(); ++list)
+        before[list] = RowsOf(ListOf(ListOrder[list]));
+    PrepareStage();
+    for (std::size_t list = 0; list < before.size(); ++list)
+        changes_.push_back(BindingHistory::ChangeOf(list, before[list], RowsOf(ListOf(ListOrder[list]))));
+}
+
+Picture TagRuns::TakePicture() const {
     Picture picture;
     picture.Shown = ShownBindings();
+    for (int position = 0; position < VariablesShown(); ++position)
+        picture.Images.push_back(TreeAGA.At(node::Variable(position)).Image);
     const ui::ListView* const lists[] = {&ListViewRuns, &ListLong, &ListAnalogDig};
     const int fields[] = {floatRow_, longRow_, analogDigRow_};
     for (std::size_t i = 0; i < BindingHistory::Lists; ++i)
-        picture.ListOf[i] = {RowsOf(*lists[i]), HasBareNumbers(*lists[i]), fields[i]};
+        picture.ListOf[i] = {HasBareNumbers(*lists[i]), fields[i]};
     picture.FieldTexts = {Text1.Text(),
                           kfactor.Text(),
                           phostd.Text(),
@@ -52,24 +91,46 @@ BindingHistory::Picture TagRuns::TakePicture() const {
     return picture;
 }
 
-void TagRuns::ShowPicture(const Picture& picture) {
-    for (int position = 0; position < std::min<int>(VariablesShown(), static_cast<int>(picture.Shown.size()));
-         ++position) {
-        const auto& binding = picture.Shown[static_cast<std::size_t>(position)];
-        if (ShownBinding(position) == binding)
-            continue;
-        if (binding.RegAddr == binding::NotConfigured)
-            ShowUnbound(position);
-        else
-            ShowBinding(position, binding);
+void TagRuns::GoTo(const BindingHistory::Move& move) {
+    for (std::size_t i = 0; i < move.To.Shown.size(); ++i) {
+        const int position = static_cast<int>(i);
+        ShowBinding(position, move.To.Shown[i]);
+        // What reads "Not Configured" may have been taken from a row that reads so, too, and look bound.
+        TreeAGA.SetImage(node::Variable(position), move.To.Images[i]);
     }
-    ui::ListView* const lists[] = {&ListViewRuns, &ListLong, &ListAnalogDig};
-    int* const fields[] = {&floatRow_, &longRow_, &analogDigRow_};
-    for (std::size_t i = 0; i < BindingHistory::Lists; ++i) {
-        ShowRows(*lists[i], picture.ListOf[i]);
-        *fields[i] = picture.ListOf[i].ClickedRow;
+    for (const OfferList list : ListOrder)
+        ListOf(list).ShowAllRows();
+    for (const RowChange& change : move.Rows)
+        Replace(change);
+    for (const OfferList list : ListOrder) {
+        const Picture::List& state = move.To.ListOf[PlaceOf(list)];
+        if (state.HasBareNumbers)
+            ListOf(list).Renumber();
+        else
+            NumberAsFilled(ListOf(list));
+        RowFieldOf(list) = state.ClickedRow;
     }
     ShowRowFields();
+    ShowFields(move.To);
+}
+
+void TagRuns::Replace(const RowChange& change) {
+    ui::ListView& list = ListOf(ListOrder[change.List]);
+    list.RemoveRows(change.First, static_cast<int>(change.Before.size()));
+    Rows added;
+    for (const auto& cells : change.After) {
+        added.emplace_back(1); // the number comes later
+        added.back().insert(added.back().end(), cells.begin(), cells.end());
+    }
+    list.InsertRows(change.First, std::move(added));
+    TellFilter(change);
+}
+
+void TagRuns::TellFilter(const RowChange& change) {
+    filter_.RowsChanged(ListOf(ListOrder[change.List]), change.First, change.Before.size(), change.After);
+}
+
+void TagRuns::ShowFields(const Picture& picture) {
     ui::TextBox* const texts[] = {&Text1, &kfactor, &phostd};
     for (std::size_t i = 0; i < 3; ++i)
         texts[i]->SetText(picture.FieldTexts[i]);
@@ -80,43 +141,17 @@ void TagRuns::ShowPicture(const Picture& picture) {
         (local ? OptionLocal : OptionGMT).SetValue(true);
 }
 
-// Only the rows between those that stay are taken out and put in: the list may hold many thousands.
-void TagRuns::ShowRows(ui::ListView& list, const Picture::List& state) {
-    const auto now = RowsOf(list);
-    const auto first = std::ranges::mismatch(now, state.Rows);
-    const auto shared = static_cast<int>(first.in1 - now.begin());
-    int behind = 0;
-    const int most = static_cast<int>(std::min(now.size(), state.Rows.size())) - shared;
-    while (behind < most && now[now.size() - 1 - static_cast<std::size_t>(behind)] ==
-                                state.Rows[state.Rows.size() - 1 - static_cast<std::size_t>(behind)])
-        ++behind;
-    list.ShowAllRows();
-    list.RemoveRows(shared + 1, list.Count() - shared - behind);
-    std::vector<ui::ListView::Row> added;
-    for (auto row = first.in2; row != state.Rows.end() - behind; ++row) {
-        added.emplace_back(1);
-        added.back().insert(added.back().end(), row->begin(), row->end());
-    }
-    list.InsertRows(shared + 1, std::move(added));
-    if (state.HasBareNumbers)
-        list.Renumber();
-    else
-        NumberAsFilled(list);
-}
-
 void TagRuns::UndoLast() {
     if (history_.ToUndo().empty())
         return;
-    ShowPicture(history_.Undo(TakePicture()));
-    filter_.Forget();
+    GoTo(history_.Undo(TakePicture()));
     ShowNotes();
 }
 
 void TagRuns::RedoLast() {
     if (history_.ToRedo().empty())
         return;
-    ShowPicture(history_.Redo(TakePicture()));
-    filter_.Forget();
+    GoTo(history_.Redo(TakePicture()));
     ShowNotes();
 }
 

@@ -80,6 +80,7 @@ void TagRuns::Load() {
     ShowRowFields();
     history_.Clear();
     suggestions_.Forget();
+    filter_.Forget();
     ShowNotes();
 }
 

@@ -1,4 +1,3 @@
-#include "config/Vocabulary.h"
 #include "forms/binding/TagLists.h"
 #include "forms/binding/TagRuns.h"
 
@@ -10,60 +9,47 @@ using binding::OfferList;
 using suggest::Confidence;
 namespace node = binding::node;
 
-namespace {
-
-int RowWith(const ui::ListView& list, const config::TagBinding& tag) {
-    for (int row = 1; row <= list.Count(); ++row)
-        if (list.Cell(row, tag_column::Register) == tag.RegAddr &&
-            list.Cell(row, tag_column::Type) == tag.Type)
-            return row;
-    return 0;
-}
-
-std::string Counted(int count, const std::string& what) {
-    return std::to_string(count) + " " + what;
-}
-
-} // namespace
-
 void TagRuns::ConnectEdit() {
     SuggestTags.OnClick = sugerir.OnClick = [this] { Suggest(); };
     TakeSure.OnClick = tomarSeguras.OnClick = [this] { Do("Take All Sure", [this] { TakeAllSure(); }); };
     tomar.OnClick = [this] { Do("Take of " + NameOfSelected(), [this] { TakeSuggestion(); }); };
     soltar.OnClick = [this] { Do("Take Back of " + NameOfSelected(), [this] { TakeBack(); }); };
+    atar.OnClick = [this] { Do("Bind of " + NameOfSelected(), [this] { BindChosen(); }); };
     repuestos.OnClick = [this] { OfferSpares(); };
     deshacer.OnClick = [this] { UndoLast(); };
     rehacer.OnClick = [this] { RedoLast(); };
     buscar.OnClick = [this] { Filter.SetFocus(); };
     dondeSeUsa.OnClick = [this] { ShowWhereUsed(); };
     edicion.OnClick = [this] { ShowEditState(); };
-    TreeAGA.OnMouseDown = [this](ui::MouseButton button) {
-        if (button == ui::MouseButton::Right) {
-            menuList_ = nullptr;
-            OpenMenu();
-        }
-    };
-    for (ui::ListView* list : {&ListViewRuns, &ListLong, &ListAnalogDig}) {
-        list->HintOf = [this, list](int row) { return HintOf(*list, row); };
-        list->OnMenu = [this, list](int) {
-            menuList_ = list;
-            OpenMenu();
-        };
-    }
-    deshacer.SetShortcut("Ctrl+Z");
-    rehacer.SetShortcut("Ctrl+Shift+Z");
-    sugerir.SetShortcut("Ctrl+G");
-    tomar.SetShortcut("Ctrl+T");
-    tomarSeguras.SetShortcut("Ctrl+Shift+T");
-    soltar.SetShortcut("Ctrl+Backspace");
-    buscar.SetShortcut("Ctrl+L");
-    dondeSeUsa.SetShortcut("Ctrl+U");
     TreeAGA.HaveNotes();
+    ConnectMenus();
+    ConnectDragging();
+    GiveKeys();
 }
 
-void TagRuns::OpenMenu() {
-    ShowEditState();
-    program_.Screen.PopUp(edicion);
+void TagRuns::ConnectMenus() {
+    const auto open = [this] {
+        ShowEditState();
+        program_.Screen.PopUp(edicion);
+    };
+    TreeAGA.OnMouseDown = [open](ui::MouseButton button) {
+        if (button == ui::MouseButton::Right)
+            open();
+    };
+    for (ui::ListView* list : {&ListViewRuns, &ListLong, &ListAnalogDig}) {
+        list->HintOf = [this, list](int row) { return HintOfRow(*list, row); };
+        list->OnMenu = [open](int) { open(); };
+    }
+}
+
+void TagRuns::GiveKeys() {
+    const std::pair<ui::MenuEntry&, const char*> keys[] = {
+        {deshacer, "Ctrl+Z"},       {rehacer, "Ctrl+Shift+Z"}, {sugerir, "Ctrl+G"},
+        {tomar, "Ctrl+T"},          {atar, "Ctrl+B"},          {tomarSeguras, "Ctrl+Shift+T"},
+        {soltar, "Ctrl+Backspace"}, {buscar, "Ctrl+L"},        {dondeSeUsa, "Ctrl+U"},
+    };
+    for (const auto& [entry, key] : keys)
+        entry.SetShortcut(key);
 }
 
 std::vector<config::TagBinding> TagRuns::ShownBindings() const {
@@ -119,6 +105,22 @@ void TagRuns::TakeAllSure() {
             Bind(position, suggestions_.At(position)->Binding);
 }
 
+// The row that Assign would take: in the stage of the composition, too, where Assign is disabled.
+void TagRuns::BindChosen() {
+    const int position = SelectedPosition();
+    if (!MayBindChosen(position))
+        return;
+    const OfferList offer = binding::OfferListOf(position, needed_);
+    Bind(position, BindingInRow(ListOf(offer), NextShown(ListOf(offer), RowFieldOf(offer))));
+}
+
+bool TagRuns::MayBindChosen(int position) {
+    if (position < 0 || position >= VariablesShown() || IsBound(position))
+        return false;
+    const OfferList offer = binding::OfferListOf(position, needed_);
+    return NextShown(ListOf(offer), RowFieldOf(offer)) <= ListOf(offer).Count();
+}
+
 // Also in the stage of the composition, where Undo Tag is disabled.
 void TagRuns::TakeBack() {
     const int position = SelectedPosition();
@@ -134,7 +136,7 @@ void TagRuns::Bind(int position, const config::TagBinding& binding) {
     const int row = RowWith(list, binding);
     if (row == 0)
         return;
-    list.RemoveRows(row, 1);
+    TakeRow(offer, row);
     list.Renumber();
     int& clicked = RowFieldOf(offer);
     if (clicked > row)
@@ -144,74 +146,14 @@ void TagRuns::Bind(int position, const config::TagBinding& binding) {
 
 // What another run or stage binds does not come back to the list.
 void TagRuns::Release(int position) {
-    ui::ListView& list = ListOf(binding::OfferListOf(position, needed_));
+    const OfferList offer = binding::OfferListOf(position, needed_);
     const config::TagBinding bound = ShownBinding(position);
     ShowUnbound(position);
-    if (suggestions_.IsBoundElsewhere(bound))
+    if (suggestions_.IsBoundElsewhere(bound.Type, bound.RegAddr))
         return;
-    PutBack(list, bound);
-    list.Renumber();
+    PutBack(offer, bound);
+    ListOf(offer).Renumber();
     ShowRowFields();
-}
-
-void TagRuns::ShowNotes() {
-    for (int position = 0; position < VariablesShown(); ++position)
-        ShowNote(position);
-    ShowProgress();
-    ShowMissing();
-    ShowEditState();
-    ApplyFilter();
-}
-
-void TagRuns::ShowNote(int position) {
-    const int at = node::Variable(position);
-    if (IsBound(position))
-        return TreeAGA.SetNote(at, ShownBinding(position).Tag, {});
-    if (!IsOffered(position)) {
-        const auto* none = suggestions_.At(position);
-        return TreeAGA.SetNote(at, {}, none == nullptr ? std::string() : none->Reason);
-    }
-    const auto& suggestion = *suggestions_.At(position);
-    const bool sure = suggestion.Confidence == Confidence::High;
-    TreeAGA.SetNote(at, suggestion.Binding.Tag + (sure ? " ? (sure)" : " ? (fair)"), suggestion.Reason,
-                    sure ? ui::Colour::Green : ui::Colour::Blue);
-}
-
-void TagRuns::ShowProgress() {
-    const auto& station = session_.Station;
-    std::string text = "Station " + station.CurrentStation;
-    if (Stage() != BindingStage::CommonInputs)
-        text += ", run " + std::to_string(session_.RunNumber + 1);
-    const auto standard = config::AlgorithmIndex(station.FlowAlgorithm);
-    text += ", " + std::string(config::FlowAlgorithms[static_cast<std::size_t>(standard)].InConfigurador);
-    if (const int source = config::SourceIndex(station.GasDensitySource); source >= 0)
-        text +=
-            ", " + std::string(config::GasDensitySources[static_cast<std::size_t>(source)].InConfigurador);
-    text += ": " + std::to_string(BoundVariables()) + " of " + std::to_string(needed_.Total()) + " bound";
-    int offered = 0;
-    int sure = 0;
-    for (int position = 0; position < VariablesShown(); ++position)
-        if (IsOffered(position)) {
-            ++offered;
-            sure += suggestions_.At(position)->Confidence == Confidence::High ? 1 : 0;
-        }
-    if (suggestions_.WereAsked())
-        text += ", " + Counted(offered, "suggested") + ", " + Counted(sure, "of them sure");
-    Progress.SetCaption(std::move(text));
-}
-
-// Continue wants all of them, so what has no tag is said before.
-void TagRuns::ShowMissing() {
-    std::string names;
-    int missing = 0;
-    for (int position = 0; suggestions_.WereAsked() && position < VariablesShown(); ++position)
-        if (!IsBound(position) && !IsOffered(position)) {
-            names += (missing++ == 0 ? "" : ", ") + TreeAGA.At(node::Variable(position)).Text;
-        }
-    Missing.SetVisible(missing > 0);
-    Missing.SetCaption(missing == 0
-                           ? std::string()
-                           : names + ": no tag; Continue will ask for " + (missing == 1 ? "one" : "them"));
 }
 
 void TagRuns::ShowEditState() {
@@ -224,6 +166,7 @@ void TagRuns::ShowEditState() {
     const int position = SelectedPosition();
     const bool variable = position >= 0 && position < VariablesShown();
     tomar.SetEnabled(variable && IsOffered(position));
+    atar.SetEnabled(MayBindChosen(position));
     soltar.SetEnabled(variable && IsBound(position));
     bool sure = false;
     for (int each = 0; each < VariablesShown(); ++each)
@@ -236,8 +179,10 @@ void TagRuns::ShowEditState() {
 void TagRuns::ShowWhereUsed() {
     config::TagBinding tag;
     const int position = SelectedPosition();
-    if (menuList_ != nullptr && menuList_->SelectedRow() > 0)
-        tag = BindingInRow(*menuList_, menuList_->SelectedRow());
+    // Of a list in which a person stands the row is meant.
+    const auto* list = dynamic_cast<const ui::ListView*>(FocusedControl());
+    if (list != nullptr && list->SelectedRow() > 0)
+        tag = BindingInRow(*list, list->SelectedRow());
     else if (position >= 0 && IsBound(position))
         tag = ShownBinding(position);
     else if (position >= 0 && IsOffered(position))

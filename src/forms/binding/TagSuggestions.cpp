@@ -14,7 +14,7 @@ using suggest::Want;
 namespace {
 
 std::string KeyOf(std::string_view type, std::string_view address) {
-    return naming::Fold(type) + " " + std::string(address);
+    return naming::Fold(type).append(" ").append(address);
 }
 
 bool IsMade(const config::TagBinding& shown) {
@@ -72,12 +72,23 @@ std::vector<Want> TagSuggestions::Variables() const {
 
 // What the file and the records bind, but for the stage that is open: of that the tree alone tells.
 const std::vector<BoundVariable>& TagSuggestions::Elsewhere() const {
-    if (elsewhere_)
-        return *elsewhere_;
+    if (!elsewhere_)
+        RememberElsewhere();
+    return *elsewhere_;
+}
+
+void TagSuggestions::RememberElsewhere() const {
     const Session& session = program_.Session;
-    elsewhere_ = suggest::BoundInFile(program_.Ini, session.ConfigFile());
-    const auto add = [this](const std::vector<BoundVariable>& more) {
-        elsewhere_->insert(elsewhere_->end(), more.begin(), more.end());
+    const auto leaveOutOpenStage = [&](std::vector<BoundVariable>& bound) {
+        std::erase_if(bound, [&](const BoundVariable& each) {
+            return each.Variable.Run == RunHere() && each.Variable.Row->Stage == session.BindingStage;
+        });
+    };
+    auto& all = elsewhere_.emplace(suggest::BoundInFile(program_.Ini, session.ConfigFile()));
+    leaveOutOpenStage(all);
+    fromFile_ = all.size();
+    const auto add = [&all](const std::vector<BoundVariable>& more) {
+        all.insert(all.end(), more.begin(), more.end());
     };
     int element = 0;
     for (const int run : HoldsAllRuns() ? ActiveRuns() : std::vector<int>())
@@ -85,14 +96,22 @@ const std::vector<BoundVariable>& TagSuggestions::Elsewhere() const {
     if (!HoldsAllRuns() && RunHere() != 0)
         add(suggest::BoundInRecords(session.Station, session.RunPosition, RunHere()));
     if (session.Station.CommonPa.IsMade())
-        elsewhere_->push_back({{0, &binding::CommonPressureRow()}, session.Station.CommonPa});
-    std::erase_if(*elsewhere_, [&](const BoundVariable& bound) {
-        return bound.Variable.Run == RunHere() && bound.Variable.Row->Stage == session.BindingStage;
-    });
+        all.push_back({{0, &binding::CommonPressureRow()}, session.Station.CommonPa});
+    leaveOutOpenStage(all);
     boundElsewhere_.clear();
-    for (const BoundVariable& bound : *elsewhere_)
+    for (const BoundVariable& bound : all)
         boundElsewhere_.insert(KeyOf(bound.Binding.Type, bound.Binding.RegAddr));
-    return *elsewhere_;
+}
+
+std::vector<BoundVariable> TagSuggestions::InEffectElsewhere() const {
+    const auto& all = Elsewhere();
+    const auto runs = HoldsAllRuns() ? ActiveRuns() : std::vector{RunHere()};
+    const auto isHeld = [&runs](int run) { return run == 0 || std::ranges::find(runs, run) != runs.end(); };
+    std::vector<BoundVariable> inEffect;
+    for (std::size_t i = 0; i < all.size(); ++i)
+        if (i >= fromFile_ || !isHeld(all[i].Variable.Run))
+            inEffect.push_back(all[i]);
+    return inEffect;
 }
 
 std::vector<BoundVariable> TagSuggestions::BoundHere(const std::vector<config::TagBinding>& shown) const {
@@ -165,22 +184,37 @@ bool TagSuggestions::AskForSpares(const std::vector<config::TagBinding>& shown) 
     return !spares.empty();
 }
 
-bool TagSuggestions::IsBoundElsewhere(const config::TagBinding& binding) const {
+bool TagSuggestions::IsBoundElsewhere(std::string_view type, std::string_view address) const {
     (void)Elsewhere();
-    return boundElsewhere_.contains(KeyOf(binding.Type, binding.RegAddr));
+    return boundElsewhere_.contains(KeyOf(type, address));
 }
 
-const project::Tag* TagSuggestions::TagAt(const std::string& type, const std::string& address) const {
+// Of two tags on one register the first one counts.
+void TagSuggestions::IndexTags() const {
     const auto& inventory = program_.Session.Inventory;
+    const project::TagList* const lists[] = {&inventory.VirtFX, &inventory.VirtFY, &inventory.VirtLX,
+                                             &inventory.VirtLY, &inventory.VirtAX, &inventory.VirtAY,
+                                             &inventory.PhysAX, &inventory.PhysAY, &inventory.PhysX,
+                                             &inventory.PhysY,  &inventory.VirtX,  &inventory.VirtY};
+    std::size_t count = 0;
+    for (const project::TagList* list : lists)
+        count += list->size();
+    tags_.reserve(count);
+    for (const project::TagList* list : lists)
+        for (const project::Tag& tag : *list)
+            tags_.try_emplace(KeyOf(tag.RegType, std::to_string(tag.RegAddr)), &tag);
+}
+
+const project::Tag* TagSuggestions::TagAt(std::string_view type, std::string_view address) const {
     if (tags_.empty())
-        for (const project::TagList* list :
-             {&inventory.VirtFX, &inventory.VirtFY, &inventory.VirtLX, &inventory.VirtLY, &inventory.VirtAX,
-              &inventory.VirtAY, &inventory.PhysAX, &inventory.PhysAY, &inventory.PhysX, &inventory.PhysY,
-              &inventory.VirtX, &inventory.VirtY})
-            for (const project::Tag& tag : *list)
-                tags_.try_emplace(KeyOf(tag.RegType, std::to_string(tag.RegAddr)), &tag);
+        IndexTags();
     const auto found = tags_.find(KeyOf(type, address));
     return found == tags_.end() ? nullptr : found->second;
+}
+
+std::string_view TagSuggestions::ModuleOf(std::string_view type, std::string_view address) const {
+    const project::Tag* tag = TagAt(type, address);
+    return tag == nullptr ? std::string_view() : tag->ModuleName.View();
 }
 
 std::vector<std::string> TagSuggestions::PlacesOf(const config::TagBinding& binding,

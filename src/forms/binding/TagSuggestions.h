@@ -29,17 +29,25 @@ public:
     [[nodiscard]] const suggest::Suggestion* At(int position) const;
 
     // Whether another run or stage of the station binds the register.
-    [[nodiscard]] bool IsBoundElsewhere(const config::TagBinding& binding) const;
+    [[nodiscard]] bool IsBoundElsewhere(std::string_view type, std::string_view address) const;
+    // What other runs and stages of the station bind when this pass is stored: of runs in memory that is what
+    // they hold there, and of the others what the file says.
+    [[nodiscard]] std::vector<suggest::BoundVariable> InEffectElsewhere() const;
+    // What the tree shows as bound, in its order; shown as for Ask.
+    [[nodiscard]] std::vector<suggest::BoundVariable>
+    BoundHere(const std::vector<config::TagBinding>& shown) const;
     // Null for a register that the station does not have.
-    [[nodiscard]] const project::Tag* TagAt(const std::string& type, const std::string& address) const;
+    [[nodiscard]] const project::Tag* TagAt(std::string_view type, std::string_view address) const;
+    // Empty for such a one, too.
+    [[nodiscard]] std::string_view ModuleOf(std::string_view type, std::string_view address) const;
     [[nodiscard]] std::vector<std::string> PlacesOf(const config::TagBinding& binding,
                                                     const std::vector<config::TagBinding>& shown) const;
 
 private:
     [[nodiscard]] std::vector<suggest::Want> Variables() const;
     [[nodiscard]] const std::vector<suggest::BoundVariable>& Elsewhere() const;
-    [[nodiscard]] std::vector<suggest::BoundVariable>
-    BoundHere(const std::vector<config::TagBinding>& shown) const;
+    void RememberElsewhere() const;
+    void IndexTags() const;
     [[nodiscard]] std::vector<int> ActiveRuns() const;
     [[nodiscard]] suggest::Question QuestionFor(const std::vector<config::TagBinding>& shown) const;
     void AddOtherWants(suggest::Question& question) const;
@@ -51,6 +59,7 @@ private:
     std::map<int, suggest::Suggestion> suggestions_;
     // Found out once for a showing, when first asked for.
     mutable std::optional<std::vector<suggest::BoundVariable>> elsewhere_;
+    mutable std::size_t fromFile_ = 0;                       // the first ones of elsewhere
     mutable std::unordered_set<std::string> boundElsewhere_; // registers
     mutable std::unordered_map<std::string, const project::Tag*> tags_;
 };

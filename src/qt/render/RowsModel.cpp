@@ -1,6 +1,7 @@
 #include "qt/render/RowsModel.h"
 
 #include "qt/Texts.h"
+#include "qt/render/ItemRole.h"
 
 namespace gfc::qt {
 
@@ -13,11 +14,13 @@ int RowsModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != ItemRole)
         return {};
     const int row = RowOf(index);
     if (row == 0)
         return {};
+    if (role == ItemRole)
+        return row;
     const std::string hint = role == Qt::ToolTipRole && list_->HintOf ? list_->HintOf(row) : std::string();
     return ToQt(hint.empty() ? list_->Cell(row, index.column()) : hint);
 }

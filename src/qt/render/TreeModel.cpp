@@ -90,6 +90,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const {
         return {};
     const int node = NodeOf(index);
     const ui::Tree::Node& its = tree_->At(node);
+    if (role == ItemRole)
+        return node;
     if (index.column() == 1)
         return NoteData(its, role);
     switch (role) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/render/ItemRole.h"
 #include "ui/Tree.h"
 
 #include <QAbstractItemModel>

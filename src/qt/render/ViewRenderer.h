@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qt/render/Dragging.h"
 #include "qt/render/WidgetRenderer.h"
 
 #include <QAbstractItemView>
@@ -22,7 +23,7 @@ namespace gfc::qt {
 //
 // A press takes what is under the pointer, with the first and with the second button. Until the button is let
 // go of, the pointer may go where it likes: nothing is chosen by dragging, nor by where the button comes up.
-// The other buttons do nothing.
+// What was chosen may be dragged to where the form lets it fall. The other buttons do nothing.
 template <class C, class V>
 class ViewRenderer : public WidgetRenderer<C, V> {
 public:
@@ -71,6 +72,9 @@ protected:
         Pass(*widget_.viewport(), event);
         const int item = std::exchange(pressed_, 0);
         item > 0 ? Click(item) : Restore();
+        dragging_.Cancel();
+        if (item > 0 && event.button() == Qt::LeftButton && window_.Form() != nullptr)
+            dragging_.Press(event.globalPosition().toPoint());
     }
 
     virtual bool TakeMenuRequest(QContextMenuEvent&) { return false; }
@@ -92,6 +96,9 @@ private:
             Pass(widget_, event);
             Restore();
             return true;
+        case QEvent::FocusOut:
+            dragging_.Cancel();
+            return false;
         case QEvent::ContextMenu:
             return TakeMenuRequest(static_cast<QContextMenuEvent&>(event));
         default:
@@ -108,10 +115,12 @@ private:
                 TakePress(static_cast<QMouseEvent&>(event));
             return true;
         case QEvent::MouseMove:
-            return static_cast<QMouseEvent&>(event).buttons() != Qt::NoButton;
+            if (static_cast<QMouseEvent&>(event).buttons() == Qt::NoButton)
+                return false;
+            dragging_.Move(static_cast<QMouseEvent&>(event).globalPosition().toPoint());
+            return true;
         case QEvent::MouseButtonRelease:
-            Pass(*widget_.viewport(), event);
-            Restore();
+            TakeRelease(static_cast<QMouseEvent&>(event));
             return true;
         case QEvent::ContextMenu:
             return TakeMenuRequest(static_cast<QContextMenuEvent&>(event));
@@ -120,7 +129,18 @@ private:
         }
     }
 
+    void TakeRelease(QMouseEvent& event) {
+        const Dragging::Drop drop = dragging_.Release(event.globalPosition().toPoint());
+        Pass(*widget_.viewport(), event);
+        if (drop.Onto != nullptr)
+            this->Act([this, drop] { (void)drop.Onto->PersonDrops(control_, drop.Item); });
+        Restore();
+    }
+
     bool TakeKey(QKeyEvent& key) {
+        // Escape, and whatever else would choose another row or node under way.
+        if (dragging_.Cancel())
+            return true;
         if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
             return TakeEnter();
         Pass(widget_, key);
@@ -174,6 +194,7 @@ private:
         RefreshContent();
     }
 
+    Dragging dragging_{window_, control_};
     int pressed_ = 0; // what the view has said to be pressed
     bool passing_ = false;
 };

@@ -370,7 +370,8 @@ TEST(TagRunsCopy, in_the_modify_flow_reads_the_other_run_from_the_file_and_leave
     EXPECT_EQ(world.Station.Runs.Gas[0][GasSlot::XH2], TagRunsWorld::Bound("H2", "FY", "4"));
     EXPECT_EQ(world.Station.Runs.IO, before);
     EXPECT_EQ(world.Station.GasComposition[GasSlot::XH2].Tag, "0.1");
-    EXPECT_EQ(world.Files.Reads, 2);
+    // The sources, the copy, and what the notes hold it against.
+    EXPECT_EQ(world.Files.Reads, 3);
     EXPECT_EQ(world.Files.Replaces, 0);
 }
 

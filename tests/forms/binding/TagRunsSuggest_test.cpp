@@ -19,22 +19,27 @@ project::Tag TagOf(const std::string& name, const std::string& type, int address
             .ModuleType = "Virtual Module"};
 }
 
-// Station "North" with runs 1 and 2, of which run 1 is open; its tags are named after their runs.
+// The tags of a station with runs 1 and 2, named after their runs, and an analyser that is theirs.
+project::TagList TagsByName() {
+    project::TagList tags;
+    int address = 0;
+    for (const char* run : {"R1", "R2"}) {
+        for (const char* name : {"TEMP", "PRES", "DP", "PRES_ALARM"})
+            tags.push_back(TagOf(std::string(run) + "_" + name, "FX", ++address, "INPUTS"));
+        for (const char* name : {"FLOW_HOLD", "TOT_HOLD", "RESET"})
+            tags.push_back(TagOf(std::string(run) + "_" + name, "X", ++address, "COMMANDS"));
+    }
+    for (const char* name : {"GC_C1", "GC_N2", "GC_C6+", "SPARE_1", "SPARE_2"})
+        tags.push_back(TagOf(name, "FX", ++address, "ANALYSER"));
+    tags.push_back(TagOf("GC_ENABLE", "X", ++address, "COMMANDS"));
+    return tags;
+}
+
+// Station "North" with runs 1 and 2, of which run 1 is open.
 struct SuggestWorld : TagRunsWorld, testing::Test {
     SuggestWorld() {
         ActivateRuns({1, 2});
-        project::TagList tags;
-        int address = 0;
-        for (const char* run : {"R1", "R2"}) {
-            for (const char* name : {"TEMP", "PRES", "DP", "PRES_ALARM"})
-                tags.push_back(TagOf(std::string(run) + "_" + name, "FX", ++address, "INPUTS"));
-            for (const char* name : {"FLOW_HOLD", "TOT_HOLD", "RESET"})
-                tags.push_back(TagOf(std::string(run) + "_" + name, "X", ++address, "COMMANDS"));
-        }
-        for (const char* name : {"GC_C1", "GC_N2", "GC_C6+", "SPARE_1", "SPARE_2"})
-            tags.push_back(TagOf(name, "FX", ++address, "ANALYSER"));
-        tags.push_back(TagOf("GC_ENABLE", "X", ++address, "COMMANDS"));
-        project::BuildInventory(tags, Session.Inventory);
+        project::BuildInventory(TagsByName(), Session.Inventory);
         project::BuildAvailableLists(Session.Inventory, {}, false);
     }
 
@@ -201,8 +206,118 @@ TEST_F(SuggestWorld, TheFilterShowsWhatIsFreeOrSuggested) {
     Open(BindingStage::RunInputs);
 }
 
-// All that a person sees of the bindings and the lists.
-std::vector<std::string> Seen(forms::TagRuns& form) {
+TEST_F(SuggestWorld, ATagIsDraggedOntoAVariableAndBack) {
+    TheStory.Do("drag", [this](Driver&) {
+        auto& form = TheForm();
+        auto& list = form.ListViewRuns;
+        EXPECT_TRUE(list.PersonClicksRow(2));
+        EXPECT_EQ(list.WhatToDrag(), "R1_PRES");
+        EXPECT_EQ(form.TreeAGA.WhereToDrop(list, node::NameValue(1)), "Pressure");
+        // The root is no variable, and a digital one takes no float tag.
+        EXPECT_EQ(form.TreeAGA.WhereToDrop(list, node::Root), "");
+        EXPECT_EQ(form.TreeAGA.WhereToDrop(list, 0), "");
+        EXPECT_EQ(form.TreeAGA.WhereToDrop(list, node::Variable(4)), "");
+        EXPECT_FALSE(form.TreeAGA.PersonDrops(list, node::Variable(4)));
+        EXPECT_TRUE(form.TreeAGA.PersonDrops(list, node::NameValue(1)));
+        EXPECT_EQ(form.TreeAGA.WhereToDrop(list, node::Variable(1)), "") << "bound by now";
+        EXPECT_EQ(form.deshacer.Caption(), "&Undo Drag onto Pressure");
+    });
+    SeeBound(1, "R1_PRES FX 2");
+    SeeRows("ListViewRuns", 12);
+    TheStory.Do("drag back", [this](Driver&) {
+        auto& form = TheForm();
+        EXPECT_EQ(form.TreeAGA.SelectedNode(), node::Variable(1));
+        EXPECT_EQ(form.TreeAGA.WhatToDrag(), "R1_PRES");
+        EXPECT_FALSE(form.ListAnalogDig.PersonDrops(form.TreeAGA, 0));
+        EXPECT_TRUE(form.ListViewRuns.PersonDrops(form.TreeAGA, 0));
+        EXPECT_EQ(form.TreeAGA.WhatToDrag(), "");
+    });
+    SeeUnbound(1);
+    SeeRow("ListViewRuns", 13, {"13", "R1_PRES", "FX", "2"});
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+}
+
+TEST_F(SuggestWorld, InTheStageOfTheCompositionAPickBindsOne) {
+    Pick(1);
+    TheStory.ClickRow(Form, "ListViewRuns", 10);
+    Menu("atar");
+    SeeBound(1, "GC_N2 FX 16");
+    TheStory.Check([this](Driver&) { EXPECT_FALSE(TheForm().atar.Enabled()); });
+    TheStory.Do("drag", [this](Driver&) {
+        EXPECT_TRUE(TheForm().ListViewRuns.PersonClicksRow(9));
+        EXPECT_TRUE(TheForm().TreeAGA.PersonDrops(TheForm().ListViewRuns, node::Variable(0)));
+    });
+    SeeBound(0, "GC_C1 FX 15");
+    Menu("soltar");
+    SeeUnbound(0);
+    LeaveByCancel();
+    Open(BindingStage::GasInputs);
+}
+
+struct NotesWorld : SuggestWorld {
+    void SeeNotes(const std::string& text) {
+        TheStory.Check([text](Driver& eyes) { EXPECT_THAT(eyes.Text(Form, "Notes"), HasSubstr(text)); });
+    }
+    void SeeNoNotes() {
+        TheStory.Check([](Driver& eyes) { EXPECT_EQ(eyes.Text(Form, "Notes"), ""); });
+    }
+};
+
+TEST_F(NotesWorld, SayThatANameIsOfAnotherQuantity) {
+    SeeNoNotes();
+    TheStory.ClickRow(Form, "ListViewRuns", 2);
+    Assign(0);
+    SeeNotes("Temperature is bound to R1_PRES");
+    Menu("deshacer");
+    SeeNoNotes();
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+}
+
+// Of the station's other runs, too, and of this pass rather than of what the file still says.
+TEST_F(NotesWorld, SayThatATagIsSharedWithAnotherRun) {
+    Station.Runs.IO[1].GasPress = Bound("R1_PRES", "FX", "2");
+    TheStory.ClickRow(Form, "ListViewRuns", 2);
+    Assign(1);
+    SeeNotes("run 2");
+    Menu("deshacer");
+    SeeNoNotes();
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+    Hand.WriteKey("FlowRuns", "Run2", "Yes", ConfigFile("North"));
+    Hand.WriteKey("Run2", "GasPressKDIOTag", "R1_PRES", ConfigFile("North"));
+    Hand.WriteKey("Run2", "GasPressKDIOType", "FX", ConfigFile("North"));
+    Hand.WriteKey("Run2", "GasPressKDIORegAddr", "2", ConfigFile("North"));
+    Station.Runs.IO[1].GasPress = {};
+    TheStory.ClickRow(Form, "ListViewRuns", 2);
+    Assign(1);
+    SeeNoNotes();
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+}
+
+TEST_F(NotesWorld, FollowTheFactorsAsTheyAreTyped) {
+    TheStory.Type(Form, "Text1", "10");
+    SeeNotes("10");
+    TheStory.Type(Form, "Text1", "1.001");
+    SeeNoNotes();
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+}
+
+TEST_F(SuggestWorld, ARowsHintNamesClassRegisterAndModule) {
+    TheStory.Check([this](Driver&) {
+        EXPECT_EQ(TheForm().ListViewRuns.HintOf(1), "R1_TEMP: float input, register FX 1, module INPUTS");
+        EXPECT_EQ(TheForm().ListAnalogDig.HintOf(1),
+                  "R1_FLOW_HOLD: digital input, register X 5, module COMMANDS");
+    });
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+}
+
+// All that a person sees of the bindings, the lists and the fields.
+std::vector<std::string> Seen(const forms::TagRuns& form) {
     std::vector<std::string> seen;
     for (int at = 1; at <= form.TreeAGA.Count(); ++at)
         seen.push_back(form.TreeAGA.At(at).Text + "|" + form.TreeAGA.At(at).Image);
@@ -214,89 +329,128 @@ std::vector<std::string> Seen(forms::TagRuns& form) {
     return seen;
 }
 
-// One act of a person, chosen by chance; those that ask a question first have nothing to do with undoing.
-void ActByChance(forms::TagRuns& form, std::mt19937& random, bool mayUndoAll) {
-    switch (random() % 9) {
-    case 0:
-        (void)form.TreeAGA.PersonClicks(
-            static_cast<int>(random() % static_cast<unsigned>(form.TreeAGA.Count())) + 1);
-        return;
-    case 1:
-        if (form.ListViewRuns.Count() > 0)
-            (void)form.ListViewRuns.PersonClicksRow(
-                static_cast<int>(random() % static_cast<unsigned>(form.ListViewRuns.Count())) + 1);
-        return;
-    case 2:
-    case 3:
-        (void)form.tomar.PersonClicks();
-        return;
-    case 4:
-        (void)form.soltar.PersonClicks();
-        return;
-    case 5:
-        (void)form.TakeSure.PersonClicks();
-        return;
-    case 6:
-        // In the modify flow that puts rows into the lists that read "Not Configured".
-        if (mayUndoAll)
-            (void)form.Command3.PersonClicks();
-        return;
-    case 7:
-        (void)form.SuggestTags.PersonClicks();
-        return;
-    default:
-        if (form.TreeAGA.SelectedNode() > 1 &&
-            form.TreeAGA.At(node::AddressValue(node::PositionOf(form.TreeAGA.SelectedNode()))).Text ==
-                binding::NotConfigured)
-            (void)form.Command1.PersonClicks();
-    }
-}
+// Whatever is said or asked is agreed to.
+struct AgreeingScreen : HeadlessScreen {
+    ui::Answer Ask(const ui::Box&) override { return ui::Answer::Ok; }
+};
 
-struct UndoByChance : SuggestWorld, testing::WithParamInterface<forms::EditMode> {};
+struct Opening {
+    forms::EditMode Mode;
+    BindingStage Stage;
+};
+
+// A station of which run 1 is open, and nothing that holds a person up.
+struct UndoByChance : testing::TestWithParam<Opening> {
+    UndoByChance() {
+        World.AddStation("North", {});
+        World.OpenProject();
+        auto& station = World.Station;
+        station.CurrentStation = "North";
+        station.FlowAlgorithm = config::algorithm::AGA7;
+        station.FlagAGA7 = true;
+        station.GasDensitySource = config::source::AGA8;
+        station.AGA8CalInput = config::CompositionMeasured;
+        station.SystemUnits = config::units::Metric;
+        World.ActivateRuns({1, 2});
+        auto tags = TagsByName();
+        for (int more = 0; more < 30; ++more)
+            tags.push_back(TagOf("MORE_" + std::to_string(more), "FX", 100 + more, "MORE"));
+        for (const char* name : {"R1_PULSES", "R2_PULSES"})
+            tags.push_back(TagOf(name, "LX", static_cast<int>(tags.size()) + 200, "INPUTS"));
+        project::BuildInventory(tags, World.Session.Inventory);
+        project::BuildAvailableLists(World.Session.Inventory, {}, false);
+        // Of run 2 there is something to be copied.
+        for (const auto& variable : binding::VariablesOf(BindingStage::GasInputs, station, 1))
+            *variable.Binding = {"GC_C1", "FX", "15"};
+        World.Session.EditMode = GetParam().Mode;
+        World.Session.BindingStage = GetParam().Stage;
+        World.Session.RunPosition = 0;
+        World.Session.RunNumber = 0;
+    }
+    ~UndoByChance() override { World.Program.Forms.Unload<forms::TagRuns>(); }
+    UndoByChance(const UndoByChance&) = delete;
+    UndoByChance& operator=(const UndoByChance&) = delete;
+
+    int Draw(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+    void ClickSomeRow() {
+        ui::ListView* const lists[] = {&form_.ListViewRuns, &form_.ListViewRuns, &form_.ListLong,
+                                       &form_.ListAnalogDig};
+        ui::ListView& list = *lists[Draw(4)];
+        if (list.Count() > 0)
+            (void)list.PersonClicksRow(Draw(list.Count()) + 1);
+    }
+    void Act();
+
+    static constexpr unsigned Seed = 20261122;
+    AgreeingScreen Screen;
+    FakeProgram World{Screen};
+
+protected:
+    forms::TagRuns& form_ = World.Program.Forms.Get<forms::TagRuns>();
+
+private:
+    std::mt19937 random_{Seed};
+};
+
+void UndoByChance::Act() {
+    auto& form = form_;
+    const std::function<void()> acts[] = {
+        [&] { (void)form.TreeAGA.PersonClicks(Draw(form.TreeAGA.Count()) + 1); },
+        [&] { (void)form.TreeAGA.PersonClicks(node::Variable(Draw(form.TreeAGA.Count() / 7))); },
+        [&] { ClickSomeRow(); },
+        [&] { (void)form.tomar.PersonClicks(); },
+        [&] { (void)form.soltar.PersonClicks(); },
+        [&] { (void)form.atar.PersonClicks(); },
+        [&] { (void)form.TakeSure.PersonClicks(); },
+        [&] { (void)form.SuggestTags.PersonClicks(); },
+        [&] { (void)form.repuestos.PersonClicks(); },
+        [&] { (void)form.Command1.PersonClicks(); },
+        [&] { (void)form.Command4.PersonClicks(); },
+        [&] { (void)(Draw(4) == 0 ? form.Command3 : form.Command6).PersonClicks(); },
+        [&] { (void)(form.Option1[1].PersonClicks(), form.CopyGasCompButton.PersonClicks()); },
+        [&] { (void)form.TreeAGA.PersonDrops(form.ListViewRuns, Draw(form.TreeAGA.Count()) + 1); },
+        [&] { (void)form.ListViewRuns.PersonDrops(form.TreeAGA, 0); },
+        [&] { (void)form.FilterKind.PersonSelects(Draw(3)); },
+        [&] { form.Filter.PersonEdits(Draw(2) == 0 ? "" : "r1"); },
+    };
+    acts[Draw(static_cast<int>(std::size(acts)))]();
+}
 
 // Whatever was done: going back shows each state that there was, and forth again shows them once more.
 TEST_P(UndoByChance, ShowsEveryStateAgain) {
-    constexpr unsigned Seed = 20261122;
-    Session.EditMode = GetParam();
-    TheStory.Do("act by chance", [this](Driver&) {
-        std::mt19937 random(Seed);
-        forms::TagRuns& form = TheForm();
-        std::vector<std::vector<std::string>> states{Seen(form)};
-        int changes = 0;
-        for (int round = 0; round < 400; ++round) {
-            SCOPED_TRACE("seed " + std::to_string(Seed) + ", round " + std::to_string(round));
-            ActByChance(form, random, GetParam() == forms::EditMode::Wizard);
-            if (auto now = Seen(form); now != states.back()) {
-                states.push_back(std::move(now));
-                ++changes;
-            }
-            if (random() % 5 != 0)
-                continue;
-            const auto back = random() % states.size();
-            for (std::size_t i = 1; i <= back; ++i) {
-                ASSERT_TRUE(form.deshacer.PersonClicks());
-                ASSERT_EQ(Seen(form), states[states.size() - 1 - i]);
-            }
-            std::size_t left = back;
-            for (; left > 0 && random() % 4 != 0; --left) {
-                ASSERT_TRUE(form.rehacer.PersonClicks());
-                ASSERT_EQ(Seen(form), states[states.size() - left]);
-            }
-            // What is not done again is forgotten by the next act.
-            while (form.rehacer.Enabled() && random() % 2 == 0 && left > 0) {
-                ASSERT_TRUE(form.rehacer.PersonClicks());
-                --left;
-            }
-            states.resize(states.size() - left);
+    form_.Show();
+    std::vector<std::vector<std::string>> states{Seen(form_)};
+    int changes = 0;
+    for (int round = 0; round < 400; ++round) {
+        SCOPED_TRACE("seed " + std::to_string(Seed) + ", round " + std::to_string(round));
+        Act();
+        if (auto now = Seen(form_); now != states.back()) {
+            states.push_back(std::move(now));
+            ++changes;
         }
-        EXPECT_GT(changes, 20);
-    });
-    LeaveByCancel();
-    Open(BindingStage::RunInputs);
+        if (Draw(5) != 0)
+            continue;
+        const auto back = static_cast<std::size_t>(Draw(static_cast<int>(states.size())));
+        for (std::size_t i = 1; i <= back; ++i) {
+            ASSERT_TRUE(form_.deshacer.PersonClicks());
+            ASSERT_EQ(Seen(form_), states[states.size() - 1 - i]);
+        }
+        std::size_t left = back;
+        for (; left > 0 && Draw(4) != 0; --left) {
+            ASSERT_TRUE(form_.rehacer.PersonClicks());
+            ASSERT_EQ(Seen(form_), states[states.size() - left]);
+        }
+        // What is not done again is forgotten by the next act.
+        states.resize(states.size() - left);
+    }
+    EXPECT_GT(changes, 20);
 }
 
-INSTANTIATE_TEST_SUITE_P(Modes, UndoByChance,
-                         testing::Values(forms::EditMode::Wizard, forms::EditMode::ModifyTags));
+INSTANTIATE_TEST_SUITE_P(Stages, UndoByChance,
+                         testing::Values(Opening{forms::EditMode::Wizard, BindingStage::RunInputs},
+                                         Opening{forms::EditMode::ModifyTags, BindingStage::RunInputs},
+                                         Opening{forms::EditMode::Wizard, BindingStage::GasInputs},
+                                         Opening{forms::EditMode::ModifyTags, BindingStage::GasInputs}));
 
 } // namespace
 } // namespace gfc::test

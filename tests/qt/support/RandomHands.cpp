@@ -158,7 +158,8 @@ AssertionResult Highlights(const QAbstractItemView& view, const QModelIndex& sel
 
 AssertionResult OfList(const ui::ListView& list, QWidget& window) {
     const auto* view = FindIn<QTableView>(&window, list.Name());
-    return Highlights(*view, view->model()->index(list.SelectedRow() - 1, 0), list.Name().c_str());
+    return Highlights(*view, view->model()->index(list.PlaceOfRow(list.SelectedRow()) - 1, 0),
+                      list.Name().c_str());
 }
 
 AssertionResult OfTree(const ui::Tree& tree, QWidget& window) {
