@@ -45,14 +45,10 @@ public:
     int Clicks = 0;
     int Keys = 0;
 
-    // Each variable, its tag, Assign; in the stage of the composition the key that binds the chosen tag. The
-    // other runs have the composition of the first.
+    // Each variable, its tag, Assign; in the stage of the composition the key that binds the chosen tag.
     void BindByHand(int run, BindingStage stage) {
-        if (run > 1 && stage == BindingStage::GasInputs) {
-            for (const char* button : {"Option1_0", "CopyGasCompButton", "Command5"})
-                Click(button);
-            return;
-        }
+        if (run > 1 && stage == BindingStage::GasInputs)
+            return CopyComposition();
         int spare = 0;
         for (const auto& want : plant_.Wants()) {
             if (want.Run != run || want.Row->Stage != stage)
@@ -69,11 +65,13 @@ public:
         Click("Command5");
     }
 
-    // What the chromatograph lacks is decided for the first run; the others have the same tags.
     void BindBySuggestion(int run, BindingStage stage) {
+        if (run > 1 && stage == BindingStage::GasInputs)
+            return CopyComposition();
         Click("SuggestTags");
         Click("TakeSure");
-        if (run == 1 && stage == BindingStage::GasInputs) {
+        // What the chromatograph lacks, and what its last figure means, is the person's to decide.
+        if (stage == BindingStage::GasInputs) {
             story_.Menu(Form, "repuestos");
             Clicks += 2;
             for (const auto& want : plant_.Wants()) {
@@ -89,6 +87,11 @@ public:
     }
 
 private:
+    // One chromatograph serves all runs.
+    void CopyComposition() {
+        for (const char* button : {"Option1_0", "CopyGasCompButton", "Command5"})
+            Click(button);
+    }
     void Click(const std::string& button) {
         story_.Click(Form, button);
         ++Clicks;

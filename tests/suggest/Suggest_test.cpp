@@ -148,7 +148,8 @@ TEST(Suggest, ATagOfARunThatIsOffIsNotThatOfTheOnlyOne) {
     const auto word = Station({1}).Tags({"R2_PRES", "R2_TEMP", "R1_TEMP"}).AskInputs();
     ExpectThat(word.For(1, Pressure), "", Confidence::None);
     const auto loops = Station({1}).Tags({"PIT-101", "PIT-102", "TIT-101", "TIT-102"}).AskInputs();
-    ExpectThat(loops.For(1, Pressure), "PIT-101", Confidence::High);
+    // That a loop's last digit is the run's is to be seen with several runs alone.
+    ExpectThat(loops.For(1, Pressure), "PIT-101", Confidence::Fair);
 }
 
 TEST(Suggest, NamesMadeAlikeAreNeverSure) {

@@ -60,7 +60,8 @@ void TagRuns::ShowNote(int position) {
     }
     const auto& suggestion = *suggestions_.At(position);
     const bool sure = suggestion.Confidence == Confidence::High;
-    TreeAGA.SetNote(at, suggestion.Binding.Tag + (sure ? " ? (sure)" : " ? (fair)"), suggestion.Reason,
+    // How sure it is comes first: a long name may be cut.
+    TreeAGA.SetNote(at, (sure ? "sure: " : "fair: ") + suggestion.Binding.Tag, suggestion.Reason,
                     sure ? ui::Colour::Green : ui::Colour::Blue);
 }
 

@@ -59,8 +59,8 @@ struct SuggestWorld : TagRunsWorld, testing::Test {
 
 TEST_F(SuggestWorld, BindsNothingUnasked) {
     TheStory.Click(Form, "SuggestTags");
-    SeeNote(0, "R1_TEMP ? (sure)");
-    SeeNote(1, "R1_PRES ? (sure)");
+    SeeNote(0, "sure: R1_TEMP");
+    SeeNote(1, "sure: R1_PRES");
     SeeUnbound(0);
     SeeProgress("Station North, run 1, AGA-3");
     SeeProgress("0 of 6 bound, 6 suggested, 6 of them sure");
@@ -90,7 +90,7 @@ TEST_F(SuggestWorld, TakesOneAndTakesItBack) {
     SeeUnbound(0);
     Menu("soltar");
     SeeUnbound(1);
-    SeeNote(1, "R1_PRES ? (sure)");
+    SeeNote(1, "sure: R1_PRES");
     SeeRows("ListViewRuns", 13);
     LeaveByCancel();
     Open(BindingStage::RunInputs);
@@ -128,7 +128,7 @@ TEST_F(SuggestWorld, TheCompositionHasNoDeadEnd) {
     Menu("soltar");
     SeeUnbound(14);
     Menu("repuestos");
-    SeeNote(2, "SPARE_1 ? (fair)");
+    SeeNote(2, "fair: SPARE_1");
     Pick(2);
     Menu("tomar");
     SeeBound(2, "SPARE_1 FX 18");
@@ -141,7 +141,7 @@ TEST_F(SuggestWorld, ARunWithoutAnAnalyserIsSuggestedTheCopy) {
         *binding::TreeRows(BindingStage::GasInputs, binding::ConditionsOf(Station, 0)).front(), Station, 0) =
         Bound("GC_C1", "FX", "15");
     TheStory.Click(Form, "SuggestTags");
-    SeeNote(0, "GC_C1 ? (sure)");
+    SeeNote(0, "sure: GC_C1");
     TheStory.Click(Form, "TakeSure");
     SeeBound(0, "GC_C1 FX 15");
     // The tag is another run's, and does not come back to the list.
