@@ -95,6 +95,7 @@ private:
     void SetUpKeys();
     void SetUpFinding();
     void FitToScreen();
+    void DropScrollBars();
     void PutOver(const QWidget* owner);
     [[nodiscard]] Qt::WindowFlags FlagsFor(Qt::WindowModality modality) const;
     bool PressKey(ui::Key key);

@@ -1,5 +1,7 @@
 #include "qt/FormWindow.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QLayout>
 #include <QMenuBar>
 #include <QScreen>
@@ -34,9 +36,18 @@ void FormWindow::ShowAs(Qt::WindowModality modality, QWidget* owner) {
             FitToScreen();
         PutOver(owner);
         show();
+        DropScrollBars();
         raise();
     }
     TakeFocus();
+}
+
+// The area takes the size that it is shown with for that of the window before, and makes bars for the
+// difference; it sees that there is none with the next layout, which would be after the first picture of the
+// window.
+void FormWindow::DropScrollBars() {
+    QEvent layout(QEvent::LayoutRequest);
+    QCoreApplication::sendEvent(area_, &layout);
 }
 
 void FormWindow::FitToScreen() {

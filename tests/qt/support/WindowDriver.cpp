@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
@@ -29,6 +30,15 @@ namespace {
 bool IsBlocked(const QWidget& window) {
     const QWidget* modal = QApplication::activeModalWidget();
     return modal != nullptr && modal != &window;
+}
+
+// For whoever reads of a failure.
+std::string InFront() {
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr)
+        return "no window";
+    const auto* box = qobject_cast<const QMessageBox*>(modal);
+    return box != nullptr ? "the box \"" + qt::FromQt(box->text()) + '"' : qt::FromQt(modal->objectName());
 }
 
 // A box or an option answers to a click on its mark and its words, not to one beside them.
@@ -70,7 +80,7 @@ QWidget* WindowDriver::UsableWidget(const std::string& form, const std::string& 
     if (window == nullptr)
         return nullptr;
     EXPECT_NE(widget, nullptr) << form << " has no " << control;
-    EXPECT_FALSE(IsBlocked(*window)) << form << " is behind " << QApplication::activeModalWidget();
+    EXPECT_FALSE(IsBlocked(*window)) << form << " is behind " << InFront();
     if (widget == nullptr || IsBlocked(*window))
         return nullptr;
     const bool usable = widget->isVisible() && widget->isEnabled();
