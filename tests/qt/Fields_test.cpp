@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWheelEvent>
 
 namespace gfc::test {
@@ -50,6 +51,42 @@ TEST_F(Fields, ask_about_each_character_that_their_menu_pastes) {
     EXPECT_EQ(Form->number.Text(), "12") << "pasted once, and not past the form";
     EXPECT_EQ(field.text(), "12");
     EXPECT_THAT(Form->Log, ElementsAre("key 49", "key 97", "key 50"));
+}
+
+TEST_F(Fields, take_another_character_in_place_of_the_one_that_was_typed) {
+    Form->number.OnRefused = [](char32_t key) {
+        return key == U',' ? ui::TextBox::Instead{U'7', {}} : ui::TextBox::Instead{0, "no letters"};
+    };
+    auto& field = Widget<QLineEdit>("number");
+    QTest::keyClicks(&field, "1,2");
+    EXPECT_EQ(Form->number.Text(), "172");
+    EXPECT_EQ(field.text(), "172");
+}
+
+TEST_F(Fields, say_beside_them_why_a_key_was_refused_until_the_next_one) {
+    Form->number.OnRefused = [](char32_t) { return ui::TextBox::Instead{0, "no letters"}; };
+    auto& field = Widget<QLineEdit>("number");
+    QTest::keyClicks(&field, "x");
+    EXPECT_EQ(QToolTip::text(), "no letters");
+    EXPECT_EQ(field.accessibleDescription(), "no letters");
+    QTest::keyClicks(&field, "1");
+    EXPECT_EQ(field.accessibleDescription(), "");
+    EXPECT_EQ(Form->number.Text(), "1");
+}
+
+TEST_F(Fields, take_a_pasted_text_as_a_whole_where_the_form_judges_it_so) {
+    Form->number.OnPaste = [](const std::string& text) {
+        return text == "1,5" ? ui::TextBox::Pasted{"1.5", {}} : ui::TextBox::Pasted{{}, "no number"};
+    };
+    auto& field = Widget<QLineEdit>("number");
+    field.setFocus();
+    for (const char* text : {"1,5", "1 556"}) {
+        QApplication::clipboard()->setText(text);
+        QTest::keySequence(&field, QKeySequence::Paste);
+    }
+    EXPECT_EQ(Form->number.Text(), "1.5");
+    EXPECT_EQ(field.text(), "1.5");
+    EXPECT_EQ(Form->number.Refusal(), "no number");
 }
 
 TEST_F(Fields, ask_about_what_an_input_method_composes) {

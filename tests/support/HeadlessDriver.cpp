@@ -1,5 +1,6 @@
 #include "support/HeadlessDriver.h"
 
+#include "services/Utf8.h"
 #include "support/HeadlessScreen.h"
 #include "ui/Buttons.h"
 #include "ui/DropDownList.h"
@@ -46,13 +47,14 @@ void DropLast(std::string& text) {
 }
 
 void PressInto(ui::TextBox& field, const std::string& character) {
-    if (!field.PersonPresses(CodeOf(character)))
+    const auto taken = field.PersonTypes(CodeOf(character));
+    if (!taken)
         return;
     std::string text = field.Text();
     if (character == "\b")
         DropLast(text);
     else
-        text += character;
+        services::AppendUtf8(text, *taken);
     field.PersonEdits(text);
     const int length = static_cast<int>(Characters(text).size());
     field.NoteSelection(length, 0);

@@ -259,6 +259,29 @@ TEST_F(Controls, field_asks_for_each_key_and_never_takes_enter) {
     EXPECT_EQ(asked, (std::u32string{U'1', U'x', char32_t{13}}));
 }
 
+TEST_F(Controls, field_takes_another_key_or_says_why_there_is_none) {
+    auto& field = panel_->Field;
+    field.OnKeyPress = [](char32_t key) { return key >= U'0' && key <= U'9'; };
+    field.OnRefused = [](char32_t key) {
+        return key == U',' ? ui::TextBox::Instead{U'.', {}} : ui::TextBox::Instead{0, "digits only"};
+    };
+    EXPECT_EQ(field.PersonTypes(U','), U'.');
+    EXPECT_FALSE(field.PersonPresses(U',')) << "the key itself is not taken";
+    EXPECT_EQ(field.PersonTypes(U'x'), std::nullopt);
+    EXPECT_EQ(field.Refusal(), "digits only");
+    EXPECT_EQ(field.PersonTypes(U'1'), U'1');
+    EXPECT_EQ(field.Refusal(), "") << "gone with the next key";
+}
+
+TEST_F(Controls, field_knows_its_text_without_what_is_selected) {
+    auto& field = panel_->Field;
+    field.SetText("1\xC2\xB0.5");
+    field.NoteSelection(1, 2);
+    EXPECT_EQ(field.Unselected(), "15");
+    field.NoteSelection(4, 0);
+    EXPECT_EQ(field.Unselected(), field.Text());
+}
+
 TEST_F(Controls, list_view_counts_rows_from_one_and_renumbers_them) {
     panel_->List.AddRows({{"1  ", "FT-201"}, {"2  ", "FT-202"}, {"3  ", "FT-203"}});
     panel_->List.SelectRow(2);

@@ -1,6 +1,7 @@
 #include "forms/editors/NumericFields.h"
 
 #include "services/Funciones_III.h"
+#include "services/TypedNumber.h"
 
 #include <algorithm>
 
@@ -49,6 +50,14 @@ void RefuseRange(ui::Screen& screen, const CheckedFields& fields, std::string_vi
 
 void FilterKeys(ui::TextBox& field) {
     field.OnKeyPress = services::KeyAllowed;
+    field.OnRefused = [&field](char32_t key) {
+        auto typed = services::InsteadOf(key, field.Unselected());
+        return ui::TextBox::Instead{typed.Instead, std::move(typed.Why)};
+    };
+    field.OnPaste = [&field](const std::string& text) {
+        auto pasted = services::NumberPasted(text, field.Unselected());
+        return ui::TextBox::Pasted{std::move(pasted.Text), std::move(pasted.Why)};
+    };
 }
 
 void CheckShapeOnLeaving(ui::Screen& screen, ui::TextBox& field) {

@@ -36,7 +36,8 @@ bool CheckRange(ui::Screen& screen, const CheckedFields& fields, std::int32_t ma
 // The box of a failed range check, for a field with a test of its own.
 void RefuseRange(ui::Screen& screen, const CheckedFields& fields, std::string_view range);
 
-// The field takes digits, the point and Backspace only.
+// The field takes digits, the point and Backspace only. A decimal comma becomes the point, and what is
+// refused is told beside the field.
 void FilterKeys(ui::TextBox& field);
 // The field runs the shape check when the focus leaves it.
 void CheckShapeOnLeaving(ui::Screen& screen, ui::TextBox& field);

@@ -64,7 +64,12 @@ bool LineEditKeys::Key(const QKeyEvent& event) {
     if (characters.isEmpty() || characters.first() < firstPrintable || characters.first() == del ||
         (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) == Qt::ControlModifier)
         return false;
-    return Allowed(text) != text;
+    const QString allowed = Allowed(text);
+    if (allowed == text)
+        return false;
+    if (!allowed.isEmpty())
+        line_.insert(allowed);
+    return true;
 }
 
 bool LineEditKeys::Compose(QInputMethodEvent& event) {
@@ -91,6 +96,11 @@ bool LineEditKeys::ShowMenu(const QContextMenuEvent& event) {
 }
 
 void LineEditKeys::Paste(const QString& text) {
+    if (const auto taken = TakePasted ? TakePasted(text) : std::nullopt) {
+        if (!taken->isEmpty())
+            line_.insert(*taken);
+        return;
+    }
     // Lines are joined as the keys that end them would be: not at all.
     QString line = text;
     line.remove(QLatin1Char('\r')).remove(QLatin1Char('\n'));
@@ -102,8 +112,8 @@ void LineEditKeys::Paste(const QString& text) {
 QString LineEditKeys::Allowed(const QString& text) {
     QString allowed;
     for (const char32_t character : text.toUcs4())
-        if (filter_(character))
-            allowed += QString::fromUcs4(&character, 1);
+        if (const auto taken = filter_(character))
+            allowed += QString::fromUcs4(&*taken, 1);
     return allowed;
 }
 

@@ -1,14 +1,15 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 
 #include <functional>
+#include <optional>
 
 class QContextMenuEvent;
 class QInputMethodEvent;
 class QKeyEvent;
 class QLineEdit;
-class QString;
 
 namespace gfc::qt {
 
@@ -16,8 +17,12 @@ namespace gfc::qt {
 // input method, pasted by key, menu or middle mouse button. What is dragged onto the line is not taken.
 class LineEditKeys : public QObject {
 public:
-    using Filter = std::function<bool(char32_t)>;
+    // The character that is taken, mostly the one that was asked about; none for one that is refused.
+    using Filter = std::function<std::optional<char32_t>(char32_t)>;
     LineEditKeys(QLineEdit& line, Filter filter);
+
+    // What is taken of a pasted text as a whole; nothing where each of its characters is to be asked about.
+    std::function<std::optional<QString>(const QString&)> TakePasted;
 
     // Enter is asked about as a character; else it goes on to the window.
     bool EnterIsForTheField = true;

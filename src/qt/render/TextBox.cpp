@@ -6,6 +6,7 @@
 #include "ui/Form.h"
 
 #include <QLineEdit>
+#include <QToolTip>
 
 namespace gfc::qt {
 
@@ -16,6 +17,7 @@ public:
     TextBoxRenderer(FormWindow& window, ui::TextBox& control, QLineEdit& widget)
         : WidgetRenderer(window, control, widget),
           keys_(widget, [this](char32_t key) { return Press(key); }) {
+        keys_.TakePasted = [this](const QString& text) { return Paste(text); };
         keys_.EnterIsForTheField = control.Owner().DefaultButton() == nullptr;
         QObject::connect(&widget, &QLineEdit::textEdited, this, [this] { Edit(); });
         QObject::connect(&widget, &QLineEdit::selectionChanged, this, [this] { NoteSelection(); });
@@ -25,11 +27,20 @@ public:
 private:
     // A key may end the form's life, or move the focus: the character is for the field only if it still has
     // it.
-    bool Press(char32_t key) {
+    std::optional<char32_t> Press(char32_t key) {
         const FormWindow::InEvent going(window_);
-        bool taken = false;
-        Act([this, key, &taken] { taken = control_.PersonPresses(key); });
-        return taken && window_.Form() != nullptr;
+        std::optional<char32_t> taken;
+        Act([this, key, &taken] { taken = control_.PersonTypes(key); });
+        return window_.Form() != nullptr ? taken : std::nullopt;
+    }
+
+    std::optional<QString> Paste(const QString& text) {
+        if (!control_.OnPaste)
+            return std::nullopt;
+        const FormWindow::InEvent going(window_);
+        std::string taken;
+        Act([this, &text, &taken] { taken = control_.PersonPastes(FromQt(text)); });
+        return window_.Form() != nullptr ? ToQt(taken) : QString();
     }
 
     void Edit() {
@@ -50,6 +61,7 @@ private:
         if (const QString text = ToQt(control_.Text()); widget_.text() != text)
             widget_.setText(text);
         RefreshSelection();
+        RefreshRefusal();
         const QBrush face = widget_.palette().brush(QPalette::Window);
         if (faceColoured_ == control_.FaceColoured())
             return;
@@ -58,6 +70,18 @@ private:
         if (faceColoured_)
             palette.setBrush(QPalette::Base, face);
         widget_.setPalette(palette);
+    }
+
+    // A bubble under the field, gone with the next key; a screen reader has it as the field's description.
+    void RefreshRefusal() {
+        const QString why = ToQt(control_.Refusal());
+        if (why == widget_.accessibleDescription())
+            return;
+        widget_.setAccessibleDescription(why);
+        if (why.isEmpty())
+            return QToolTip::hideText();
+        constexpr int shown = 8000; // milliseconds, for who types nothing more
+        QToolTip::showText(widget_.mapToGlobal(QPoint(0, widget_.height() / 2)), why, &widget_, {}, shown);
     }
 
     void RefreshSelection() {

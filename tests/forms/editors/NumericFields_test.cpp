@@ -30,6 +30,20 @@ struct NumericFields : testing::Test {
     test::Driver& Hands = Screen.Hands();
 };
 
+TEST_F(NumericFields, take_a_decimal_comma_for_the_point) {
+    Hands.Type("Sheet", "Digits", "1,5,6");
+    EXPECT_EQ(Form->Digits.Text(), "1.56");
+    Form->Digits.NoteSelection(0, 4);
+    EXPECT_EQ(Form->Digits.PersonTypes(U','), U'.') << "the point goes with what is selected";
+}
+
+TEST_F(NumericFields, say_why_a_key_was_refused_until_the_next_one) {
+    EXPECT_EQ(Form->Digits.PersonTypes(U'x'), std::nullopt);
+    EXPECT_EQ(Form->Digits.Refusal(), "Only digits and a decimal point can be entered here.");
+    EXPECT_EQ(Form->Digits.PersonTypes(U'1'), U'1');
+    EXPECT_EQ(Form->Digits.Refusal(), "");
+}
+
 } // namespace
 
 TEST_F(NumericFields, take_digits_points_and_backspace_only) {
