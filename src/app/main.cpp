@@ -2,6 +2,7 @@
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
 #include "qt/SystemLook.h"
+#include "qt/WindowPlaces.h"
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
 
@@ -27,6 +28,7 @@ int main(int argc, char* argv[]) {
     gfc::qt::PrepareSystemLook();
     QApplication application(argc, argv);
     SetUp(application);
+    const gfc::qt::WindowPlaces places(gfc::qt::WindowPlaces::FileOfUser());
     gfc::platform::RealMachine machine;
     const gfc::platform::Machine seams = machine.Seams();
     gfc::qt::QtScreen screen([&seams](const std::string& path, gfc::ui::WindowState state) {

@@ -3,6 +3,8 @@
 namespace gfc::ui {
 
 void StatusBar::SetPanelText(int panel, std::string text) {
+    if (panel > Panels())
+        panels_.resize(static_cast<std::size_t>(panel));
     auto& old = panels_.at(static_cast<std::size_t>(panel - 1));
     if (old == text)
         return;

@@ -14,7 +14,9 @@ public:
     [[nodiscard]] const std::string& PanelText(int panel) const {
         return panels_.at(static_cast<std::size_t>(panel - 1));
     }
+    // Adds the panels up to that one if they are not there yet; they stand at the right.
     void SetPanelText(int panel, std::string text);
+    [[nodiscard]] int Panels() const { return static_cast<int>(panels_.size()); }
     // The control whose width panel 1 keeps; null for its own.
     [[nodiscard]] const Control* WidthOfPanel1() const { return likeWidth_; }
     void MakePanel1AsWideAs(const Control& control);

@@ -3,6 +3,7 @@
 #include <QAbstractItemModel>
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
@@ -54,6 +55,16 @@ TEST_F(Lists, keep_the_rules_of_a_model_while_they_grow) {
     Form->tree.Add(0, "new", "New");
     EXPECT_EQ(Hands.Rows("Probe", "rows"), 1);
     EXPECT_EQ(Tree().model()->rowCount(), 1);
+}
+
+TEST_F(Lists, copy_the_selected_row_as_spreadsheets_take_it) {
+    QApplication::clipboard()->setText("before");
+    QTest::keySequence(&Table(), QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), "before") << "nothing is selected";
+    Form->rows.AddRow({"4", "fourth"});
+    Form->rows.SelectRow(4);
+    QTest::keySequence(&Table(), QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), "4\tfourth");
 }
 
 TEST_F(Lists, show_headings_and_the_row_that_is_selected) {

@@ -173,7 +173,8 @@ void SweepWorld::SeeHeadings(const std::vector<std::string>& headings, const std
 void SweepWorld::SeePage(const PlainPage& page, const std::string& where) {
     TheStory.Check([=, this](Driver&) {
         auto& main = Program.Forms.Get<forms::GFCPrincipal>();
-        for (const ui::ListView* list : {&main.ListView1, &main.ListView2, &main.ListView3}) {
+        for (const ui::ListView* list :
+             std::initializer_list<const ui::ListView*>{&main.ListView1, &main.ListView2, &main.ListView3}) {
             EXPECT_EQ(list->Visible(), list->Name() == page.List) << where << " " << list->Name();
             if (list->Name() == page.List)
                 ExpectRows(*list, page, where);

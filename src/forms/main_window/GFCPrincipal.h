@@ -8,6 +8,7 @@
 #include "ui/Label.h"
 #include "ui/ListView.h"
 #include "ui/Menu.h"
+#include "ui/OpenableList.h"
 #include "ui/TabbedPane.h"
 #include "ui/Tree.h"
 
@@ -57,7 +58,8 @@ public:
                           {"AGA-3 Input Tags", "AGA-3 Output Tags", "AGA8/ISO-12213-2 Input Tags",
                            "AGA8/ISO-12213-2 Output Tags", "Parameters"}};
     ui::Label Label3{TabStrip1, "Label3"};
-    ui::ListView ListView1{TabStrip1, "ListView1"};
+    // A row of the table of stations leads to its node.
+    ui::OpenableList ListView1{TabStrip1, "ListView1"};
     ui::ListView ListView2{TabStrip1, "ListView2"};
     ui::ListView ListView3{TabStrip1, "ListView3"};
     ui::Label Label4{TabStrip1, "Label4"};
@@ -141,6 +143,9 @@ private:
     void AddRunNode(int parent, const std::string& station, int run, bool enabled);
     void HidePanes();
     void ShowStations(const std::string& statusText);
+    void OpenStationRow(int row);
+    // The project, how much of it is configured, and where the last check found errors.
+    void ShowOverview();
     void PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden);
     void LoadRun(int run);
     void ShowCommon(const std::string& station);

@@ -31,6 +31,7 @@ bool ReadRunFlags(const config::FileIni& ini, const std::string& file,
 void GFCPrincipal::ConnectPanes() {
     TreeGFC.OnNodeClick = [this](int clicked) { NodeClicked(clicked); };
     TreeGFC.OnMouseDown = [this](ui::MouseButton button) { TreePressed(button); };
+    ListView1.OnRowOpened = [this](int row) { OpenStationRow(row); };
     SSTab1.OnClick = [this] { summary_.FillCommon(); };
     SSTab2.OnClick = [this] { summary_.FillRun(); };
 }
@@ -68,7 +69,7 @@ void GFCPrincipal::HidePanes() {
 }
 
 void GFCPrincipal::ClearLists() {
-    for (auto* list : {&ListView1, &ListView2, &ListView3}) {
+    for (ui::ListView* list : std::initializer_list<ui::ListView*>{&ListView1, &ListView2, &ListView3}) {
         list->ClearRows();
         list->ClearColumns();
         list->SetVisible(false);
@@ -87,6 +88,25 @@ void GFCPrincipal::BuildTree() {
         AddStation(root, stations[i], i);
     TreeGFC.SetExpanded(root, true);
     FillStationTable();
+    ShowOverview();
+}
+
+void GFCPrincipal::ShowOverview() {
+    const auto& nodes = TreeGFC.At(1).Children;
+    const auto configured = std::ranges::count_if(
+        nodes, [this](int station) { return TreeGFC.At(station).Image != NoConfigImage; });
+    std::string text = session_.Project.ProjectName + ": " + std::to_string(configured) + " of " +
+                       std::to_string(nodes.size()) + " stations configured";
+    if (!faulty_.empty())
+        text += ", " + std::to_string(faulty_.size()) + " with errors at the last check";
+    StatusBar1.SetPanelText(2, text);
+}
+
+// A summary that shows in the same list has no rows that lead anywhere.
+void GFCPrincipal::OpenStationRow(int row) {
+    constexpr int stationName = 2;
+    if (listShowsStations_)
+        GoTo(ListView1.Cell(row, stationName), 0);
 }
 
 void GFCPrincipal::AddStation(int root, const project::Station& station, std::size_t index) {
@@ -119,6 +139,7 @@ void GFCPrincipal::MarkChecked(const std::string& station, bool hasErrors) {
         faulty_.emplace(station, *std::move(bytes));
     if (found > 0 && TreeGFC.At(found).Image != NoConfigImage)
         TreeGFC.SetImage(found, hasErrors ? "StationErrors" : "StationConfig");
+    ShowOverview();
 }
 
 void GFCPrincipal::GoTo(const std::string& station, int run) {

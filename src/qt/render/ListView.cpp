@@ -5,6 +5,8 @@
 #include "qt/render/ViewRenderer.h"
 #include "ui/OpenableList.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QTableView>
 
@@ -37,7 +39,24 @@ public:
         model_.Release();
     }
 
+    // The row as text, its cells parted as spreadsheets take them.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != &widget_ || event->type() != QEvent::KeyPress ||
+            !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+            return ViewRenderer::eventFilter(watched, event);
+        if (const int row = control_.SelectedRow(); row > 0)
+            QGuiApplication::clipboard()->setText(TextOf(row));
+        return true;
+    }
+
 private:
+    [[nodiscard]] QString TextOf(int row) const {
+        QStringList cells;
+        for (const std::string& cell : control_.At(row))
+            cells += ToQt(cell);
+        return cells.join(QLatin1Char('\t'));
+    }
+
     void SetUpView() {
         widget_.setModel(&model_);
         FollowPerson();

@@ -6,6 +6,8 @@
 #include <QLabel>
 #include <QStatusBar>
 
+#include <vector>
+
 namespace gfc::qt {
 
 namespace {
@@ -28,9 +30,9 @@ public:
 
 private:
     void RefreshContent() override {
-        const QString text = ToQt(control_.PanelText(1));
-        if (panel_.text() != text)
-            panel_.setText(text);
+        Show(panel_, 1);
+        for (int panel = 2; panel <= control_.Panels(); ++panel)
+            Show(PanelAtTheRight(panel), panel);
         const ui::Control* like = control_.WidthOfPanel1();
         QWidget* model = like == nullptr ? nullptr : window_.WidgetNamed(like->Name());
         if (model == nullptr || model == model_)
@@ -40,7 +42,23 @@ private:
         panel_.setMinimumWidth(model->width());
     }
 
+    void Show(QLabel& label, int panel) {
+        if (const QString text = ToQt(control_.PanelText(panel)); label.text() != text)
+            label.setText(text);
+    }
+
+    QLabel& PanelAtTheRight(int panel) {
+        while (static_cast<int>(atTheRight_.size()) < panel - 1) {
+            QLabel* label = atTheRight_.emplace_back(new QLabel(&widget_));
+            label->setTextFormat(Qt::PlainText);
+            label->setObjectName("layout" + widget_.objectName() + "Panel" + QString::number(panel));
+            widget_.addPermanentWidget(label);
+        }
+        return *atTheRight_[static_cast<std::size_t>(panel - 2)];
+    }
+
     QLabel& panel_;
+    std::vector<QLabel*> atTheRight_; // from panel 2 on
     QWidget* model_ = nullptr;
 };
 

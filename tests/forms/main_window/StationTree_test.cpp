@@ -228,6 +228,33 @@ TEST_F(StationTree, selecting_a_station_shows_the_table_under_its_name) {
     Play();
 }
 
+TEST_F(StationTree, a_row_of_the_table_leads_to_its_station) {
+    AddStation("East", {});
+    AddStation("North", {});
+    TheStory.Do("open the second row", [&](Driver&) { EXPECT_TRUE(Window().ListView1.PersonOpensRow(2)); })
+        .Check([&](Driver&) {
+            EXPECT_EQ(Tree().FullPath(Tree().SelectedNode()), "All Stations\\North");
+            EXPECT_EQ(Program.Session.Station.CurrentStation, "North");
+            EXPECT_EQ(Panel(), "North");
+        });
+    Play();
+}
+
+TEST_F(StationTree, the_status_bar_says_how_much_of_the_project_is_configured) {
+    AddStation("East", {});
+    AddStation("North", {});
+    Configure("North", "");
+    TheStory.Check([&](Driver&) {
+        EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 2 stations configured");
+        Window().MarkChecked("North", true);
+        EXPECT_EQ(Window().StatusBar1.PanelText(2),
+                  "plant: 1 of 2 stations configured, 1 with errors at the last check");
+        Window().MarkChecked("North", false);
+        EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 2 stations configured");
+    });
+    Play();
+}
+
 TEST_F(StationTree, selecting_all_stations_keeps_the_current_station) {
     AddStation("North", {});
     TheStory.ClickNode("GFCPrincipal", "TreeGFC", "All Stations\\North")

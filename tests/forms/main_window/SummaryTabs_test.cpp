@@ -54,7 +54,8 @@ struct SummaryTabs : testing::Test, World {
 
     // One of the three shows, or none; what is hidden is empty, and the line shows where no list does.
     void ExpectShown(const ui::ListView* shown, const std::string& line = {}) {
-        for (const auto* list : {&Window().ListView1, &Window().ListView2, &Window().ListView3}) {
+        for (const ui::ListView* list : std::initializer_list<const ui::ListView*>{
+                 &Window().ListView1, &Window().ListView2, &Window().ListView3}) {
             EXPECT_EQ(list->Shown(), list == shown) << list->Name();
             if (list == shown)
                 continue;

@@ -1,0 +1,85 @@
+#include "qt/WindowPlaces.h"
+
+#include "qt/FormWindow.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QSettings>
+#include <QSplitter>
+#include <QStandardPaths>
+
+namespace gfc::qt {
+
+namespace {
+
+constexpr QLatin1StringView Size("size");
+constexpr QLatin1StringView Maximised("maximised");
+constexpr const char* GivenBack = "placeGivenBack"; // once, before the window shows for the first time
+
+QString KeyOf(const QWidget& window, QLatin1StringView what) {
+    return window.objectName() + QLatin1Char('/') + what;
+}
+
+QString KeyOf(const QWidget& window, const QSplitter& splitter) {
+    return window.objectName() + QLatin1Char('/') + splitter.objectName();
+}
+
+bool CanBeSized(const QWidget& window) {
+    return !window.windowFlags().testFlag(Qt::FramelessWindowHint);
+}
+
+} // namespace
+
+WindowPlaces::WindowPlaces(QString file) : file_(std::move(file)) {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+QString WindowPlaces::FileOfUser() {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+           QStringLiteral("/windows.ini");
+}
+
+bool WindowPlaces::eventFilter(QObject* watched, QEvent* event) {
+    const auto type = event->type();
+    if (type != QEvent::Show && type != QEvent::Hide)
+        return false;
+    auto* window = qobject_cast<QWidget*>(watched) != nullptr ? dynamic_cast<FormWindow*>(watched) : nullptr;
+    if (window == nullptr || !CanBeSized(*window))
+        return false;
+    const bool isGiven = window->property(GivenBack).toBool();
+    // A window that is being made ready hides, too, before it shows for the first time.
+    if (type == QEvent::Hide && isGiven)
+        Keep(*window);
+    else if (type == QEvent::Show && !isGiven)
+        GiveBack(*window);
+    return false;
+}
+
+// The window stands where its size by design puts it, and grows or shrinks about its middle.
+void WindowPlaces::GiveBack(FormWindow& window) const {
+    window.setProperty(GivenBack, true);
+    const QSettings kept(file_, QSettings::IniFormat);
+    for (QSplitter* splitter : window.findChildren<QSplitter*>())
+        splitter->restoreState(kept.value(KeyOf(window, *splitter)).toByteArray());
+    const QRect room = window.screen()->availableGeometry();
+    const QSize size = kept.value(KeyOf(window, Size)).toSize().boundedTo(room.size());
+    if (!size.isEmpty()) {
+        const QPoint middle = window.geometry().center();
+        window.resize(size.expandedTo(window.minimumSizeHint()));
+        window.move(middle - window.rect().center());
+    }
+    if (kept.value(KeyOf(window, Maximised)).toString() == QLatin1String("true"))
+        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+}
+
+void WindowPlaces::Keep(const FormWindow& window) const {
+    QSettings kept(file_, QSettings::IniFormat);
+    kept.setValue(KeyOf(window, Maximised), window.isMaximized());
+    if (!window.isMaximized())
+        kept.setValue(KeyOf(window, Size), window.size());
+    for (const QSplitter* splitter : window.findChildren<QSplitter*>())
+        kept.setValue(KeyOf(window, *splitter), splitter->saveState());
+}
+
+} // namespace gfc::qt
