@@ -284,7 +284,7 @@ TEST(TagRunsLoad, lets_digits_points_and_backspace_into_its_fields) {
     world.TheStory.Type("TagRuns", "Text1", "1a.0-2.3")
         .SeeText("TagRuns", "Text1", "1.02.3")
         .Type("TagRuns", "kfactor", "5,7 ")
-        .SeeText("TagRuns", "kfactor", "57")
+        .SeeText("TagRuns", "kfactor", "5.7")
         .Type("TagRuns", "phostd", "0.7x1\b")
         .SeeText("TagRuns", "phostd", "0.7");
     world.LeaveByCancel();

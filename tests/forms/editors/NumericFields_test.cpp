@@ -47,7 +47,7 @@ TEST_F(NumericFields, say_why_a_key_was_refused_until_the_next_one) {
 } // namespace
 
 TEST_F(NumericFields, take_digits_points_and_backspace_only) {
-    Hands.Keys("Sheet", "Digits", "1a2-,.3\r4\b.");
+    Hands.Keys("Sheet", "Digits", "1a2-.3\r4\b.");
     EXPECT_EQ(Form->Digits.Text(), "12.3.");
 }
 
