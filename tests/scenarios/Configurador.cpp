@@ -12,7 +12,7 @@ using ui::Icon;
 
 const std::string configurador = "Configurador";
 const std::string north = "All Stations\\North";
-const std::string northFile = "/jobs/KDOrmAGA_plant_North.ini";
+const std::string northFile = platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_North.ini");
 
 const std::string stored =
     "; by hand\r\n"

@@ -42,7 +42,7 @@ void CopyWithin(Story& story) {
 
 void CopyAcross(Story& story, const std::string& station) {
     Choose(story, NorthNode, "copiar2");
-    story.ChooseFile("/jobs/other.KPJ").Prompt(prompt, station);
+    story.ChooseFile(platform::WithOwnSeparators("/jobs/other.KPJ")).Prompt(prompt, station);
 }
 
 Scenario WithinTheProject() {
@@ -61,8 +61,9 @@ Scenario WithinTheProject() {
                  SeeImage(story, "All Stations\\Empty", "StationConfig");
                  SeeImage(story, moves::RunNode(5, "Empty"), "Run");
                  story.Check([=](Driver&) {
-                     EXPECT_EQ(outside->Content("Empty"),
-                               CopyOf(outside->Content(), "/jobs/plant.KPJ", "Empty"));
+                     EXPECT_EQ(
+                         outside->Content("Empty"),
+                         CopyOf(outside->Content(), platform::WithOwnSeparators("/jobs/plant.KPJ"), "Empty"));
                      EXPECT_TRUE(outside->Program->Library.FilesToLoad.empty()) << "at the exit only";
                  });
              },
@@ -113,21 +114,23 @@ void NotCopied(Story& story, const std::string& file) {
 }
 
 Scenario NothingCanBeWritten() {
-    return TheScenario(
-        {.Name = "a_copy_that_fails_leaves_no_file",
-         .Beside =
-             [](FakeProgram& program) {
-                 for (const char* file : {"/jobs/KDOrmAGA_plant_South.ini", "/jobs/KDOrmAGA_other_Far.ini"})
-                     program.Files.Unwritable.insert(file);
-             },
-         .Tell =
-             [](Story& story, const TheOutside&) {
-                 CopyWithin(story);
-                 story.Click("frCopyStation", "Command1");
-                 NotCopied(story, "/jobs/KDOrmAGA_plant_South.ini");
-                 CopyAcross(story, "Far");
-                 NotCopied(story, "/jobs/KDOrmAGA_other_Far.ini");
-             }});
+    return TheScenario({.Name = "a_copy_that_fails_leaves_no_file",
+                        .Beside =
+                            [](FakeProgram& program) {
+                                for (const std::string& file :
+                                     {platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_South.ini"),
+                                      platform::WithOwnSeparators("/jobs/KDOrmAGA_other_Far.ini")})
+                                    program.Files.Unwritable.insert(file);
+                            },
+                        .Tell =
+                            [](Story& story, const TheOutside&) {
+                                CopyWithin(story);
+                                story.Click("frCopyStation", "Command1");
+                                NotCopied(story,
+                                          platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_South.ini"));
+                                CopyAcross(story, "Far");
+                                NotCopied(story, platform::WithOwnSeparators("/jobs/KDOrmAGA_other_Far.ini"));
+                            }});
 }
 
 Scenario ProjectOfOneStation() {
@@ -150,7 +153,7 @@ Scenario ProjectOfOneStation() {
 }
 
 Scenario ToAnotherProject() {
-    const std::string far = "/jobs/KDOrmAGA_other_Far Away.ini";
+    const std::string far = platform::WithOwnSeparators("/jobs/KDOrmAGA_other_Far Away.ini");
     return TheScenario({.Name = "a_configuration_is_copied_to_another_project",
                         .Golden = "aga7_iso3_fixed_external",
                         .Tell =
@@ -165,7 +168,8 @@ Scenario ToAnotherProject() {
                         .After =
                             [far](const Outside& outside) {
                                 EXPECT_EQ(outside.Program->Files.Content[far],
-                                          CopyOf(outside.Content(), "/jobs/other.KPJ", "Far Away"));
+                                          CopyOf(outside.Content(),
+                                                 platform::WithOwnSeparators("/jobs/other.KPJ"), "Far Away"));
                                 EXPECT_EQ(outside.Program->Library.FilesToLoad.size(), 1U);
                             }});
 }

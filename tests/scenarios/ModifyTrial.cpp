@@ -11,8 +11,8 @@ using namespace modify;
 using moves::RunNode;
 using ui::Icon;
 
-const std::string trial = "/jobs/tmpTags_plant_North.ini";
-const std::string log = "/jobs/KDOrmAGA_plant_North_Errors.log";
+const std::string trial = platform::WithOwnSeparators("/jobs/tmpTags_plant_North.ini");
+const std::string log = platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_North_Errors.log");
 
 // Another status for run 5, up to what the trial comes to.
 void EditStatus(Story& story) {

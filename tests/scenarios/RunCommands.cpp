@@ -17,7 +17,7 @@ using moves::SeeImage;
 using ui::Answer;
 using ui::Icon;
 
-const std::string log = "/jobs/KDOrmAGA_plant_North_Errors.log";
+const std::string log = platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_North_Errors.log");
 const std::string logGenerated = "A log file describing the error and its cause has been generated in:\r\n" +
                                  log + "\r\n\r\nDo you wish to see the log file of errors ?";
 

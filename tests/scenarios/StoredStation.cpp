@@ -34,7 +34,7 @@ void ExpectFiles(const StoredStation& stored, const Outside& outside) {
 } // namespace
 
 std::string Outside::File(const std::string& station) {
-    return "/jobs/KDOrmAGA_plant_" + station + ".ini";
+    return platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_" + station + ".ini");
 }
 
 std::string& Outside::Content(const std::string& station) const {

@@ -14,7 +14,8 @@ std::filesystem::path SourceFolder() {
 }
 
 std::filesystem::path BinFolder() {
-    return GFC_BIN;
+    // With its drive where there are drives.
+    return std::filesystem::absolute(GFC_BIN);
 }
 
 std::string Golden(const std::string& name) {

@@ -130,14 +130,13 @@ TEST_F(Library, fails_when_the_path_does_not_fit_the_buffer) {
 }
 
 TEST_F(Library, path_comes_in_the_code_page) {
-    std::filesystem::create_directory(Folder / "Añelo");
-    MakeSmallProject("Añelo/small.KPJ");
-    RecordProject(Folder / "Añelo" / "small.KPJ");
+    std::filesystem::create_directory(Folder / u8"Añelo");
+    static_cast<void>(Project::Create(Folder / u8"Añelo" / "small.KPJ"));
+    RecordProject(Folder / u8"Añelo" / "small.KPJ");
     std::string buffer(255, 'x');
     EXPECT_NE(Get<AddOnGetProjectFile>("kdaddon_VBGetProjectFile")(buffer.data(), 255), 0);
-    EXPECT_STREQ(buffer.c_str(), (Folder.string() + "/A\xF1"
-                                                    "elo/small.KPJ")
-                                     .c_str());
+    const std::string separator(1, static_cast<char>(std::filesystem::path::preferred_separator));
+    EXPECT_EQ(buffer.c_str(), Folder.string() + separator + "A\xF1" + "elo" + separator + "small.KPJ");
 }
 
 TEST_F(Library, hands_out_stations_byte_for_byte) {

@@ -9,8 +9,10 @@ using testing::HasSubstr;
 class SampleFolder : public SampleFixture {};
 
 TEST_F(SampleFolder, is_made_anew_only_when_told_and_leaves_nothing_beside) {
-    Project changed = Plant(Access::Write);
-    AddStation(changed, {0, "Extra", "", "", 0});
+    {
+        Project changed = Plant(Access::Write);
+        AddStation(changed, {0, "Extra", "", "", 0});
+    }
     EXPECT_THAT(FailureOf([&] { MakeSample(Folder / "plant", Existing::Refuse); }),
                 HasSubstr("--force makes it anew"));
     MakeSample(Folder / "plant", Existing::ReplaceSample);

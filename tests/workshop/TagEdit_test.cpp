@@ -71,9 +71,11 @@ TEST_F(TagEdit, rename_refuses_what_no_import_would_take) {
     ExpectRefusal("rename-tag North PIT-101 Łódź",
                   where + "\"Łódź\" holds characters outside Windows-1252 or is not UTF-8; choose another "
                           "name.");
+#ifndef _WIN32 // where no word of a command line can be anything else
     ExpectRefusal("rename-tag North PIT-101 \"$(printf '\\361')\"",
                   where + "\"\xF1\" holds characters outside Windows-1252 or is not UTF-8; choose another "
                           "name.");
+#endif
     ExpectRefusal("rename-tag North PIT-101 'PIT '",
                   where + "\"PIT \" holds a control character or has a blank at its end; choose another "
                           "name.");

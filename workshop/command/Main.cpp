@@ -5,14 +5,44 @@
 
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
+
+#ifdef _WIN32
+#include "workshop/text/Paths.h"
+
+#include <windows.h>
+#endif
 
 namespace {
 
 using namespace gfc::workshop;
 
-int RunCommand(CLI::App& app, int argc, const char* const* argv, int& status) {
+// The words of the command line in UTF-8, the program's own name first, with output in the same. On Windows a
+// program is handed them in the machine's code page, which lacks many a letter.
+std::vector<std::string> Words(int argc, char** argv) {
+#ifdef _WIN32
+    ::SetConsoleOutputCP(CP_UTF8);
+    wchar_t** const wide = ::CommandLineToArgvW(::GetCommandLineW(), &argc);
+    std::vector<std::string> words;
+    for (int word = 0; wide != nullptr && word < argc; ++word) {
+        words.push_back(PathText(wide[word]));
+    }
+    ::LocalFree(wide);
+    static_cast<void>(argv);
+    return words;
+#else
+    return {argv, argv + argc};
+#endif
+}
+
+int RunCommand(CLI::App& app, const std::vector<std::string>& words, int& status) {
     try {
-        app.parse(argc, argv);
+        std::vector<const char*> line;
+        for (const std::string& word : words) {
+            line.push_back(word.c_str());
+        }
+        app.parse(static_cast<int>(line.size()), line.data());
         if (!std::cout.flush()) {
             throw Failure("the output could not be written; check the disk and the access rights.");
         }
@@ -62,5 +92,5 @@ int main(int argc, char** argv) {
     AddTagEditCommands(app);
     AddFileCommands(app, status);
     AddWindowCommand(app);
-    return RunCommand(app, argc, argv, status);
+    return RunCommand(app, Words(argc, argv), status);
 }
