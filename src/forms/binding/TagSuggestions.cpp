@@ -5,6 +5,7 @@
 #include "suggest/Facts.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace gfc::forms {
 
@@ -15,6 +16,15 @@ namespace {
 
 std::string KeyOf(std::string_view type, std::string_view address) {
     return naming::Fold(type).append(" ").append(address);
+}
+
+// A number for each register: the filter asks for tens of thousands of them behind one key. A type has at
+// most two letters.
+std::uint64_t RegisterOf(std::string_view type, std::int32_t address) {
+    std::uint64_t code = 0;
+    for (const char letter : type.substr(0, 2))
+        code = code << 8U | static_cast<unsigned char>(letter >= 'a' && letter <= 'z' ? letter - 32 : letter);
+    return code << 32U | static_cast<std::uint32_t>(address);
 }
 
 bool IsMade(const config::TagBinding& shown) {
@@ -196,20 +206,22 @@ void TagSuggestions::IndexTags() const {
                                              &inventory.VirtLY, &inventory.VirtAX, &inventory.VirtAY,
                                              &inventory.PhysAX, &inventory.PhysAY, &inventory.PhysX,
                                              &inventory.PhysY,  &inventory.VirtX,  &inventory.VirtY};
-    std::size_t count = 0;
-    for (const project::TagList* list : lists)
-        count += list->size();
-    tags_.reserve(count);
     for (const project::TagList* list : lists)
         for (const project::Tag& tag : *list)
-            tags_.try_emplace(KeyOf(tag.RegType, std::to_string(tag.RegAddr)), &tag);
+            tags_.emplace_back(RegisterOf(tag.RegType, tag.RegAddr), &tag);
+    std::ranges::stable_sort(tags_, {}, &decltype(tags_)::value_type::first);
 }
 
 const project::Tag* TagSuggestions::TagAt(std::string_view type, std::string_view address) const {
+    std::int32_t number = 0;
+    const auto read = std::from_chars(address.data(), address.data() + address.size(), number);
+    if (read.ec != std::errc() || read.ptr != address.data() + address.size())
+        return nullptr;
     if (tags_.empty())
         IndexTags();
-    const auto found = tags_.find(KeyOf(type, address));
-    return found == tags_.end() ? nullptr : found->second;
+    const std::uint64_t wanted = RegisterOf(type, number);
+    const auto found = std::ranges::lower_bound(tags_, wanted, {}, &decltype(tags_)::value_type::first);
+    return found == tags_.end() || found->first != wanted ? nullptr : found->second;
 }
 
 std::string_view TagSuggestions::ModuleOf(std::string_view type, std::string_view address) const {

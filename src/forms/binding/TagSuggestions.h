@@ -4,11 +4,12 @@
 #include "suggest/Known.h"
 #include "suggest/Suggest.h"
 
+#include <cstdint>
 #include <map>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace gfc::forms {
@@ -59,9 +60,9 @@ private:
     std::map<int, suggest::Suggestion> suggestions_;
     // Found out once for a showing, when first asked for.
     mutable std::optional<std::vector<suggest::BoundVariable>> elsewhere_;
-    mutable std::size_t fromFile_ = 0;                       // the first ones of elsewhere
-    mutable std::unordered_set<std::string> boundElsewhere_; // registers
-    mutable std::unordered_map<std::string, const project::Tag*> tags_;
+    mutable std::size_t fromFile_ = 0;                                        // the first ones of elsewhere
+    mutable std::unordered_set<std::string> boundElsewhere_;                  // registers
+    mutable std::vector<std::pair<std::uint64_t, const project::Tag*>> tags_; // by register, ascending
 };
 
 } // namespace gfc::forms
