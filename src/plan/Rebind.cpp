@@ -69,6 +69,10 @@ Destination::Destination(StationTags tags) : tags_(std::move(tags)) {
     hasModules_ = project::ChooseWorkingModules(inventory_, candidates_);
 }
 
+bool Destination::Carries(const project::RunNeed& need, int runs) const {
+    return project::Fits({inventory_, candidates_}, need, runs);
+}
+
 std::vector<config::TagBinding> Destination::ModulesFor(WorkingKind kind) const {
     const ModuleRow& row = RowOf(kind);
     std::vector<config::TagBinding> modules;

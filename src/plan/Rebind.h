@@ -1,6 +1,6 @@
 #pragma once
 
-#include "project/WorkingModules.h"
+#include "project/RunNeeds.h"
 #include "suggest/Suggest.h"
 
 #include <string>
@@ -79,6 +79,9 @@ public:
     // that are large enough. lines say which are in use by others.
     [[nodiscard]] std::vector<config::TagBinding> ChoicesFor(const Line& line,
                                                              const std::vector<Line>& lines) const;
+
+    // Whether the registers carry so many runs.
+    [[nodiscard]] bool Carries(const project::RunNeed& need, int runs) const;
 
     // The candidates for one of the working modules, with type and address of their first register.
     [[nodiscard]] std::vector<config::TagBinding> ModulesFor(WorkingKind kind) const;

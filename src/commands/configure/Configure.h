@@ -13,6 +13,8 @@ namespace gfc::commands {
 
 void AddCopyCommand(CLI::App& app, Context context);
 void AddRebindCommand(CLI::App& app, Context context);
+void AddApplyCommand(CLI::App& app, Context context);
+void AddTemplateCommand(CLI::App& app, Context context);
 
 // A station whose file is to be written, with what its check needs.
 struct Target {

@@ -15,7 +15,7 @@ void Tell(std::string_view text) {
 namespace {
 
 int Main(int argc, const char* const* argv) {
-    CLI::App app("Writes the configurations of many stations of the open project from one of them.",
+    CLI::App app("Writes the configurations of many stations of the open project from one of them, or from a table.",
                  "gfc-configure");
     app.footer("\"gfc-configure COMMAND --help\" explains a command. What does not fit is told as a whole, "
                "and then\n"
@@ -34,6 +34,8 @@ int Main(int argc, const char* const* argv) {
     const Context context{machine, status};
     AddCopyCommand(app, context);
     AddRebindCommand(app, context);
+    AddApplyCommand(app, context);
+    AddTemplateCommand(app, context);
     return RunApp(app, platform::ConsoleArguments(argc, argv), status);
 }
 
