@@ -13,8 +13,8 @@ class TablePlanner {
 public:
     TablePlanner(platform::Files& files, project::AddOnLibrary& library, const project::Project& project,
                  const ApplyOptions& options, Faults& faults)
-        : files_(files), library_(library), options_(options), faults_(faults),
-          circumstances_{project, options.User, {}, options.Strictness} {}
+        : files_(files), library_(library), options_(options),
+          faults_(faults), circumstances_{project, options.User, {}, options.Strictness} {}
 
     // What other stations bind helps the suggestions alone.
     void LookAround(const std::vector<StationWish>& wishes) {
@@ -39,15 +39,15 @@ public:
             return Blame(wish, "Its configuration cannot be read: " + files_.LastFailure());
         if (before && !options_.MayReplace)
             Blame(wish, "The station has a configuration, which is replaced with --replace alone.");
-        Destination to(
+        const Destination to(
             {station->Name,
              library_.ReadTags(station->Name, circumstances_.Project.ProjectFile, [](std::string_view) {})});
-        auto change = Assemble(wish, to, circumstances_, std::move(before), faults_);
-        if (change)
-            applied_.push_back({*std::move(change), to.Of().Tags});
+        auto checked = Assemble(wish, to, circumstances_, std::move(before), faults_);
+        if (checked)
+            applied_.push_back(*std::move(checked));
     }
 
-    std::vector<Applied> TakeAll() { return std::move(applied_); }
+    std::vector<Checked> TakeAll() { return std::move(applied_); }
 
 private:
     void Blame(const StationWish& wish, const std::string& text) {
@@ -59,12 +59,12 @@ private:
     const ApplyOptions& options_;
     Faults& faults_;
     Circumstances circumstances_;
-    std::vector<Applied> applied_;
+    std::vector<Checked> applied_;
 };
 
 } // namespace
 
-std::vector<Applied> PlanTable(std::string_view csv, platform::Files& files, project::AddOnLibrary& library,
+std::vector<Checked> PlanTable(std::string_view csv, platform::Files& files, project::AddOnLibrary& library,
                                const project::Project& project, const ApplyOptions& options, Faults& faults,
                                const std::function<bool(const std::string&)>& onStation) {
     const auto wishes = WishesIn(ReadSheet(csv, faults), faults);
@@ -77,7 +77,7 @@ std::vector<Applied> PlanTable(std::string_view csv, platform::Files& files, pro
     }
     // As the table is read, whichever step found them.
     std::ranges::stable_sort(faults, {}, &Fault::Row);
-    return faults.empty() ? planner.TakeAll() : std::vector<Applied>();
+    return faults.empty() ? planner.TakeAll() : std::vector<Checked>();
 }
 
 } // namespace gfc::plan

@@ -1,8 +1,7 @@
-#include "plan/Assembler.h"
-
 #include "config/ConfigWriter.h"
 #include "config/Overload.h"
 #include "config/Vocabulary.h"
+#include "plan/Assembler.h"
 #include "plan/Draft.h"
 #include "project/RunNeeds.h"
 #include "services/Text.h"
@@ -19,6 +18,19 @@ bool IsYes(std::string_view text) {
     return EqualNoCase(text, config::Yes);
 }
 
+// Where a text that a row says of a run is written from; null for what is no such text.
+std::string* PlaceOf(const config::RunField& field, config::RunArrays& runs, std::size_t element) {
+    using Place = std::string*;
+    return std::visit(
+        config::Overload{
+            [&](std::string config::RunIO::*text) { return &(runs.IO[element].*text); },
+            [&](std::string config::RunMechanical::*text) { return &(runs.Mechanical[element].*text); },
+            [&](config::GasValue value) { return &runs.Gas[element][value.Slot].Tag; },
+            [](const auto&) { return Place(); },
+        },
+        field);
+}
+
 // What the windows would not have let through.
 bool IsRefusedByWindows(const audit::Finding& finding) {
     using enum audit::Area;
@@ -28,12 +40,13 @@ bool IsRefusedByWindows(const audit::Finding& finding) {
 
 } // namespace
 
-std::optional<Change> Assemble(const StationWish& wish, const Destination& to,
-                               const Circumstances& circumstances, config::FileState before, Faults& faults) {
+std::optional<Checked> Assemble(const StationWish& wish, const Destination& to,
+                                const Circumstances& circumstances, config::FileState before,
+                                Faults& faults) {
     return Assembler(wish, to, circumstances, faults).Assemble(std::move(before));
 }
 
-std::optional<Change> Assembler::Assemble(config::FileState before) {
+std::optional<Checked> Assembler::Assemble(config::FileState before) {
     const std::size_t faultsBefore = faults_.size();
     const std::string file = circumstances_.Project.ConfigFileOf(to_.Of().Station);
     if (file.empty())
@@ -49,16 +62,19 @@ std::optional<Change> Assembler::Assemble(config::FileState before) {
     Bind();
     if (faults_.size() != faultsBefore)
         return std::nullopt;
-    Change change{to_.Of().Station, file, std::move(before), Written(), std::string(command::ApplyPlan)};
-    TakeErrors(change);
-    return faults_.size() == faultsBefore ? std::optional(std::move(change)) : std::nullopt;
+    Checked checked{{to_.Of().Station, file, std::move(before), Written(), std::string(command::ApplyPlan)},
+                    {}};
+    checked.Report = CheckOf(circumstances_.Project, checked.Change, to_.Of().Tags);
+    TakeErrors(checked.Report);
+    return faults_.size() == faultsBefore ? std::optional(std::move(checked)) : std::nullopt;
 }
 
 const Said* Assembler::CellOf(std::string_view key, const RunWish* run) const {
     const Column* column = ColumnOf(key);
     const Cells& cells =
-        run != nullptr && (column->Kind == ColumnKind::Run || column->Kind == ColumnKind::RunTag) ? run->Own
-                                                                                                 : wish_.Common;
+        run != nullptr && (column->Kind == ColumnKind::Run || column->Kind == ColumnKind::RunTag)
+            ? run->Own
+            : wish_.Common;
     const auto found = cells.find(column);
     return found == cells.end() ? nullptr : &found->second;
 }
@@ -107,7 +123,7 @@ void Assembler::TakeCommonTexts() {
             station_.*std::get<config::CommonCopy>(column->OfRun->Field).Value = said.Text;
         else if (const auto* text =
                      std::get_if<std::string config::StationConfig::*>(&column->OfStation->Written))
-            station_.**text = said.Text;
+            station_.** text = said.Text;
     }
     if (!circumstances_.User.empty())
         station_.UserId = circumstances_.User;
@@ -120,20 +136,17 @@ void Assembler::TakeCommonTexts() {
 void Assembler::TakeRuns() {
     station_.ActiveRunCount = static_cast<int>(wish_.Runs.size());
     for (std::size_t run = 0; run < config::MaxRuns; ++run) {
-        const bool on = std::ranges::find(wish_.Runs, static_cast<int>(run) + 1, &RunWish::Run) != wish_.Runs.end();
+        const bool on =
+            std::ranges::find(wish_.Runs, static_cast<int>(run) + 1, &RunWish::Run) != wish_.Runs.end();
         station_.RunList[run] = {config::RunSection(static_cast<int>(run) + 1),
                                  std::string(on ? config::Yes : config::No)};
         station_.Run[run] = station_.RunList[run].Flag;
     }
     station_.Runs.PrepareWholeStation(station_.ActiveRunCount);
-    for (std::size_t element = 0; element < wish_.Runs.size(); ++element) {
-        auto& gas = station_.Runs.Gas[element];
-        // Fixed gas values are written from where the run's own record has them.
-        const config::RunTarget target{station_.Runs.IO[element], gas, station_.Runs.Mechanical[element], gas};
+    for (std::size_t element = 0; element < wish_.Runs.size(); ++element)
         for (const auto& [column, said] : wish_.Runs[element].Own)
             if (column->Kind == ColumnKind::Run)
-                *config::PlaceOf(*column->OfRun, config::BindingPart::Tag, target) = said.Text;
-    }
+                *PlaceOf(column->OfRun->Field, station_.Runs, element) = said.Text;
 }
 
 // A text that the choices leave no place for would be lost without a word.
@@ -141,7 +154,8 @@ void Assembler::RefuseUnfit() {
     for (std::size_t element = 0; element < wish_.Runs.size(); ++element)
         for (const auto& [column, said] : wish_.Runs[element].Own) {
             // That the calorific value and its like are fixed or measured is told by the tags' columns, too.
-            const bool fits = config::GroupPresent(column->OfRun->Group, station_, station_.Runs.Mechanical[element]);
+            const bool fits =
+                config::GroupPresent(column->OfRun->Group, station_, station_.Runs.Mechanical[element]);
             if (!fits)
                 Blame(&said, column->Key,
                       "There is no such value under " + station_.FlowAlgorithm + " with " +
@@ -155,7 +169,8 @@ void Assembler::RefuseUnfitPressure() {
         Blame(CellOf("ExtAtmPress"), "ExtAtmPress",
               "With absolute pressure transmitters no atmospheric pressure is read; say No.");
     if (external && !station_.AtmPress.empty())
-        Blame(CellOf("AtmPress"), "AtmPress", "The atmospheric pressure comes from a tag; leave the cell empty.");
+        Blame(CellOf("AtmPress"), "AtmPress",
+              "The atmospheric pressure comes from a tag; leave the cell empty.");
     if (const Said* tag = CellOf("CommonPaKDIOTag"); tag != nullptr && !external)
         Blame(tag, "CommonPaKDIOTag", "The atmospheric pressure is fixed: ExtAtmPress does not say Yes.");
 }
@@ -170,8 +185,9 @@ void Assembler::TakeModules() {
         std::string_view Key;
     };
     std::vector<Line> lines;
-    for (const Row& row : {Row{WorkingKind::Float, "WrkFloatModName"}, Row{WorkingKind::Long, "WrkIntLongModName"},
-                           Row{WorkingKind::Analog, "WrkAnalogModName"}}) {
+    for (const Row& row :
+         {Row{WorkingKind::Float, "WrkFloatModName"}, Row{WorkingKind::Long, "WrkIntLongModName"},
+          Row{WorkingKind::Analog, "WrkAnalogModName"}}) {
         const Said* said = CellOf(row.Key);
         const auto modules = to_.ModulesFor(row.Kind);
         const auto found = std::ranges::find_if(modules, [&](const config::TagBinding& module) {
@@ -206,8 +222,7 @@ std::string Assembler::Written() const {
 }
 
 // What the check calls an error, at the cell that said it.
-void Assembler::TakeErrors(const Change& change) {
-    const auto report = CheckOf(circumstances_.Project, change, to_.Of().Tags);
+void Assembler::TakeErrors(const audit::StationReport& report) {
     std::set<std::string> told;
     for (const audit::Finding& finding : report.Findings) {
         if (finding.Severity != audit::Severity::Error ||

@@ -9,8 +9,8 @@
 
 namespace gfc::plan {
 
-// What of the check's errors keeps a plan from being written. The windows refuse what their fields and lists do,
-// but let a bore through that is wider than its pipe, or one pulse counter for two runs.
+// What of the check's errors keeps a plan from being written. The windows refuse what their fields and lists
+// do, but let a bore through that is wider than its pipe, or one pulse counter for two runs.
 enum class Strictness { AllErrors, AsTheWindows };
 
 struct Circumstances {
@@ -23,9 +23,9 @@ struct Circumstances {
 // The whole configuration that a plan says, byte for byte as the wizard would write it with the same choices.
 // Nothing, with at least one fault more, where anything does not fit the station or the rules. before is what
 // stands in the file's place.
-[[nodiscard]] std::optional<Change> Assemble(const StationWish& wish, const Destination& to,
-                                             const Circumstances& circumstances, config::FileState before,
-                                             Faults& faults);
+[[nodiscard]] std::optional<Checked> Assemble(const StationWish& wish, const Destination& to,
+                                              const Circumstances& circumstances, config::FileState before,
+                                              Faults& faults);
 
 // The tag that a cell names: "FT-101", or "FT-101 (FX 12)" where there are several of that name. Null with a
 // reason where the list has none, or more than one.

@@ -53,15 +53,16 @@ void Assembler::Bind() {
     pools_ = TagPools(inventory);
     const std::string tags = wish_.TextOf("Tags");
     if (!tags.empty() && !EqualNoCase(tags, tags::Automatic) && !EqualNoCase(tags, tags::Suggested))
-        Blame(CellOf("Tags"), "Tags", "Say automatic or suggested, or name each tag and leave the cell empty.");
+        Blame(CellOf("Tags"), "Tags",
+              "Say automatic or suggested, or name each tag and leave the cell empty.");
     // What is named goes to nobody else, whichever run comes first.
     for (const bool named : {true, false}) {
         namesOnly_ = named;
         if (EqualNoCase(station_.ExtAtmPress, config::Yes))
             BindStage(BindingStage::CommonInputs, nullptr, 0);
         for (std::size_t element = 0; element < wish_.Runs.size(); ++element)
-            for (const auto stage : {BindingStage::RunInputs, BindingStage::RunOutputs, BindingStage::GasInputs,
-                                     BindingStage::GasOutputs})
+            for (const auto stage : {BindingStage::RunInputs, BindingStage::RunOutputs,
+                                     BindingStage::GasInputs, BindingStage::GasOutputs})
                 BindStage(stage, &wish_.Runs[element], static_cast<int>(element));
     }
     BindSuggested();
@@ -94,7 +95,8 @@ void Assembler::BindVariable(const binding::Variable& variable, const RunWish* r
         reason = "Name a tag, or say automatic or suggested in the column Tags.";
     }
     if (tag == nullptr)
-        return Blame(run == nullptr ? wish_.Row : run->Row, key, said == nullptr ? std::string() : said->Text, reason);
+        return Blame(run == nullptr ? wish_.Row : run->Row, key, said == nullptr ? std::string() : said->Text,
+                     reason);
     pools_.Take(*tag);
     *variable.Binding = suggest::BindingTo(*tag);
     bound_.push_back({{run == nullptr ? 0 : run->Run, variable.Row}, *variable.Binding});

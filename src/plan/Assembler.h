@@ -15,7 +15,7 @@ public:
               Faults& faults)
         : wish_(wish), to_(to), circumstances_(circumstances), faults_(faults) {}
 
-    std::optional<Change> Assemble(config::FileState before);
+    std::optional<Checked> Assemble(config::FileState before);
 
 private:
     [[nodiscard]] bool TakeChoices();
@@ -30,7 +30,7 @@ private:
     void BindVariable(const binding::Variable& variable, const RunWish* run);
     void BindSuggested();
     [[nodiscard]] std::string Written() const;
-    void TakeErrors(const Change& change);
+    void TakeErrors(const audit::StationReport& report);
 
     void Blame(const Said* said, std::string_view key, const std::string& text);
     void Blame(int row, std::string_view key, const std::string& value, const std::string& text);

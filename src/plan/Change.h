@@ -43,9 +43,15 @@ struct Written {
 };
 
 // Puts the file in its place by one atomic replace, has it recorded and entered among the station's files to
-// load. Not done, with nothing changed, where the file is no longer what it was when this was planned; a file
-// that holds the new bytes already is done.
+// load. Not done, with nothing changed, where the file is neither what it was when this was planned nor what
+// it is to become.
 [[nodiscard]] Written Write(const Writer& writer, const Change& change);
+
+// One that fits, with what the check says of the new file: it need not be asked again once that is written.
+struct Checked {
+    plan::Change Change;
+    audit::StationReport Report;
+};
 
 // What the check says of the new bytes, before or after they are written.
 [[nodiscard]] audit::StationReport CheckOf(const project::Project& project, const Change& change,

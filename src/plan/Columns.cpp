@@ -59,7 +59,8 @@ private:
 
     // Some texts stand in several places of the file, and are said once.
     bool IsNew(std::string StationConfig::*text) {
-        if (std::ranges::find(NotSaid, text) != NotSaid.end() || std::ranges::find(said_, text) != said_.end())
+        if (std::ranges::find(NotSaid, text) != NotSaid.end() ||
+            std::ranges::find(said_, text) != said_.end())
             return false;
         said_.push_back(text);
         return true;

@@ -43,8 +43,8 @@ inline constexpr std::string_view Automatic = "automatic"; // the next that are 
 inline constexpr std::string_view Suggested = "suggested"; // the one that is surely meant
 } // namespace tags
 
-// The text that is stored for a choice, which may also be said as the windows show it; without regard to case.
-// Empty for none.
+// The text that is stored for a choice, which may also be said as the windows show it; without regard to
+// case. Empty for none.
 [[nodiscard]] std::string_view StoredChoice(std::string_view key, std::string_view said);
 // The texts that would do, for a column of choices: "AGA3, AGA7"; empty for another column.
 [[nodiscard]] std::string ChoicesOf(std::string_view key);

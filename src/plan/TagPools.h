@@ -22,8 +22,8 @@ public:
     [[nodiscard]] const project::Tag* Next(binding::TagClass tagClass);
 
 private:
-    project::TagList lists_[4];       // by class
-    std::size_t next_[4] = {};        // where to look on
+    project::TagList lists_[4];   // by class
+    std::size_t next_[4] = {};    // where to look on
     std::set<std::string> taken_; // "FX 12"
 };
 

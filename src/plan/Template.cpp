@@ -13,8 +13,8 @@ namespace gfc::plan {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> Always = {"Station", "Runs", "FlowAlgorithm", "GasDensitySource",
-                                                    "SystemUnits", "Tags"};
+constexpr std::array<std::string_view, 6> Always = {"Station",          "Runs",        "FlowAlgorithm",
+                                                    "GasDensitySource", "SystemUnits", "Tags"};
 
 // One station's file, as far as its runs have it in common.
 class StationCells {
@@ -54,7 +54,8 @@ private:
         }
         if (!config::GroupPresent(column.OfRun->Group, station_, mechanical))
             return {};
-        return column.Kind == ColumnKind::Run ? Read(config::RunSection(run), column.Key) : TagCell(column, run);
+        return column.Kind == ColumnKind::Run ? Read(config::RunSection(run), column.Key)
+                                              : TagCell(column, run);
     }
 
     [[nodiscard]] std::string CommonCell(const Column& column, int run) const {

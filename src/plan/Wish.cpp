@@ -94,9 +94,8 @@ private:
     }
 
     StationWish& WishOf(const std::string& station, int row) {
-        const auto found = std::ranges::find_if(wishes_, [&](const StationWish& wish) {
-            return services::EqualNoCase(wish.Station, station);
-        });
+        const auto found = std::ranges::find_if(
+            wishes_, [&](const StationWish& wish) { return services::EqualNoCase(wish.Station, station); });
         if (found != wishes_.end())
             return *found;
         wishes_.push_back({station, row, {}, {}});

@@ -12,6 +12,10 @@ public:
     // A person double-clicked a row, or pressed Enter on it.
     std::function<void(int row)> OnRowOpened;
 
+    // A row that a person has to do something about is shown in red; without it none is. Asked when a row is
+    // painted: it must be quick. What makes a row red must stand in it in words as well.
+    std::function<bool(int row)> IsMarked;
+
     bool PersonOpensRow(int row) {
         if (row < 1 || row > Count() || !PersonActs())
             return false;

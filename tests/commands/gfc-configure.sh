@@ -75,6 +75,24 @@ configure 0 "Twin_7: nothing to report" rebind Twin_7
 expect gfc-audit 0 "Twin_7: nothing to report" check Twin_7
 expect gfc-audit 0 "Bind anew" history Twin_7
 
+# A table of a station gives the same file again; a faulty one gives every fault and nothing else.
+"$bin/gfc-configure" template Twin_3 Twin_4 -o "$work/plan.csv" || failed=1
+before=$(sha256sum "$plant"/*.ini)
+configure 1 "replaced with --replace alone" apply "$work/plan.csv"
+configure 0 "Twin_4: stands already as the table says" apply "$work/plan.csv" --replace --preview
+configure 0 "2 of 2 stations written" apply "$work/plan.csv" --replace
+same "a template gives the file that it was made from"
+sed 's/Twin_4/Twin_99/; s/4\.000/wide/' "$work/plan.csv" >"$work/faulty.csv"
+configure 1 'row 2, column OrificeDia ("wide")' apply "$work/faulty.csv" --replace
+configure 1 'row 3, column Station ("Twin_99"): The project has no such station.' apply "$work/faulty.csv" --replace
+configure 1 '"column": "OrificeDia"' apply "$work/faulty.csv" --replace --json
+same "a faulty table writes nothing"
+configure 2 "cannot be read" apply "$work/nowhere.csv"
+configure 2 "not configured" template Valve_Site_12
+"$bin/gfc-configure" template $source --tags suggested | sed "s/^\(\xEF\xBB\xBF\)\?$source/Northgate_Custody/" >"$work/new.csv"
+configure 0 "Northgate_Custody: is configured" apply "$work/new.csv" --preview
+expect gfc-audit 0 "Apply plan" history Twin_3
+
 # Without --rebind it is the file itself, and the check says what it lacks.
 configure 1 "tag-not-found" copy $source Eastfield_Meter
 

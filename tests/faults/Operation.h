@@ -50,5 +50,6 @@ struct Operation {
 
 [[nodiscard]] std::vector<Operation> ProgramOperations();
 [[nodiscard]] std::vector<Operation> WorkshopOperations();
+[[nodiscard]] std::vector<Operation> PlanOperations();
 
 } // namespace gfc::test::faults

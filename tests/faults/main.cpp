@@ -39,6 +39,8 @@ bool PlayAll(const Settings& settings) {
     std::vector<Operation> operations = ProgramOperations();
     for (Operation& operation : WorkshopOperations())
         operations.push_back(std::move(operation));
+    for (Operation& operation : PlanOperations())
+        operations.push_back(std::move(operation));
     Tally failures;
     Tally kills;
     long calls = 0;

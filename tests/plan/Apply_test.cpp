@@ -1,6 +1,6 @@
 // Tables of stations: every fault by row and column, all or nothing.
-#include "plan/Apply.h"
 #include "PlanWorld.h"
+#include "plan/Apply.h"
 #include "plan/Template.h"
 #include "suggest/Known.h"
 
@@ -23,6 +23,11 @@ class Tables : public testing::Test {
 protected:
     Tables() {
         World.Configure("North", "wizard/aga3_aga8_fixed.ini");
+        // Of the golden compositions the sums are not 1.
+        for (const char* methane : {"GC_C1=0.92\r", "GC_C1=0.95\r"}) {
+            std::string& bytes = World.BytesOf("North");
+            bytes.replace(bytes.find(methane), std::string(methane).size(), "GC_C1=0.965222\r");
+        }
         World.BuildAlike("South", "North", [](const std::string& name) { return name; });
         const config::FileIni ini(World.Files);
         Sound = TemplateOf(ini, {{"North", World.FileOf("North"), &World.Library.TagsOf["North"]}}, {});
@@ -30,7 +35,7 @@ protected:
             Sound[row][0] = "South";
     }
 
-    std::vector<Applied> Plan(const Table& table, ApplyOptions options = {}) {
+    std::vector<Checked> Plan(const Table& table, ApplyOptions options = {}) {
         Found.clear();
         return PlanTable(WriteSheet(table), World.Files, World.Library, World.Project, options, Found,
                          [](const std::string&) { return true; });
@@ -43,9 +48,11 @@ protected:
     }
 
     // The faults of the sound table with one other cell; row 2 is that of the first run.
-    std::vector<std::string> FaultsWith(const std::string& title, const std::string& text, std::size_t row = 2) {
+    std::vector<std::string> FaultsWith(const std::string& title, const std::string& text,
+                                        std::size_t row = 2) {
         Table table = Sound;
         table[row - 1][PlaceOf(title)] = text;
+        SCOPED_TRACE(title);
         EXPECT_THAT(Plan(table), IsEmpty()) << title << "=" << text;
         std::vector<std::string> lines;
         for (const Fault& fault : Found)
@@ -60,7 +67,8 @@ protected:
 
 TEST_F(Tables, ASoundOneGivesTheFileOfTheStationThatItWasMadeFrom) {
     const auto applied = Plan(Sound);
-    ASSERT_THAT(Found, IsEmpty());
+    for (const Fault& fault : Found)
+        ADD_FAILURE() << fault.Line();
     ASSERT_THAT(applied, SizeIs(1));
     EXPECT_EQ(applied.front().Change.Command, "Apply plan");
     EXPECT_EQ(applied.front().Change.Before, std::nullopt);
@@ -72,29 +80,36 @@ TEST_F(Tables, ASoundOneGivesTheFileOfTheStationThatItWasMadeFrom) {
 }
 
 TEST_F(Tables, EachFaultIsToldByRowAndColumnWithWhatWouldDo) {
-    EXPECT_THAT(FaultsWith("Units", "Yards"),
-                testing::Contains("row 2, column Units (\"Yards\"): Say one of: US, US-degC, Metric, Metric-degF, "
-                                  "Practical-SI."));
+    EXPECT_THAT(
+        FaultsWith("Units", "Yards"),
+        testing::Contains("row 2, column Units (\"Yards\"): Say one of: US, US-degC, Metric, Metric-degF, "
+                          "Practical-SI."));
     EXPECT_THAT(FaultsWith("Station", "Nowhere"),
                 testing::Contains("row 2, column Station (\"Nowhere\"): The project has no such station."));
     EXPECT_THAT(FaultsWith("Runs", "6"), ElementsAre(HasSubstr("row 2, column Runs (\"6\"): Say the runs")));
-    EXPECT_THAT(FaultsWith("Runs", "5"), ElementsAre("row 3, column Runs (\"5\"): Another row says what this run is to be."));
-    EXPECT_THAT(FaultsWith("OrificeDia", "wide"),
-                ElementsAre("row 2, column OrificeDia (\"wide\"): OrificeDia says \"wide\", which is no number with "
-                            "digits and one point at most. (number-bad)"));
+    EXPECT_THAT(FaultsWith("Runs", "5"),
+                ElementsAre("row 3, column Runs (\"5\"): Another row says what this run is to be."));
+    EXPECT_THAT(
+        FaultsWith("OrificeDia", "wide"),
+        ElementsAre("row 2, column OrificeDia (\"wide\"): OrificeDia says \"wide\", which is no number with "
+                    "digits and one point at most. (number-bad)"));
     EXPECT_THAT(FaultsWith("OrificeDia", "", 3),
                 ElementsAre("row 3, column OrificeDia: OrificeDia has no value. (value-missing)"));
-    EXPECT_THAT(FaultsWith("OrificeDia", "99"), ElementsAre(HasSubstr("row 2, column OrificeDia (\"99\"): The bore")));
-    EXPECT_THAT(FaultsWith("GasTempKDIOTag", "XS-1"),
-                ElementsAre("row 2, column GasTempKDIOTag (\"XS-1\"): The station has no float tag of this name that "
-                            "may be bound."));
+    EXPECT_THAT(FaultsWith("OrificeDia", "99"),
+                ElementsAre(HasSubstr("row 2, column OrificeDia (\"99\"): The bore")));
+    EXPECT_THAT(
+        FaultsWith("GasTempKDIOTag", "XS-1"),
+        ElementsAre("row 2, column GasTempKDIOTag (\"XS-1\"): The station has no float tag of this name that "
+                    "may be bound."));
     EXPECT_THAT(FaultsWith("GasTempKDIOTag", ""),
                 ElementsAre(HasSubstr("row 2, column GasTempKDIOTag: Name a tag, or say automatic")));
     EXPECT_THAT(FaultsWith("StandardP", "14.65", 3),
                 ElementsAre(HasSubstr("row 3, column StandardP (\"14.65\"): Row 2 says \"14.73\"")));
-    EXPECT_THAT(FaultsWith("Composition", "GUESSED"),
-                testing::Contains(HasSubstr("column Composition (\"GUESSED\"): Say one of: MEASURED, FIXED.")));
-    EXPECT_THAT(FaultsWith("User", "\xE2\x82\xAA"), testing::Contains(HasSubstr("cannot hold these characters")));
+    EXPECT_THAT(
+        FaultsWith("Composition", "GUESSED"),
+        testing::Contains(HasSubstr("column Composition (\"GUESSED\"): Say one of: MEASURED, FIXED.")));
+    EXPECT_THAT(FaultsWith("User", "\xE2\x82\xAA"),
+                testing::Contains(HasSubstr("cannot hold these characters")));
 }
 
 TEST_F(Tables, AllFaultsOfAllStationsAreToldAtOnceInTheOrderOfTheRows) {
@@ -122,7 +137,8 @@ TEST_F(Tables, WhatTheChoicesLeaveNoPlaceForIsRefusedAndNotLost) {
     table[2].push_back("");
     Plan(table);
     ASSERT_THAT(Found, SizeIs(1));
-    EXPECT_THAT(Found[0].Line(), HasSubstr("row 2, column meterKFactor (\"1.0\"): There is no such value under AGA3"));
+    EXPECT_THAT(Found[0].Line(),
+                HasSubstr("row 2, column meterKFactor (\"1.0\"): There is no such value under AGA3"));
 }
 
 TEST_F(Tables, ColumnsThatAreUnknownTwiceOrMissingAreFaults) {
@@ -134,10 +150,11 @@ TEST_F(Tables, ColumnsThatAreUnknownTwiceOrMissingAreFaults) {
     std::vector<std::string> lines;
     for (const Fault& fault : Found)
         lines.push_back(fault.Line());
-    EXPECT_THAT(lines, testing::IsSupersetOf({"column Methan: There is no such column. A template shows those that "
-                                              "there are.",
-                                              "column Station: The column stands twice.",
-                                              "column Units: The column is missing."}));
+    EXPECT_THAT(lines,
+                testing::IsSupersetOf({"column Methan: There is no such column. A template shows those that "
+                                       "there are.",
+                                       "column Station: The column stands twice.",
+                                       "column Units: The column is missing."}));
 }
 
 TEST_F(Tables, AConfiguredStationIsReplacedWhenThatIsAskedForAlone) {
@@ -169,22 +186,25 @@ TEST_F(Tables, TagsAreTakenAutomaticallyOrWhereTheSuggestionIsSure) {
     for (auto& row : table)
         std::ranges::replace(row, std::string(tags::Automatic), std::string(tags::Suggested));
     EXPECT_THAT(Plan(table), IsEmpty());
-    EXPECT_THAT(Found.front().Text, testing::AnyOf(HasSubstr("is not sure"), HasSubstr("Nothing is suggested")));
+    EXPECT_THAT(Found.front().Text,
+                testing::AnyOf(HasSubstr("is not sure"), HasSubstr("Nothing is suggested")));
 }
 
 TEST_F(Tables, AStationThatCannotCarryTheRunsIsRefused) {
-    std::erase_if(World.Library.TagsOf["South"], [](const project::Tag& tag) { return tag.ModuleName == "VF0"; });
+    std::erase_if(World.Library.TagsOf["South"],
+                  [](const project::Tag& tag) { return tag.ModuleName == "VF0"; });
     Plan(Sound);
     EXPECT_THAT(Found.front().Text, HasSubstr("lacks virtual modules"));
 }
 
-// Whatever stands in a cell: either the table is refused with a fault at that row, or it says of itself what was
-// read from it.
+// Whatever stands in a cell: either the table is refused with a fault at that row, or it says of itself what
+// was read from it.
 TEST_F(Tables, ACellThatIsChangedIsToldOrTakenAndNeverPassedOver) {
     constexpr unsigned seed = 22;
     std::mt19937 random(seed);
-    const std::vector<std::string> texts = {"", "0", "1.5", "-1", "Yes", "AGA7", "Gage", "MEASURED", "FT-3", "x;\"y\"",
-                                            "2 4", "North", "automatic", "9.9.9", "\xC3\xB1"};
+    const std::vector<std::string> texts = {"",     "0",     "1.5",       "-1",    "Yes",
+                                            "AGA7", "Gage",  "MEASURED",  "FT-3",  "x;\"y\"",
+                                            "2 4",  "North", "automatic", "9.9.9", "\xC3\xB1"};
     int refused = 0, taken = 0;
     for (int i = 0; i < 150; ++i) {
         Table table = Sound;
@@ -212,7 +232,8 @@ TEST_F(Tables, ACellThatIsChangedIsToldOrTakenAndNeverPassedOver) {
 
 TEST(Sheets, AreReadAsSpreadsheetsWriteThem) {
     Faults faults;
-    const Sheet sheet = ReadSheet("\xEF\xBB\xBFStation;Runs\r\n\r\n\"No;rth \"\"1\"\"\" ; 1\n\"a\r\nb\";2\r\n;;\r\n", faults);
+    const Sheet sheet =
+        ReadSheet("\xEF\xBB\xBFStation;Runs\r\n\r\n\"No;rth \"\"1\"\"\" ; 1\n\"a\r\nb\";2\r\n;;\r\n", faults);
     EXPECT_THAT(faults, IsEmpty());
     EXPECT_THAT(sheet.Titles, ElementsAre("Station", "Runs"));
     ASSERT_THAT(sheet.Rows, SizeIs(2));

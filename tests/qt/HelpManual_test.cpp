@@ -34,6 +34,7 @@ const std::map<std::string, std::vector<int>> helpNumbers = {
     {"MDetail", {4000}},
     {"frSGERG88", {7500}},
     {"FrCheckStations", {8000}},
+    {"FrPlanStations", {8100}},
 };
 
 } // namespace

@@ -10,8 +10,8 @@
 
 #include <map>
 
-// A table that says what a person chooses in the wizard gives the wizard's own bytes: held by the second account
-// of the file, for every method with every pair of the other choices.
+// A table that says what a person chooses in the wizard gives the wizard's own bytes: held by the second
+// account of the file, for every method with every pair of the other choices.
 namespace gfc::test::sweep {
 namespace {
 
@@ -43,7 +43,9 @@ std::vector<Row> RowsOf(const Choice& choice, const PlainFile& file) {
     std::vector<Row> rows;
     for (const int run : choice.Runs) {
         const std::string own = "Run" + std::to_string(run);
-        Row row = {{"Station", "north"}, {"Runs", std::to_string(run)}, {"Tags", "automatic"},
+        Row row = {{"Station", "north"},
+                   {"Runs", std::to_string(run)},
+                   {"Tags", "automatic"},
                    {"Compressible", file.Value(own, "Compressible")}};
         std::string section;
         for (const std::string& line : file.Lines()) {
@@ -55,7 +57,8 @@ std::vector<Row> RowsOf(const Choice& choice, const PlainFile& file) {
             if (section == own ? IsSaidOfRun(key) : IsSaidOfStation(section, key))
                 row.emplace_back(key, value);
         }
-        // The way through the windows takes the first pulse counter for each run; of itself a table would not.
+        // The way through the windows takes the first pulse counter for each run; of itself a table would
+        // not.
         if (choice.AGA7())
             row.emplace_back("GasPulseInputKDIOTag", FreeTags().Longs.front().Name);
         rows.push_back(std::move(row));
@@ -90,8 +93,8 @@ protected:
         plan::Faults faults;
         const auto applied =
             plan::PlanTable(table, Files, Library, Project,
-                            {.User = {}, .MayReplace = true, .Strictness = plan::Strictness::AsTheWindows}, faults,
-                            [](const std::string&) { return true; });
+                            {.User = {}, .MayReplace = true, .Strictness = plan::Strictness::AsTheWindows},
+                            faults, [](const std::string&) { return true; });
         for (const plan::Fault& fault : faults)
             ADD_FAILURE() << fault.Line();
         return applied.size() == 1 ? applied.front().Change.After : std::string();

@@ -32,26 +32,26 @@ void PutFaults(const plan::Faults& faults, bool json) {
     WriteJson(std::cout, {{"version", 1}, {"written", false}, {"faults", std::move(list)}});
 }
 
-void PutAsJson(const std::vector<Target>& targets, const std::vector<Result>& results) {
+void PutAsJson(const std::vector<plan::Checked>& targets, const std::vector<plan::Written>& results) {
     Json stations = Json::array();
     for (std::size_t i = 0; i < targets.size(); ++i) {
         Json station = {{"station", targets[i].Change.Station},
                         {"replaces", targets[i].Change.Before.has_value()}};
         if (i < results.size()) {
-            station["written"] = results[i].Written.Done;
-            station["reason"] = results[i].Written.Reason;
-            station["errors"] = audit::CountOf(results[i].Report.Findings, audit::Severity::Error);
-            station["warnings"] = audit::CountOf(results[i].Report.Findings, audit::Severity::Warning);
+            station["written"] = results[i].Done;
+            station["reason"] = results[i].Reason;
+            station["errors"] = audit::CountOf(targets[i].Report.Findings, audit::Severity::Error);
+            station["warnings"] = audit::CountOf(targets[i].Report.Findings, audit::Severity::Warning);
         }
         stations.push_back(std::move(station));
     }
     WriteJson(std::cout, {{"version", 1}, {"written", !results.empty()}, {"stations", std::move(stations)}});
 }
 
-void PutPreview(const std::vector<Target>& targets) {
-    for (const Target& target : targets)
+void PutPreview(const std::vector<plan::Checked>& targets) {
+    for (const plan::Checked& target : targets)
         std::cout << target.Change.Station << ": "
-                  << (!target.Change.Before                            ? "is configured"
+                  << (!target.Change.Before                          ? "is configured"
                       : *target.Change.Before == target.Change.After ? "stands already as the table says"
                                                                      : "is configured anew")
                   << "\n";
@@ -70,21 +70,18 @@ void Apply(Options options, Context context) {
     if (options.DespiteErrors)
         options.Apply.Strictness = plan::Strictness::AsTheWindows;
     plan::Faults faults;
-    auto applied = plan::PlanTable(table, context.Machine.Files, *open.Library, open.Project, options.Apply,
-                                   faults, [](const std::string&) { return true; });
+    const auto targets = plan::PlanTable(table, context.Machine.Files, *open.Library, open.Project,
+                                         options.Apply, faults, [](const std::string&) { return true; });
     if (!faults.empty()) {
         PutFaults(faults, options.Json);
         throw Failure(exitcode::Found, std::to_string(faults.size()) +
                                            (faults.size() == 1 ? " fault" : " faults") +
                                            " in the table; nothing was written.");
     }
-    std::vector<Target> targets;
-    for (plan::Applied& each : applied)
-        targets.push_back({std::move(each.Change), std::move(each.Tags)});
     if (options.Preview)
         return options.Json ? PutAsJson(targets, {}) : PutPreview(targets);
     const auto results = WriteAll(open, targets, options.Apply.User, context);
-    context.Status = CodeOf(results);
+    context.Status = CodeOf(targets, results);
     options.Json ? PutAsJson(targets, results) : PutResults(targets, results);
 }
 
@@ -121,7 +118,8 @@ void MakeTemplate(const TemplateOptions& options, Context context) {
 void AddApplyCommand(CLI::App& app, Context context) {
     auto options = std::make_shared<Options>();
     CLI::App* command = app.add_subcommand("apply", "Configure the stations of a table");
-    command->add_option("PLAN.csv", options->Plan, "The table; \"template\" makes one to start from")->required();
+    command->add_option("PLAN.csv", options->Plan, "The table; \"template\" makes one to start from")
+        ->required();
     command->add_flag("--preview", options->Preview, "Say what would be written, and write nothing");
     command->add_flag("--replace", options->Apply.MayReplace,
                       "Replace the configuration of a station that has one");
@@ -137,7 +135,8 @@ void AddApplyCommand(CLI::App& app, Context context) {
 
 void AddTemplateCommand(CLI::App& app, Context context) {
     auto options = std::make_shared<TemplateOptions>();
-    CLI::App* command = app.add_subcommand("template", "Make a table to start from out of configured stations");
+    CLI::App* command =
+        app.add_subcommand("template", "Make a table to start from out of configured stations");
     command->add_option("STATION", options->Stations, "Configured stations")->required();
     command
         ->add_option("--tags", options->Tags,

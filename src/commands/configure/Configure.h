@@ -16,26 +16,16 @@ void AddRebindCommand(CLI::App& app, Context context);
 void AddApplyCommand(CLI::App& app, Context context);
 void AddTemplateCommand(CLI::App& app, Context context);
 
-// A station whose file is to be written, with what its check needs.
-struct Target {
-    plan::Change Change;
-    project::TagList Tags;
-};
-
-// What came of one of them.
-struct Result {
-    plan::Written Written;
-    audit::StationReport Report; // of the file as it was to become
-};
-
 // Writes them one after the other and goes on where one fails: what was decided for the others still stands.
-[[nodiscard]] std::vector<Result> WriteAll(OpenProject& open, const std::vector<Target>& targets,
-                                           const std::string& user, Context context);
+[[nodiscard]] std::vector<plan::Written> WriteAll(OpenProject& open,
+                                                  const std::vector<plan::Checked>& targets,
+                                                  const std::string& user, Context context);
 
 // NotToBeHad where one was not written, Found where the check finds an error in one, else Clean.
-[[nodiscard]] int CodeOf(const std::vector<Result>& results);
+[[nodiscard]] int CodeOf(const std::vector<plan::Checked>& targets,
+                         const std::vector<plan::Written>& results);
 
 // For people: each station with what its check finds.
-void PutResults(const std::vector<Target>& targets, const std::vector<Result>& results);
+void PutResults(const std::vector<plan::Checked>& targets, const std::vector<plan::Written>& results);
 
 } // namespace gfc::commands

@@ -15,8 +15,9 @@ void Tell(std::string_view text) {
 namespace {
 
 int Main(int argc, const char* const* argv) {
-    CLI::App app("Writes the configurations of many stations of the open project from one of them, or from a table.",
-                 "gfc-configure");
+    CLI::App app(
+        "Writes the configurations of many stations of the open project from one of them, or from a table.",
+        "gfc-configure");
     app.footer("\"gfc-configure COMMAND --help\" explains a command. What does not fit is told as a whole, "
                "and then\n"
                "nothing is written; --preview writes nothing in any case.\n"

@@ -179,15 +179,17 @@ void Job::Preview() const {
 }
 
 void Job::Write() {
-    std::vector<Target> targets;
+    std::vector<plan::Checked> targets;
     std::vector<const Planned*> written;
     for (const Planned& planned : planned_)
         if (planned.Against.empty()) {
-            targets.push_back({plan::ChangeFor(open_.Project, *planned.From, planned.Plan), planned.Tags});
+            plan::Change change = plan::ChangeFor(open_.Project, *planned.From, planned.Plan);
+            auto report = plan::CheckOf(open_.Project, change, planned.Tags);
+            targets.push_back({std::move(change), std::move(report)});
             written.push_back(&planned);
         }
     const auto results = WriteAll(open_, targets, options_.User, context_);
-    context_.Status = CodeOf(results);
+    context_.Status = CodeOf(targets, results);
     if (!options_.Json) {
         for (const Planned& planned : planned_)
             if (!planned.Against.empty())
@@ -197,10 +199,10 @@ void Job::Write() {
     Json stations = Json::array();
     for (std::size_t i = 0; i < results.size(); ++i) {
         Json station = AsJson(*written[i]);
-        station["written"] = results[i].Written.Done;
-        station["reason"] = results[i].Written.Reason;
-        station["errors"] = audit::CountOf(results[i].Report.Findings, audit::Severity::Error);
-        station["warnings"] = audit::CountOf(results[i].Report.Findings, audit::Severity::Warning);
+        station["written"] = results[i].Done;
+        station["reason"] = results[i].Reason;
+        station["errors"] = audit::CountOf(targets[i].Report.Findings, audit::Severity::Error);
+        station["warnings"] = audit::CountOf(targets[i].Report.Findings, audit::Severity::Warning);
         stations.push_back(std::move(station));
     }
     WriteJson(std::cout, {{"version", 1}, {"written", true}, {"stations", std::move(stations)}});

@@ -22,38 +22,37 @@ std::unique_ptr<config::Recorder> RecorderFor([[maybe_unused]] platform::Machine
 
 } // namespace
 
-std::vector<Result> WriteAll(OpenProject& open, const std::vector<Target>& targets, const std::string& user,
-                             Context context) {
+std::vector<plan::Written> WriteAll(OpenProject& open, const std::vector<plan::Checked>& targets,
+                                    const std::string& user, Context context) {
     const auto recorder = RecorderFor(context.Machine);
     const plan::Writer writer{context.Machine.Files, *open.Library, *recorder, open.Project, user};
-    std::vector<Result> results;
-    for (const Target& target : targets)
-        results.push_back(
-            {plan::Write(writer, target.Change), plan::CheckOf(open.Project, target.Change, target.Tags)});
+    std::vector<plan::Written> results;
+    for (const plan::Checked& target : targets)
+        results.push_back(plan::Write(writer, target.Change));
     recorder->Settle();
     if (!recorder->Trouble().empty())
         Tell("what was written is not entered in the history. " + recorder->Trouble());
     return results;
 }
 
-int CodeOf(const std::vector<Result>& results) {
-    if (!std::ranges::all_of(results, [](const Result& result) { return result.Written.Done; }))
+int CodeOf(const std::vector<plan::Checked>& targets, const std::vector<plan::Written>& results) {
+    if (!std::ranges::all_of(results, &plan::Written::Done))
         return exitcode::NotToBeHad;
-    const bool sound = std::ranges::all_of(results, [](const Result& result) {
-        return audit::CountOf(result.Report.Findings, audit::Severity::Error) == 0;
+    const bool sound = std::ranges::all_of(targets, [](const plan::Checked& target) {
+        return audit::CountOf(target.Report.Findings, audit::Severity::Error) == 0;
     });
     return sound ? exitcode::Clean : exitcode::Found;
 }
 
-void PutResults(const std::vector<Target>& targets, const std::vector<Result>& results) {
+void PutResults(const std::vector<plan::Checked>& targets, const std::vector<plan::Written>& results) {
     const auto listing = MakeTextListing(std::cout, audit::Severity::Warning);
     std::size_t written = 0;
     for (std::size_t i = 0; i < targets.size(); ++i) {
-        if (results[i].Written.Done) {
-            listing->Put(results[i].Report);
+        if (results[i].Done) {
+            listing->Put(targets[i].Report);
             ++written;
         } else {
-            Tell(targets[i].Change.Station + ": not written. " + results[i].Written.Reason);
+            Tell(targets[i].Change.Station + ": not written. " + results[i].Reason);
         }
     }
     std::cout << "\n"

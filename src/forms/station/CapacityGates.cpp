@@ -12,8 +12,7 @@ using project::ShortageKind;
 
 // The verdict, after the message of the shortage where it is one.
 int Judge(Program& program, const project::RunNeed* need) {
-    if (need == nullptr ||
-        Fits(CapacityOf(program.Session), *need, program.Session.Station.ActiveRunCount))
+    if (need == nullptr || Fits(CapacityOf(program.Session), *need, program.Session.Station.ActiveRunCount))
         return 0;
     ReportIOShortage(program, need->AGA7 ? ShortageKind::AGA7 : ShortageKind::AGA3Family);
     return need->Verdict;

@@ -30,6 +30,9 @@ public:
     void Release();
 
 private:
+    // Of a row that the list marks; none for another.
+    [[nodiscard]] QVariant ColourOf(int row) const;
+
     const ui::ListView* list_;
     int rows_ = 0;
     int columns_ = 0;
