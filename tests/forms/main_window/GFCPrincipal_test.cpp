@@ -70,12 +70,27 @@ TEST_F(MainWindow, menu_has_its_entries_in_order) {
         if (control->TheKind() == ui::Kind::MenuEntry)
             captions.push_back((control->Container() == nullptr ? "" : control->Container()->Name() + ">") +
                                control->Caption());
-    EXPECT_EQ(captions, (Names{"&Menu", "Config>Configuration  Wizard", "Config>-", "Config>Configure",
-                               "Config>-", "Config>Run", "optRun>Enable run", "optRun>Disable run",
-                               "Config>-", "Config>Copy to", "copiar>Configuration to another station",
-                               "copiar>Configuration to a different project", "Config>-", "Config>Delete",
-                               "Config>-", "Config>Exit", "&Tools", "Tools>Check all stations...",
-                               "Tools>Copy to several stations...", "Tools>Bind anew...", "&Help"}));
+    EXPECT_EQ(captions, (Names{"&Menu",
+                               "Config>Configuration  Wizard",
+                               "Config>-",
+                               "Config>Configure",
+                               "Config>-",
+                               "Config>Run",
+                               "optRun>Enable run",
+                               "optRun>Disable run",
+                               "Config>-",
+                               "Config>Copy to",
+                               "copiar>Configuration to another station",
+                               "copiar>Configuration to a different project",
+                               "Config>-",
+                               "Config>Delete",
+                               "Config>-",
+                               "Config>Exit",
+                               "&Tools",
+                               "Tools>Check all stations...",
+                               "Tools>Copy to several stations...",
+                               "Tools>Bind anew...",
+                               "&Help"}));
 }
 
 TEST_F(MainWindow, menu_pictures_are_attached_by_place) {
