@@ -70,7 +70,7 @@ std::optional<Shift> ShiftVotes::Best(std::size_t numbers) const {
     const std::pair<const Shift, Votes>* best = nullptr;
     for (const auto& vote : votes_)
         if (vote.first.size() == numbers && vote.first != Shift(numbers) &&
-            (best == nullptr || vote.second > best->second))
+            (best == nullptr || vote.second.Together() > best->second.Together()))
             best = &vote;
     return best == nullptr ? std::nullopt : std::optional(best->first);
 }
@@ -81,14 +81,16 @@ int ShiftVotes::VotesFor(const Shift& shift) const {
 
 bool ShiftVotes::IsClear(const Shift& shift) const {
     const Votes votes = Of(shift);
+    constexpr double nearly = 0.75;
     return votes.Names > 1 && std::ranges::count_if(votes_, [&](const auto& vote) {
-                                  return vote.first.size() == shift.size() && vote.second >= votes;
+                                  return vote.first.size() == shift.size() &&
+                                         vote.second.Together() > nearly * votes.Together();
                               }) == 1;
 }
 
 bool ShiftVotes::IsBetterThanNone(std::size_t numbers) const {
     const auto best = Best(numbers);
-    return best && VotesFor(*best) > VotesFor(Shift(numbers));
+    return best && Of(*best).Together() > Of(Shift(numbers)).Together();
 }
 
 std::string TextOf(const NumberedName& from, const NumberedName& to) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -29,12 +28,13 @@ class ShiftVotes {
 public:
     // A name and one that it may be, and whether both stand at the same register.
     void Add(const Shift& shift, bool atSameRegister);
-    // Of those with as many votes the one with more registers alike, and then the lowest: the first run of a
-    // station goes to the first of a larger one. Nothing where none has a vote but the one that leaves all
-    // numbers as they are.
+    // Names and registers that are alike count the same: where names are mere numbers, one tag that is
+    // missing would let every shift but the right one explain more names. Of those that are as good it is the
+    // lowest: the first run of a station goes to the first of a larger one. Nothing where none has a vote but
+    // the one that leaves all numbers as they are.
     [[nodiscard]] std::optional<Shift> Best(std::size_t numbers) const;
     [[nodiscard]] int VotesFor(const Shift& shift) const;
-    // More than one pair has it, and no other shift is as good.
+    // More than one pair has it, and no other shift is nearly as good.
     [[nodiscard]] bool IsClear(const Shift& shift) const;
     // More names are explained by it than by leaving them as they are.
     [[nodiscard]] bool IsBetterThanNone(std::size_t numbers) const;
@@ -43,7 +43,7 @@ private:
     struct Votes {
         int Names = 0;
         int Registers = 0;
-        auto operator<=>(const Votes&) const = default;
+        [[nodiscard]] int Together() const { return Names + Registers; }
     };
     [[nodiscard]] Votes Of(const Shift& shift) const;
 

@@ -90,8 +90,9 @@ same "a faulty table writes nothing"
 configure 2 "cannot be read" apply "$work/nowhere.csv"
 configure 2 "not configured" template Valve_Site_12
 "$bin/gfc-configure" template $source --tags suggested | sed "s/^\(\xEF\xBB\xBF\)\?$source/Northgate_Custody/" >"$work/new.csv"
-configure 0 "Northgate_Custody: is configured" apply "$work/new.csv" --preview
-expect gfc-audit 0 "Apply plan" history Twin_3
+configure 1 "What is suggested is not sure: FI-201_VOL" apply "$work/new.csv" --preview
+configure 0 "2 of 2 stations written" apply "$work/plan.csv" --replace --user 99
+expect gfc-audit 0 "Twin_3  Apply plan  99" history Twin_3
 
 # Without --rebind it is the file itself, and the check says what it lacks.
 configure 1 "tag-not-found" copy $source Eastfield_Meter

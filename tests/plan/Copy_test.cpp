@@ -166,6 +166,23 @@ TEST_F(Copying, ATagThatIsNotThereIsMissingAndNoOtherStepsIn) {
     EXPECT_THAT(ChangeFor(World.Project, source, plan).After, HasSubstr("AGA3StatusKDIOTag=\r\n"));
 }
 
+// Where names are mere numbers, each shift that leaves the gap out would explain one name more.
+TEST_F(Copying, ATagThatIsMissingDoesNotShiftTheOthers) {
+    for (const bool shifted : {false, true}) {
+        auto tags = World.Library.TagsOf["North"];
+        std::erase_if(tags, [](const project::Tag& tag) { return tag.TagName == "FT-3"; });
+        for (project::Tag& tag : tags)
+            if (shifted)
+                tag.TagName = WithRunNumbers(tag.TagName, 2000);
+        const Source source = World.SourceOf("North");
+        World.Library.TagsOf["West"] = tags;
+        const StationPlan plan = World.PlanFor(source, "West");
+        EXPECT_EQ(LineOf(plan, "FT-1").Proposed.Tag, shifted ? "FT-2001" : "FT-1");
+        EXPECT_TRUE(LineOf(plan, "FT-1").IsSure);
+        EXPECT_FALSE(LineOf(plan, "FT-3").IsSure);
+    }
+}
+
 TEST_F(Copying, WhatIsRenamedInTheOwnStationIsFoundByItsRegister) {
     TagNamed("North", "FT-1").TagName = "TT-77";
     project::Tag& moved = TagNamed("North", "FT-2");
