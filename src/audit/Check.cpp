@@ -4,6 +4,7 @@
 #include "audit/Plausible.h"
 #include "audit/Subject.h"
 #include "platform/Files.h"
+#include "project/TagsMark.h"
 #include "services/Text.h"
 
 #include <algorithm>
@@ -62,7 +63,8 @@ std::string StationReport::FileName() const {
 }
 
 StationReport CheckFile(platform::Files& files, const Whose& whose, std::optional<project::TagList> tags) {
-    StationReport report{whose.Station, whose.File, false, {}};
+    StationReport report{.Station = whose.Station, .File = whose.File};
+    report.TagsMark = tags ? project::MarkOf(*tags) : 0;
     auto bytes = whose.File.empty() ? std::nullopt : files.Read(whose.File);
     report.Configured = bytes.has_value() || (!whose.File.empty() && files.Exists(whose.File));
     if (bytes)
@@ -80,7 +82,7 @@ StationReport CheckStation(platform::Files& files, project::AddOnLibrary& librar
                            const project::Project& project, const std::string& station) {
     const Whose whose{project.ConfigFileOf(station), project.ProjectFile, project.ProjectName, station};
     if (whose.File.empty() || !files.Exists(whose.File))
-        return {station, whose.File, false, {}};
+        return {.Station = station, .File = whose.File};
     return CheckFile(files, whose, library.ReadTags(station, project.ProjectFile, {}));
 }
 
@@ -131,7 +133,9 @@ StationReport ProjectPlant::Check(std::size_t station) const {
         return CheckStation(files_, library_, project_, stations_[station]);
     const std::string folder = platform::ParentFolder(project_.ProjectFile);
     const std::string name = NameOf(station);
-    StationReport report{name, InFolder(folder, orphans_.at(station - stations_.size())), true, {}};
+    StationReport report{.Station = name,
+                         .File = InFolder(folder, orphans_.at(station - stations_.size())),
+                         .Configured = true};
     Sink(report.Findings).Add(RuleId::StationUnknown, {}, {name});
     return report;
 }

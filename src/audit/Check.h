@@ -15,9 +15,10 @@ namespace gfc::audit {
 
 struct StationReport {
     std::string Station;
-    std::string File;        // full path; empty where the station can have no file
-    bool Configured = false; // its file is there
-    audit::Findings Findings;
+    std::string File;         // full path; empty where the station can have no file
+    bool Configured = false;  // its file is there
+    std::size_t TagsMark = 0; // project::MarkOf the tags that it was held against; 0 for none
+    audit::Findings Findings = {};
 
     // As the text of its kind stands in the file's name.
     [[nodiscard]] std::string FileName() const;

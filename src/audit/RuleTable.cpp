@@ -20,7 +20,9 @@ constexpr std::string_view AGA3 = "AGA Report No. 3, Part 1 (API MPMS 14.3.1), 1
 constexpr std::string_view ISO5167 = "ISO 5167-2:2003, 5.3.1, whose limits GB/T 21446-2008 shares";
 constexpr std::string_view AGA8Normal = "AGA Report No. 8, 1992 and 1994, table 1, normal range";
 constexpr std::string_view AGA8Expanded = "AGA Report No. 8, 1992 and 1994, table 1, expanded range";
-constexpr std::string_view ISO2Pipeline = "ISO 12213-2:1997, 4.4.1, pipeline quality gas";
+constexpr std::string_view ISO2Pipeline =
+    "ISO 12213-2:1997, 4.4.1, pipeline quality gas; hydrogen sulfide, oxygen and argon are held against "
+    "AGA-8's expanded range alone";
 constexpr std::string_view ISO2Wider = "ISO 12213-2:1997, 4.4.2, wider ranges";
 constexpr std::string_view ISO3Pipeline = "ISO 12213-3:1997, 4.4.1, pipeline quality gas";
 constexpr std::string_view ISO3Wider = "ISO 12213-3:1997, 4.4.2, wider ranges";

@@ -90,9 +90,11 @@ public:
     // Once the record has done what it was handed, says in the status bar if that could not be written; of
     // the same trouble once only.
     void WatchRecord();
-    // Whether the last check found errors in the station's file. The mark stays in the tree until the file is
-    // another one.
-    void MarkChecked(const std::string& station, bool hasErrors);
+    // Whether the check found errors in the station's file, held against tags of that mark. The station bears
+    // a mark in the tree until the file is another one, or the tags are as far as the program learns of it.
+    void MarkChecked(const std::string& station, bool hasErrors, std::size_t tagsMark);
+    // The library has answered for the station's tags.
+    void TagsAnswered(const std::string& station, const project::TagList& tags);
     // Selects the node of the station, or of its run (1 to 5), as a click does; nothing happens where there
     // is none.
     void GoTo(const std::string& station, int run);
@@ -144,6 +146,7 @@ private:
     void HidePanes();
     void ShowStations(const std::string& statusText);
     void OpenStationRow(int row);
+    void ShowMark(const std::string& station, bool hasErrors);
     // The project, how much of it is configured, and where the last check found errors.
     void ShowOverview();
     void PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden);
@@ -154,8 +157,12 @@ private:
     SummaryTabs summary_{*this, program_};
     bool listShowsStations_ = false;
     std::string toldTrouble_; // of the record
-    // The files, as they are, in which the last check found errors, by station.
-    std::map<std::string, std::string> faulty_;
+    // What the last check found errors in, as it was then.
+    struct Faulty {
+        std::string File; // its bytes
+        std::size_t TagsMark = 0;
+    };
+    std::map<std::string, Faulty> faulty_; // by station
     int exitCode_ = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "forms/main_window/StationNodes.h"
 #include "platform/Machine.h"
 #include "platform/ProfileKeys.h"
+#include "project/TagsMark.h"
 
 #include <algorithm>
 #include <array>
@@ -125,18 +126,30 @@ const char* GFCPrincipal::ConfiguredImage(const std::string& station) {
     const auto checked = faulty_.find(station);
     if (checked == faulty_.end())
         return "StationConfig";
-    if (program_.Machine.Files.Read(session_.Project.ConfigFileOf(station)) == checked->second)
+    if (program_.Machine.Files.Read(session_.Project.ConfigFileOf(station)) == checked->second.File)
         return "StationErrors";
     faulty_.erase(checked);
     return "StationConfig";
 }
 
-void GFCPrincipal::MarkChecked(const std::string& station, bool hasErrors) {
-    const int found = TreeGFC.FindPath(node::StationPath(station));
+void GFCPrincipal::MarkChecked(const std::string& station, bool hasErrors, std::size_t tagsMark) {
     auto bytes = program_.Machine.Files.Read(session_.Project.ConfigFileOf(station));
     faulty_.erase(station);
     if (hasErrors && bytes)
-        faulty_.emplace(station, *std::move(bytes));
+        faulty_.emplace(station, Faulty{*std::move(bytes), tagsMark});
+    ShowMark(station, hasErrors);
+}
+
+void GFCPrincipal::TagsAnswered(const std::string& station, const project::TagList& tags) {
+    const auto checked = faulty_.find(station);
+    if (checked == faulty_.end() || project::MarkOf(tags) == checked->second.TagsMark)
+        return;
+    faulty_.erase(checked);
+    ShowMark(station, false);
+}
+
+void GFCPrincipal::ShowMark(const std::string& station, bool hasErrors) {
+    const int found = TreeGFC.FindPath(node::StationPath(station));
     if (found > 0 && TreeGFC.At(found).Image != NoConfigImage)
         TreeGFC.SetImage(found, hasErrors ? "StationErrors" : "StationConfig");
     ShowOverview();

@@ -18,7 +18,8 @@ constexpr int tagsPerRepaint = 512;
 
 project::TagList LoadStationTags(Program& program) {
     const auto& session = program.Session;
-    auto& bar = program.Forms.Get<GFCPrincipal>().StatusBar1;
+    auto& window = program.Forms.Get<GFCPrincipal>();
+    auto& bar = window.StatusBar1;
     program.Screen.DoEvents();
     std::string copied; // the tag that was copied last
     int count = 0;
@@ -34,6 +35,7 @@ project::TagList LoadStationTags(Program& program) {
         program.Screen.DoEvents();
     };
     auto tags = program.Library.ReadTags(session.Station.CurrentStation, session.Project.ProjectFile, onTag);
+    window.TagsAnswered(session.Station.CurrentStation, tags);
     if (count > 0)
         show();
     program.Screen.DoEvents();

@@ -84,7 +84,8 @@ void FrCheckStations::End(const std::string& how) {
     if (program_.Forms.IsLoaded<GFCPrincipal>())
         for (const auto& report : reports_)
             program_.Forms.Get<GFCPrincipal>().MarkChecked(
-                report->Station, audit::CountOf(report->Findings, audit::Severity::Error) > 0);
+                report->Station, audit::CountOf(report->Findings, audit::Severity::Error) > 0,
+                report->TagsMark);
 }
 
 void FrCheckStations::ShowProgress(const std::string& lead) {

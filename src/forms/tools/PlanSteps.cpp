@@ -127,7 +127,7 @@ void FrPlanStations::WriteNext(Item& item) {
         item.IsEdited = false;
         if (program_.Forms.IsLoaded<GFCPrincipal>())
             program_.Forms.Get<GFCPrincipal>().MarkChecked(
-                item.Station, audit::CountOf(report.Findings, audit::Severity::Error) > 0);
+                item.Station, audit::CountOf(report.Findings, audit::Severity::Error) > 0, report.TagsMark);
     }
     ShowItem(static_cast<std::size_t>(&item - items_.data()));
     if (program_.Forms.IsLoaded<GFCPrincipal>())

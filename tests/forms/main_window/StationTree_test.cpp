@@ -1,4 +1,5 @@
 #include "forms/main_window/GFCPrincipal.h"
+#include "project/TagsMark.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -246,11 +247,29 @@ TEST_F(StationTree, the_status_bar_says_how_much_of_the_project_is_configured) {
     Configure("North", "");
     TheStory.Check([&](Driver&) {
         EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 2 stations configured");
-        Window().MarkChecked("North", true);
+        Window().MarkChecked("North", true, 0);
         EXPECT_EQ(Window().StatusBar1.PanelText(2),
                   "plant: 1 of 2 stations configured, 1 with errors at the last check");
-        Window().MarkChecked("North", false);
+        Window().MarkChecked("North", false, 0);
         EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 2 stations configured");
+    });
+    Play();
+}
+
+TEST_F(StationTree, the_mark_of_a_check_goes_as_soon_as_the_tags_are_known_to_be_others) {
+    const project::TagList tags = {{"PIT-101", 7, "FX", "VF1", "Virtual Module"}};
+    AddStation("North", tags);
+    Configure("North", "");
+    TheStory.Check([&](Driver&) {
+        const std::string path = "All Stations\\North";
+        Window().MarkChecked("North", true, project::MarkOf(tags));
+        Window().TagsAnswered("North", tags);
+        EXPECT_EQ(At(path).Image, "StationErrors");
+        auto moved = tags;
+        moved.front().RegAddr = 8;
+        Window().TagsAnswered("North", moved);
+        EXPECT_EQ(At(path).Image, "StationConfig");
+        EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 1 stations configured");
     });
     Play();
 }
