@@ -24,6 +24,10 @@ public:
     virtual void Select(const std::string& form, const std::string& list, int index) = 0;
     virtual void SelectTab(const std::string& form, const std::string& pane, int tab) = 0;
     virtual void ClickRow(const std::string& form, const std::string& list, int row) = 0;
+    // Double-clicks a row, or presses Enter on it.
+    virtual void OpenRow(const std::string& form, const std::string& list, int row) = 0;
+    // Presses the check box of a row.
+    virtual void MarkRow(const std::string& form, const std::string& list, int row) = 0;
     // path: the node's texts from the root down, joined by backslashes.
     virtual void ClickNode(const std::string& form, const std::string& tree, const std::string& path) = 0;
     virtual void RightClickNode(const std::string& form, const std::string& tree,

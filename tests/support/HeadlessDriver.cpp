@@ -3,6 +3,7 @@
 #include "services/Utf8.h"
 #include "support/HeadlessScreen.h"
 #include "ui/Buttons.h"
+#include "ui/CheckableList.h"
 #include "ui/DropDownList.h"
 #include "ui/Furniture.h"
 #include "ui/ListView.h"
@@ -152,6 +153,18 @@ void HeadlessDriver::SelectTab(const std::string& form, const std::string& pane,
 void HeadlessDriver::ClickRow(const std::string& form, const std::string& list, int row) {
     if (auto* found = Of<ui::ListView>(form, list)) {
         EXPECT_TRUE(found->PersonClicksRow(row)) << form << "." << list << " row " << row;
+    }
+}
+
+void HeadlessDriver::OpenRow(const std::string& form, const std::string& list, int row) {
+    if (auto* found = Of<ui::OpenableList>(form, list)) {
+        EXPECT_TRUE(found->PersonOpensRow(row)) << form << "." << list << " row " << row;
+    }
+}
+
+void HeadlessDriver::MarkRow(const std::string& form, const std::string& list, int row) {
+    if (auto* found = Of<ui::CheckableList>(form, list)) {
+        EXPECT_TRUE(found->PersonMarksRow(row)) << form << "." << list << " row " << row;
     }
 }
 

@@ -18,6 +18,8 @@ public:
     void Select(const std::string& form, const std::string& list, int index) override;
     void SelectTab(const std::string& form, const std::string& pane, int tab) override;
     void ClickRow(const std::string& form, const std::string& list, int row) override;
+    void OpenRow(const std::string& form, const std::string& list, int row) override;
+    void MarkRow(const std::string& form, const std::string& list, int row) override;
     void ClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
     void RightClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
     void Menu(const std::string& form, const std::string& entry) override;

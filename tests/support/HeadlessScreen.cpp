@@ -80,9 +80,18 @@ ui::Answer HeadlessScreen::Ask(const ui::Box& box) {
 
 std::optional<std::string> HeadlessScreen::ChooseFile(const ui::FileChoice& choice) {
     FileChoices.push_back(choice);
+    return ChosenPath(choice.Title);
+}
+
+std::optional<std::string> HeadlessScreen::ChooseTarget(const ui::TargetChoice& choice) {
+    TargetChoices.push_back(choice);
+    return ChosenPath(choice.Title);
+}
+
+std::optional<std::string> HeadlessScreen::ChosenPath(const std::string& title) {
     const auto* next = TheStory.Peek();
     if (next == nullptr || !std::holds_alternative<ExpectedFileChoice>(*next)) {
-        ADD_FAILURE() << "nobody expected the file choice '" << choice.Title << "'";
+        ADD_FAILURE() << "nobody expected the file choice '" << title << "'";
         return std::nullopt;
     }
     return std::get<ExpectedFileChoice>(TheStory.Take()).Path;

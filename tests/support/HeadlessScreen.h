@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Story.h"
+#include "ui/Exchange.h"
 #include "ui/Form.h"
 #include "ui/Screen.h"
 
@@ -14,7 +15,7 @@ namespace gfc::test {
 
 // The program's other window: forms are shown to the story instead of to a person. A question that the story
 // does not expect, a modal form that nobody leaves, and steps left over are failures.
-class HeadlessScreen : public ui::Screen {
+class HeadlessScreen : public ui::Screen, public ui::Exchange {
 public:
     HeadlessScreen();
     ~HeadlessScreen() override;
@@ -32,6 +33,8 @@ public:
     std::vector<std::pair<std::string, ui::WindowState>> TextsViewed;
     std::vector<ui::Box> BoxesShown;
     std::vector<ui::FileChoice> FileChoices;
+    std::vector<ui::TargetChoice> TargetChoices;
+    std::string Copied;                  // what was copied last
     std::vector<std::string> Prompts;    // the texts above the fields
     std::vector<std::string> FormsShown; // names in the order of showing
     ui::MenuEntry* LastPopUp = nullptr;
@@ -53,6 +56,9 @@ public:
     void Discard(ui::Form& form) override;
     ui::Answer Ask(const ui::Box& box) override;
     std::optional<std::string> ChooseFile(const ui::FileChoice& choice) override;
+    // Answered by the story as a choice of a file is.
+    std::optional<std::string> ChooseTarget(const ui::TargetChoice& choice) override;
+    void CopyText(const std::string& text) override { Copied = text; }
     std::string AskText(const std::string& title, const std::string& prompt) override;
     void PopUp(ui::MenuEntry& menu) override { LastPopUp = &menu; }
     void OpenHelp(const std::string& file, int context) override { HelpOpened.emplace_back(file, context); }
@@ -66,6 +72,7 @@ public:
 private:
     // False if there was no step to take.
     bool TakeStep();
+    std::optional<std::string> ChosenPath(const std::string& title);
     void Note(ui::Form& form);
 
     std::unique_ptr<Driver> driver_;

@@ -75,6 +75,14 @@ Story& Story::ClickRow(const std::string& form, const std::string& list, int row
     return Do("click row of " + Of(form, list), [=](Driver& d) { d.ClickRow(form, list, row); });
 }
 
+Story& Story::OpenRow(const std::string& form, const std::string& list, int row) {
+    return Do("open row of " + Of(form, list), [=](Driver& d) { d.OpenRow(form, list, row); });
+}
+
+Story& Story::MarkRow(const std::string& form, const std::string& list, int row) {
+    return Do("mark row of " + Of(form, list), [=](Driver& d) { d.MarkRow(form, list, row); });
+}
+
 Story& Story::ClickNode(const std::string& form, const std::string& tree, const std::string& path) {
     return Do("click node " + path + " of " + Of(form, tree),
               [=](Driver& d) { d.ClickNode(form, tree, path); });

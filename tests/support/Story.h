@@ -53,6 +53,8 @@ public:
     Story& Select(const std::string& form, const std::string& list, int index);
     Story& SelectTab(const std::string& form, const std::string& pane, int tab);
     Story& ClickRow(const std::string& form, const std::string& list, int row);
+    Story& OpenRow(const std::string& form, const std::string& list, int row);
+    Story& MarkRow(const std::string& form, const std::string& list, int row);
     Story& ClickNode(const std::string& form, const std::string& tree, const std::string& path);
     Story& RightClickNode(const std::string& form, const std::string& tree, const std::string& path);
     Story& Menu(const std::string& form, const std::string& entry);

@@ -3,7 +3,7 @@
 #include "qt/render/Renderers.h"
 #include "qt/render/RowsModel.h"
 #include "qt/render/ViewRenderer.h"
-#include "ui/OpenableList.h"
+#include "ui/CheckableList.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -22,14 +22,12 @@ constexpr int measuredRows = 200;
 class ListViewRenderer final : public ViewRenderer<ui::ListView, QTableView>, private ui::RowsObserver {
 public:
     ListViewRenderer(FormWindow& window, ui::ListView& control, QTableView& widget)
-        : ViewRenderer(window, control, widget), model_(control) {
+        : ViewRenderer(window, control, widget), openable_(dynamic_cast<ui::OpenableList*>(&control)),
+          checkable_(dynamic_cast<ui::CheckableList*>(&control)), model_(control, checkable_ != nullptr) {
         SetUpView();
         // The list may have been filled before its window came to be.
         SetWidths();
         control.SetRowsObserver(this);
-        if (auto* openable = dynamic_cast<ui::OpenableList*>(&control))
-            QObject::connect(&widget, &QTableView::activated, this,
-                             [openable](const QModelIndex& at) { openable->PersonOpensRow(at.row() + 1); });
     }
     ~ListViewRenderer() override { widget_.setModel(nullptr); }
 
@@ -82,12 +80,39 @@ private:
     }
     [[nodiscard]] int Selected() const override { return control_.SelectedRow(); }
     void ClickItem(int row) override { (void)control_.PersonClicksRow(row); }
+    void OpenItem(int row) override {
+        openable_ == nullptr ? ClickItem(row) : void(openable_->PersonOpensRow(row));
+    }
 
-    // The second button takes the row before it opens its menu.
+    // The whole cell is the box, so that nobody has to aim. The second press of a double click opens the row,
+    // and is one more on a box. The second button takes the row before it opens its menu.
     void TakePress(QMouseEvent& event) override {
+        const QModelIndex at = widget_.indexAt(event.position().toPoint());
+        const int row = at.isValid() ? ItemAt(at) : 0;
+        const bool left = event.button() == Qt::LeftButton;
+        const bool onBox = checkable_ != nullptr && at.column() == 0 && left;
+        const bool twice = event.type() == QEvent::MouseButtonDblClick && left;
         ViewRenderer::TakePress(event);
         if (event.button() == Qt::RightButton)
-            AskForMenu();
+            return AskForMenu();
+        if (row == 0 || window_.Form() == nullptr || Selected() != row)
+            return;
+        if (onBox)
+            MarkItem(row);
+        else if (twice && openable_ != nullptr)
+            Open(row);
+    }
+
+    bool TakeOwnKey(QKeyEvent& key) override {
+        if (checkable_ == nullptr || key.key() != Qt::Key_Space)
+            return false;
+        if (const int row = Selected(); row > 0)
+            MarkItem(row);
+        return true;
+    }
+
+    void MarkItem(int row) {
+        Act([this, row] { (void)checkable_->PersonMarksRow(row); });
     }
 
     // The keyboard's way to what the second mouse button does.
@@ -139,6 +164,8 @@ private:
         return std::max(widget_.horizontalHeader()->sectionSizeHint(column), asked + 2 * letter);
     }
 
+    ui::OpenableList* openable_;   // null for a table whose rows lead nowhere
+    ui::CheckableList* checkable_; // null for one whose rows cannot be marked
     RowsModel model_;
 };
 

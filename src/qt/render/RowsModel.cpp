@@ -2,7 +2,7 @@
 
 #include "qt/Texts.h"
 #include "qt/render/ItemRole.h"
-#include "ui/OpenableList.h"
+#include "ui/CheckableList.h"
 
 #include <QColor>
 #include <QGuiApplication>
@@ -34,18 +34,29 @@ int RowsModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : columns_;
 }
 
+Qt::ItemFlags RowsModel::flags(const QModelIndex& index) const {
+    const auto flags = QAbstractTableModel::flags(index);
+    return marks_ && index.isValid() && index.column() == 0 ? flags | Qt::ItemIsUserCheckable : flags;
+}
+
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != ItemRole && role != Qt::ForegroundRole)
-        return {};
     const int row = RowOf(index);
     if (row == 0)
         return {};
+    if (marks_ && index.column() == 0 && role != ItemRole)
+        return role == Qt::CheckStateRole ? QVariant(MarkOf(row)) : QVariant();
     if (role == Qt::ForegroundRole)
         return ColourOf(row);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole && role != ItemRole)
+        return {};
     if (role == ItemRole)
         return row;
     const std::string hint = role == Qt::ToolTipRole && list_->HintOf ? list_->HintOf(row) : std::string();
     return ToQt(hint.empty() ? list_->Cell(row, index.column()) : hint);
+}
+
+Qt::CheckState RowsModel::MarkOf(int row) const {
+    return list_->Cell(row, 0) == ui::CheckableList::Mark ? Qt::Checked : Qt::Unchecked;
 }
 
 int RowsModel::RowOf(const QModelIndex& at) const {

@@ -10,10 +10,14 @@ namespace gfc::qt {
 // of a change after it has made it, so the number of rows that the view knows of is kept here.
 class RowsModel final : public QAbstractTableModel {
 public:
-    explicit RowsModel(const ui::ListView& list) : list_(&list) { Reset(); }
+    // With marks the first column is one of check boxes.
+    explicit RowsModel(const ui::ListView& list, bool marks = false) : list_(&list), marks_(marks) {
+        Reset();
+    }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
@@ -32,8 +36,10 @@ public:
 private:
     // Of a row that the list marks; none for another.
     [[nodiscard]] QVariant ColourOf(int row) const;
+    [[nodiscard]] Qt::CheckState MarkOf(int row) const;
 
     const ui::ListView* list_;
+    bool marks_;
     int rows_ = 0;
     int columns_ = 0;
 };

@@ -48,6 +48,10 @@ protected:
     [[nodiscard]] virtual QModelIndex IndexOf(int item) const = 0;
     [[nodiscard]] virtual int Selected() const = 0;
     virtual void ClickItem(int item) = 0;
+    // Enter on an item, or a double click.
+    virtual void OpenItem(int item) { ClickItem(item); }
+    // A key of its own, before the view sees it; false for one that it does not know.
+    virtual bool TakeOwnKey(QKeyEvent&) { return false; }
 
     // To be called once the view has its model.
     void FollowPerson() {
@@ -64,6 +68,9 @@ protected:
 
     void Click(int item) {
         this->Act([this, item] { ClickItem(item); });
+    }
+    void Open(int item) {
+        this->Act([this, item] { OpenItem(item); });
     }
 
     // A press of the first or the second button, the second press of a double click too.
@@ -143,6 +150,8 @@ private:
             return true;
         if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter)
             return TakeEnter();
+        if (TakeOwnKey(key))
+            return true;
         Pass(widget_, key);
         Follow();
         return true;
@@ -153,7 +162,7 @@ private:
     bool TakeEnter() {
         const int item = Selected() > 0 ? Selected() : ItemAt(widget_.model()->index(0, 0));
         if (item > 0)
-            Click(item);
+            Open(item);
         return item > 0;
     }
 

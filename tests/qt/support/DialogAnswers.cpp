@@ -46,7 +46,8 @@ void Answer(WindowDriver& hands, QFileDialog& dialog, const ExpectedFileChoice& 
     // The files of a test are not on this machine's disk.
     dialog.setFileMode(QFileDialog::AnyFile);
     hands.Fill(*dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit")), *expected.Path);
-    Press(hands, dialog, QDialogButtonBox::Open);
+    Press(hands, dialog,
+          dialog.acceptMode() == QFileDialog::AcceptSave ? QDialogButtonBox::Save : QDialogButtonBox::Open);
 }
 
 void Answer(WindowDriver& hands, QInputDialog& dialog, const ExpectedPrompt& expected) {

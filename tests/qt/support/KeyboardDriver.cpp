@@ -214,9 +214,26 @@ void KeyboardDriver::ClickRow(const std::string& form, const std::string& list, 
     EXPECT_LE(row, view->model()->rowCount()) << form << "." << list;
     if (view->currentIndex().row() == row - 1)
         return Stroke(Qt::Key_Return);
+    GoToRow(form, list, row);
+}
+
+void KeyboardDriver::GoToRow(const std::string& form, const std::string& list, int row) {
+    const QPointer<QTableView> view = Usable<QTableView>(form, list);
+    if (view == nullptr || !Enter(*view) || view->currentIndex().row() == row - 1)
+        return;
     Stroke(Qt::CTRL | Qt::Key_Home);
     while (view != nullptr && view->currentIndex().row() + 1 < std::min(row, view->model()->rowCount()))
         Stroke(Qt::Key_Down);
+}
+
+void KeyboardDriver::OpenRow(const std::string& form, const std::string& list, int row) {
+    GoToRow(form, list, row);
+    Stroke(Qt::Key_Return);
+}
+
+void KeyboardDriver::MarkRow(const std::string& form, const std::string& list, int row) {
+    GoToRow(form, list, row);
+    Stroke(Qt::Key_Space);
 }
 
 void KeyboardDriver::ClickNode(const std::string& form, const std::string& tree, const std::string& path) {

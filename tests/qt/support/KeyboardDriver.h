@@ -19,6 +19,8 @@ public:
     void Select(const std::string& form, const std::string& list, int index) override;
     void SelectTab(const std::string& form, const std::string& pane, int tab) override;
     void ClickRow(const std::string& form, const std::string& list, int row) override;
+    void OpenRow(const std::string& form, const std::string& list, int row) override;
+    void MarkRow(const std::string& form, const std::string& list, int row) override;
     void ClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
     void RightClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
     void Menu(const std::string& form, const std::string& entry) override;
@@ -40,6 +42,7 @@ private:
     Way TabTo(QWidget& target);
     Way ArrowsTo(QWidget& target);
     bool Enter(QWidget& target);
+    void GoToRow(const std::string& form, const std::string& list, int row);
     void Write(const std::string& text);
     void OpenMenuOf(QAction& entry);
     void ChooseInMenu(QMenu& menu, const QAction& entry);

@@ -160,17 +160,32 @@ void WindowDriver::SelectTab(const std::string& form, const std::string& pane, i
     Settle();
 }
 
-void WindowDriver::ClickRow(const std::string& form, const std::string& list, int row) {
+void WindowDriver::PressRow(const std::string& form, const std::string& list, int row, Press press) {
     auto* view = Usable<QTableView>(form, list);
     if (view == nullptr)
         return;
-    const QModelIndex at = view->model()->index(row - 1, 0);
+    const bool boxes = view->model()->flags(view->model()->index(0, 0)).testFlag(Qt::ItemIsUserCheckable);
+    const QModelIndex at = view->model()->index(row - 1, boxes && press != Press::Box ? 1 : 0);
     EXPECT_TRUE(at.isValid()) << form << "." << list << " has no row " << row;
     view->scrollTo(at);
     const QPoint place = view->visualRect(at).topLeft() + QPoint(4, 4);
     if (at.isValid())
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, place);
+    if (at.isValid() && press == Press::Twice)
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, place);
     Settle();
+}
+
+void WindowDriver::ClickRow(const std::string& form, const std::string& list, int row) {
+    PressRow(form, list, row, Press::Once);
+}
+
+void WindowDriver::OpenRow(const std::string& form, const std::string& list, int row) {
+    PressRow(form, list, row, Press::Twice);
+}
+
+void WindowDriver::MarkRow(const std::string& form, const std::string& list, int row) {
+    PressRow(form, list, row, Press::Box);
 }
 
 void WindowDriver::PressNode(const std::string& form, const std::string& tree, const std::string& path,

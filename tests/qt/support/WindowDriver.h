@@ -24,6 +24,8 @@ public:
     void Select(const std::string& form, const std::string& list, int index) override;
     void SelectTab(const std::string& form, const std::string& pane, int tab) override;
     void ClickRow(const std::string& form, const std::string& list, int row) override;
+    void OpenRow(const std::string& form, const std::string& list, int row) override;
+    void MarkRow(const std::string& form, const std::string& list, int row) override;
     void ClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
     void RightClickNode(const std::string& form, const std::string& tree, const std::string& path) override;
     void Menu(const std::string& form, const std::string& entry) override;
@@ -63,6 +65,8 @@ protected:
 
 private:
     QWidget* UsableWidget(const std::string& form, const std::string& control);
+    enum class Press { Once, Twice, Box };
+    void PressRow(const std::string& form, const std::string& list, int row, Press press);
     void PressNode(const std::string& form, const std::string& tree, const std::string& path,
                    Qt::MouseButton button);
     bool Enter(QLineEdit& field);
