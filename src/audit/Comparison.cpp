@@ -46,16 +46,6 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 4> parts = {
 }};
 // clang-format on
 
-std::string CaptionOf(const std::string& key) {
-    const std::string caption = VariableOf(key);
-    if (caption == key)
-        return caption;
-    for (const auto& [ending, words] : parts)
-        if (key.ends_with(ending))
-            return caption + std::string(words);
-    return caption;
-}
-
 bool IsSection(const FileKey& key, std::string_view section) {
     return services::EqualNoCase(key.Section, section);
 }
@@ -120,6 +110,16 @@ private:
 };
 
 } // namespace
+
+std::string CaptionOf(const std::string& key) {
+    const std::string caption = VariableOf(key);
+    if (caption == key)
+        return caption;
+    for (const auto& [ending, words] : parts)
+        if (key.ends_with(ending))
+            return caption + std::string(words);
+    return caption;
+}
 
 std::vector<ComparedRow> Compare(const Side& left, const Side& right) {
     const Keys leftKeys(left);

@@ -29,6 +29,10 @@ struct ComparedRow {
 // differ in nothing that only says which run it is.
 [[nodiscard]] std::vector<ComparedRow> Compare(const Side& left, const Side& right);
 
+// What the summaries call the value or the part of a binding that stands under the key; the key itself where
+// no summary shows it.
+[[nodiscard]] std::string CaptionOf(const std::string& key);
+
 // "12.50 in", "(none)" for a key that is not there; an empty value is the empty text.
 [[nodiscard]] std::string ShownValue(const std::optional<std::string>& value, const std::string& unit);
 

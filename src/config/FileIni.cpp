@@ -240,6 +240,14 @@ Outcome FileIni::StoreAnew(const std::string& file, const Changes& changes,
     return files_.PutAnew(file, bytes, makeWay) ? Outcome() : Failure(file, before.value_or(""), bytes);
 }
 
+Outcome FileIni::StoreBytes(const std::string& file, std::string_view bytes) {
+    if (file.empty())
+        return NoPlace();
+    Touch(file);
+    const auto before = files_.Read(file);
+    return files_.Replace(file, bytes) ? Outcome() : Failure(file, before.value_or(""), bytes);
+}
+
 Outcome FileIni::DeleteConfigFile(const std::string& file) {
     if (file.empty())
         return NoPlace();

@@ -91,6 +91,9 @@ public:
     // The same on a file that starts from nothing. What stands in its place is taken away by makeWay, once
     // all the new bytes stand safe beside it.
     Outcome StoreAnew(const std::string& file, const Changes& changes, const std::function<bool()>& makeWay);
+    // The file with exactly these bytes, in the place of what stands there; for a whole state of a file that
+    // is brought in. Not within a batch of the file.
+    Outcome StoreBytes(const std::string& file, std::string_view bytes);
     // Done if a file was there and is gone.
     Outcome DeleteConfigFile(const std::string& file);
     // Not done if the target exists already.

@@ -13,4 +13,28 @@ std::string RecordPath(const ProjectPaths& paths, std::string_view project) {
     return path.replace(path.size() - ending.size(), ending.size(), ".sqlite");
 }
 
+RecordCheck Recorder::Verify(const std::string& record) {
+    const auto verification = BeginVerification(record);
+    while (verification->Advance()) {
+    }
+    return verification->SoFar();
+}
+
+namespace {
+
+class NothingToVerify : public RecordVerification {
+public:
+    bool Advance() override { return false; }
+    [[nodiscard]] const RecordCheck& SoFar() const override { return check_; }
+
+private:
+    RecordCheck check_;
+};
+
+} // namespace
+
+std::unique_ptr<RecordVerification> NoRecorder::BeginVerification(const std::string&) {
+    return std::make_unique<NothingToVerify>();
+}
+
 } // namespace gfc::config

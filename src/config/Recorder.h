@@ -3,6 +3,7 @@
 #include "config/KeyChanges.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -74,6 +75,21 @@ struct RecordCheck {
     std::optional<RecordDamage> Damage;
 };
 
+// A check of a whole record, in steps between which a person may end it.
+class RecordVerification {
+public:
+    virtual ~RecordVerification() = default;
+    // False once it is through, or has come to an entry that does not hold.
+    virtual bool Advance() = 0;
+    [[nodiscard]] virtual const RecordCheck& SoFar() const = 0;
+};
+
+// What an entry changed, key by key.
+struct EntryChanges {
+    std::int64_t Number = 0; // of the entry
+    std::vector<KeyChange> Keys;
+};
+
 // No call throws.
 class Recorder {
 public:
@@ -95,10 +111,15 @@ public:
                                                            std::string_view station) = 0;
     // The keys that an entry changed.
     [[nodiscard]] virtual std::vector<KeyChange> Changes(const std::string& record, std::int64_t number) = 0;
+    // The same of the entries from first to last, both included, in one reading.
+    [[nodiscard]] virtual std::vector<EntryChanges> ChangesOf(const std::string& record, std::int64_t first,
+                                                              std::int64_t last) = 0;
     // The whole file as it stood after the entry. Nothing where there was none, or no such entry.
     [[nodiscard]] virtual FileState Generation(const std::string& record, std::int64_t number) = 0;
     // Holds every entry against its hash and the one before it, and the file against what it has to be.
-    [[nodiscard]] virtual RecordCheck Verify(const std::string& record) = 0;
+    [[nodiscard]] virtual std::unique_ptr<RecordVerification>
+    BeginVerification(const std::string& record) = 0;
+    [[nodiscard]] RecordCheck Verify(const std::string& record);
 };
 
 // For who keeps no record.
@@ -111,7 +132,10 @@ public:
     std::vector<RecordEntry> Entries(const std::string&, std::string_view) override { return {}; }
     std::vector<KeyChange> Changes(const std::string&, std::int64_t) override { return {}; }
     FileState Generation(const std::string&, std::int64_t) override { return {}; }
-    RecordCheck Verify(const std::string&) override { return {}; }
+    std::vector<EntryChanges> ChangesOf(const std::string&, std::int64_t, std::int64_t) override {
+        return {};
+    }
+    std::unique_ptr<RecordVerification> BeginVerification(const std::string&) override;
 };
 
 } // namespace gfc::config

@@ -64,25 +64,47 @@ std::string BackgroundRecorder::Trouble() {
     return trouble_;
 }
 
+// A reading waits, and what keeps it from its end is the trouble that is told.
+class BackgroundRecorder::Reading {
+public:
+    explicit Reading(BackgroundRecorder& owner) : owner_(owner) { owner.Settle(); }
+    ~Reading() {
+        const std::lock_guard lock(owner_.mutex_);
+        if (auto trouble = owner_.recorder_.Trouble(); !trouble.empty())
+            owner_.trouble_ = std::move(trouble);
+    }
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+
+private:
+    BackgroundRecorder& owner_;
+};
+
 std::vector<config::RecordEntry> BackgroundRecorder::Entries(const std::string& record,
                                                              std::string_view station) {
-    Settle();
+    const Reading reading(*this);
     return recorder_.Entries(record, station);
 }
 
 std::vector<config::KeyChange> BackgroundRecorder::Changes(const std::string& record, std::int64_t number) {
-    Settle();
+    const Reading reading(*this);
     return recorder_.Changes(record, number);
 }
 
 config::FileState BackgroundRecorder::Generation(const std::string& record, std::int64_t number) {
-    Settle();
+    const Reading reading(*this);
     return recorder_.Generation(record, number);
 }
 
-config::RecordCheck BackgroundRecorder::Verify(const std::string& record) {
+std::vector<config::EntryChanges> BackgroundRecorder::ChangesOf(const std::string& record, std::int64_t first,
+                                                                std::int64_t last) {
+    const Reading reading(*this);
+    return recorder_.ChangesOf(record, first, last);
+}
+
+std::unique_ptr<config::RecordVerification> BackgroundRecorder::BeginVerification(const std::string& record) {
     Settle();
-    return recorder_.Verify(record);
+    return recorder_.BeginVerification(record);
 }
 
 } // namespace gfc::record

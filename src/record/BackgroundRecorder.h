@@ -22,14 +22,17 @@ public:
     void Record(std::vector<config::FileChange> changes) override;
     void Settle() override;
     bool IsBusy() override;
-    // Of what has been worked off; does not wait.
+    // Of what has been worked off, and of what was read since; does not wait.
     std::string Trouble() override;
     std::vector<config::RecordEntry> Entries(const std::string& record, std::string_view station) override;
     std::vector<config::KeyChange> Changes(const std::string& record, std::int64_t number) override;
     config::FileState Generation(const std::string& record, std::int64_t number) override;
-    config::RecordCheck Verify(const std::string& record) override;
+    std::vector<config::EntryChanges> ChangesOf(const std::string& record, std::int64_t first,
+                                                std::int64_t last) override;
+    std::unique_ptr<config::RecordVerification> BeginVerification(const std::string& record) override;
 
 private:
+    class Reading;
     using Handed = std::vector<config::FileChange>;
 
     void Work();

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "record/Failure.h"
+
 #include <cstdint>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 
@@ -11,13 +12,6 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 namespace gfc::record {
-
-// How the record's own code gives up; caught at the record's edge, never beyond. The text is a sentence that
-// says what failed and what to do.
-class Failure : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 enum class Access { Read, Write };
 

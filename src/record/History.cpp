@@ -1,5 +1,7 @@
 #include "record/History.h"
 
+#include "record/KeptFile.h"
+
 #include <filesystem>
 #include <system_error>
 
@@ -17,7 +19,7 @@ std::string Selection(const Walk& walk) {
         sql += " AND station = ?1";
     if (walk.Number != 0)
         sql += " AND number = ?2";
-    return sql + " AND ?1 IS NOT NULL AND ?2 IS NOT NULL ORDER BY number";
+    return sql + " AND ?1 IS NOT NULL AND ?2 IS NOT NULL AND number > ?3 ORDER BY number";
 }
 
 void TakeRow(const Statement& row, bool whole, StoredEntry& entry) {
@@ -91,7 +93,7 @@ void History::CheckIdentity() {
 
 void History::ForEach(const Walk& walk, const std::function<bool(const StoredEntry&)>& visit) {
     Statement rows(database_, Selection(walk));
-    rows.With(walk.Station, walk.Number);
+    rows.With(walk.Station, walk.Number, walk.Behind);
     while (rows.Step()) {
         StoredEntry entry;
         TakeRow(rows, walk.Whole, entry);
@@ -109,6 +111,38 @@ std::optional<StoredEntry> History::LastOf(std::string_view station) {
     StoredEntry entry;
     TakeRow(last, true, entry);
     return entry;
+}
+
+std::vector<std::string> History::WayBack(const StoredEntry& entry) {
+    std::vector<std::string> way = {entry.Content};
+    Statement before(database_, "SELECT content FROM entry WHERE number = ?");
+    for (std::int64_t number = entry.Facts.Number;;) {
+        const std::int64_t base = BaseOf(way.back());
+        if (base == 0)
+            return way;
+        if (base < 0 || base >= number || way.size() > LongestWay || !before.With(base).Step())
+            return {};
+        way.push_back(before.Text(0));
+        number = base;
+    }
+}
+
+std::optional<std::string> History::FileOf(const StoredEntry& entry) {
+    std::optional<std::string> file;
+    if (entry.Facts.FileHash.empty())
+        return file;
+    for (auto way = WayBack(entry); !way.empty(); way.pop_back())
+        if (file = FileIn(way.back(), file.value_or(std::string())); !file)
+            break;
+    return file;
+}
+
+std::string History::Keep(std::string_view station, std::string_view file) {
+    const auto last = LastOf(station);
+    if (!last || WayBack(*last).size() > LongestWay)
+        return KeepWhole(file);
+    const auto base = FileOf(*last);
+    return base ? KeepLike(file, last->Facts.Number, *base) : KeepWhole(file);
 }
 
 void History::Append(StoredEntry entry) {

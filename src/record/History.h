@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // One record: a database with one table of entries, which can only be added to. Everything here throws
 // Failure.
@@ -17,6 +18,7 @@ namespace gfc::record {
 struct Walk {
     std::string_view Station = {}; // empty for all
     std::int64_t Number = 0;       // one entry; 0 for all
+    std::int64_t Behind = 0;       // those with a greater number
     bool Whole = false;
 };
 
@@ -31,6 +33,10 @@ public:
     void ForEach(const Walk& walk, const std::function<bool(const StoredEntry&)>& visit);
     // With its file; nothing where the station has none.
     [[nodiscard]] std::optional<StoredEntry> LastOf(std::string_view station);
+    // The file that the entry left; nothing where there is none, or where what is kept is damaged.
+    [[nodiscard]] std::optional<std::string> FileOf(const StoredEntry& entry);
+    // How the file of the station's next entry is best kept.
+    [[nodiscard]] std::string Keep(std::string_view station, std::string_view file);
     // Number, Previous and Hash come from here. Only within a transaction.
     void Append(StoredEntry entry);
 
@@ -40,6 +46,9 @@ private:
     explicit History(Database database) : database_(std::move(database)) {}
     void MakeTables();
     void CheckIdentity();
+    // What the entry keeps, and all that is needed to have it, the last of them kept whole. Empty where the
+    // way does not lead there.
+    [[nodiscard]] std::vector<std::string> WayBack(const StoredEntry& entry);
 
     Database database_;
 };
@@ -57,19 +66,20 @@ struct SchemaPart {
     std::string_view Statement;
 };
 inline constexpr SchemaPart Schema[] = {
-    {"entry", "CREATE TABLE entry (\n"
-              "  number   INTEGER PRIMARY KEY AUTOINCREMENT,\n"
-              "  time     TEXT NOT NULL, -- UTC\n"
-              "  user     TEXT NOT NULL,\n"
-              "  machine  TEXT NOT NULL, -- who was logged on there\n"
-              "  command  TEXT NOT NULL,\n"
-              "  station  TEXT NOT NULL,\n"
-              "  file     TEXT NOT NULL, -- SHA-256 of the station's file\n"
-              "  previous TEXT NOT NULL, -- hash of the entry before\n"
-              "  hash     TEXT NOT NULL, -- SHA-256 of all else in the row\n"
-              "  changes  BLOB NOT NULL, -- length, colon, zlib stream\n"
-              "  content  BLOB NOT NULL  -- the same of the whole file\n"
-              ") STRICT"},
+    {"entry",
+     "CREATE TABLE entry (\n"
+     "  number   INTEGER PRIMARY KEY AUTOINCREMENT,\n"
+     "  time     TEXT NOT NULL, -- UTC\n"
+     "  user     TEXT NOT NULL,\n"
+     "  machine  TEXT NOT NULL, -- who was logged on there\n"
+     "  command  TEXT NOT NULL,\n"
+     "  station  TEXT NOT NULL,\n"
+     "  file     TEXT NOT NULL, -- SHA-256 of the station's file\n"
+     "  previous TEXT NOT NULL, -- hash of the entry before\n"
+     "  hash     TEXT NOT NULL, -- SHA-256 of all else in the row\n"
+     "  changes  BLOB NOT NULL, -- length, colon, zlib stream\n"
+     "  content  BLOB NOT NULL  -- the same of the whole file, or how it differs from an earlier one\n"
+     ") STRICT"},
     {"entry_of_station", "CREATE INDEX entry_of_station ON entry (station)"},
     {"entry_stays", "CREATE TRIGGER entry_stays BEFORE UPDATE ON entry\n"
                     "BEGIN SELECT RAISE(ABORT, 'an entry of the record never changes'); END"},

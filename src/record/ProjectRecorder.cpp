@@ -27,16 +27,13 @@ std::string_view BytesOf(const FileState& file) {
 struct ProjectRecorder::Known {
     bool Ever = false;
     std::string FileHash;
-    std::string Content; // as it is kept
 
     [[nodiscard]] bool Is(const FileState& file) const { return FileHash == HashOfFile(file); }
 };
 
 ProjectRecorder::Known ProjectRecorder::LastKnown(History& history, const std::string& station) {
-    auto last = history.LastOf(station);
-    if (!last)
-        return {};
-    return {true, last->Facts.FileHash, std::move(last->Content)};
+    const auto last = history.LastOf(station);
+    return last ? Known{true, last->Facts.FileHash} : Known{};
 }
 
 template <class Work>
@@ -78,9 +75,6 @@ void ProjectRecorder::Enter(History& history, const FileChange& change) {
     const Known known = LastKnown(history, change.Station);
     if (!known.Is(change.Before)) {
         const auto command = known.Ever ? config::command::FoundChanged : config::command::Found;
-        FileState before;
-        if (!known.FileHash.empty())
-            before = Expand(known.Content);
         Append(history,
                {.Record = change.Record,
                 .Station = change.Station,
@@ -88,7 +82,7 @@ void ProjectRecorder::Enter(History& history, const FileChange& change) {
                 .User = {},
                 .Before = {},
                 .After = change.Before},
-               known.Ever ? before : change.Before);
+               known.Ever ? history.FileOf(*history.LastOf(change.Station)) : change.Before);
     }
     if (change.Before != change.After)
         Append(history, change, change.Before);
@@ -105,7 +99,7 @@ void ProjectRecorder::Append(History& history, const FileChange& change, const F
     facts.FileHash = HashOfFile(change.After);
     entry.Changes = Compress(ChangesText(config::ChangesOf(BytesOf(before), BytesOf(change.After))));
     if (change.After)
-        entry.Content = Compress(*change.After);
+        entry.Content = history.Keep(change.Station, *change.After);
     history.Append(std::move(entry));
 }
 
@@ -124,24 +118,38 @@ std::vector<config::RecordEntry> ProjectRecorder::Entries(const std::string& rec
 
 namespace {
 
-std::optional<StoredEntry> EntryOf(const std::string& record, std::int64_t number) {
+std::optional<StoredEntry> EntryOf(History& history, std::int64_t number) {
     std::optional<StoredEntry> found;
-    if (auto history = History::OpenToRead(record))
-        history->ForEach({.Number = number, .Whole = true}, [&](const StoredEntry& entry) {
-            found = entry;
-            return false;
-        });
+    history.ForEach({.Number = number, .Whole = true}, [&](const StoredEntry& entry) {
+        found = entry;
+        return false;
+    });
     return found;
+}
+
+std::vector<config::KeyChange> ChangesIn(const StoredEntry& entry) {
+    const auto text = Expand(entry.Changes);
+    return text ? ReadChanges(*text).value_or(std::vector<config::KeyChange>())
+                : std::vector<config::KeyChange>();
 }
 
 } // namespace
 
 std::vector<config::KeyChange> ProjectRecorder::Changes(const std::string& record, std::int64_t number) {
-    std::vector<config::KeyChange> changes;
+    auto changes = ChangesOf(record, number, number);
+    return changes.empty() ? std::vector<config::KeyChange>() : std::move(changes.front().Keys);
+}
+
+std::vector<config::EntryChanges> ProjectRecorder::ChangesOf(const std::string& record, std::int64_t first,
+                                                             std::int64_t last) {
+    std::vector<config::EntryChanges> changes;
     Trying([&] {
-        const auto entry = EntryOf(record, number);
-        const auto text = entry ? Expand(entry->Changes) : std::nullopt;
-        changes = text ? ReadChanges(*text).value_or(changes) : changes;
+        if (auto history = History::OpenToRead(record))
+            history->ForEach({.Behind = first - 1, .Whole = true}, [&](const StoredEntry& entry) {
+                if (entry.Facts.Number <= last)
+                    changes.push_back({entry.Facts.Number, ChangesIn(entry)});
+                return entry.Facts.Number < last;
+            });
     });
     return changes;
 }
@@ -149,14 +157,15 @@ std::vector<config::KeyChange> ProjectRecorder::Changes(const std::string& recor
 FileState ProjectRecorder::Generation(const std::string& record, std::int64_t number) {
     FileState file;
     Trying([&] {
-        if (const auto entry = EntryOf(record, number); entry && !entry->Facts.FileHash.empty())
-            file = Expand(entry->Content);
+        if (auto history = History::OpenToRead(record))
+            if (const auto entry = EntryOf(*history, number))
+                file = history->FileOf(*entry);
     });
     return file;
 }
 
-config::RecordCheck ProjectRecorder::Verify(const std::string& record) {
-    return VerifyRecord(record);
+std::unique_ptr<config::RecordVerification> ProjectRecorder::BeginVerification(const std::string& record) {
+    return std::make_unique<Verification>(record);
 }
 
 } // namespace gfc::record

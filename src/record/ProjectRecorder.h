@@ -27,7 +27,9 @@ public:
     std::vector<config::RecordEntry> Entries(const std::string& record, std::string_view station) override;
     std::vector<config::KeyChange> Changes(const std::string& record, std::int64_t number) override;
     config::FileState Generation(const std::string& record, std::int64_t number) override;
-    config::RecordCheck Verify(const std::string& record) override;
+    std::vector<config::EntryChanges> ChangesOf(const std::string& record, std::int64_t first,
+                                                std::int64_t last) override;
+    std::unique_ptr<config::RecordVerification> BeginVerification(const std::string& record) override;
 
 private:
     // What a station's file was when it was entered last.

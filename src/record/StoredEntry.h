@@ -13,7 +13,7 @@ namespace gfc::record {
 struct StoredEntry {
     config::RecordEntry Facts;
     std::string Changes;  // compressed, as ChangesText writes them
-    std::string Content;  // the whole file, compressed; empty where there is none
+    std::string Content;  // the file, as KeepWhole or KeepLike makes it; empty where there is none
     std::string Previous; // the hash of the entry before; empty for the first
 };
 

@@ -1,71 +1,21 @@
 #include "record/Verification.h"
 
 #include "record/Compression.h"
-#include "record/History.h"
+#include "record/KeptFile.h"
 #include "record/Sha256.h"
-
-#include <array>
 
 namespace gfc::record {
 namespace {
 
-using config::RecordCheck;
+constexpr int entriesAStep = 64;
 
-struct Doubt {
-    const char* Reason;
-    bool (*Holds)(const StoredEntry& entry, const RecordCheck& before);
-};
-
-bool HasNextNumber(const StoredEntry& entry, const RecordCheck& before) {
-    return entry.Facts.Number == before.Entries + 1;
-}
-
-bool FollowsTheOneBefore(const StoredEntry& entry, const RecordCheck& before) {
-    return entry.Previous == before.LastHash;
-}
-
-bool HasItsHash(const StoredEntry& entry, const RecordCheck&) {
-    return entry.Facts.Hash == HashOf(entry);
-}
-
-bool HasItsFile(const StoredEntry& entry, const RecordCheck&) {
-    if (entry.Facts.FileHash.empty())
-        return entry.Content.empty();
-    const auto file = Expand(entry.Content);
-    return file && Sha256(*file) == entry.Facts.FileHash;
-}
-
-bool HasItsChanges(const StoredEntry& entry, const RecordCheck&) {
+bool HasItsChanges(const StoredEntry& entry) {
     const auto text = Expand(entry.Changes);
     return text && ReadChanges(*text);
 }
 
-constexpr std::array<Doubt, 5> doubts{{
-    {"It does not have the next number: an entry before it is missing.", HasNextNumber},
-    {"It does not follow the entry before it: that one is another than it was.", FollowsTheOneBefore},
-    {"It does not have its hash: it was changed after it was written.", HasItsHash},
-    {"The file that it keeps does not have its hash.", HasItsFile},
-    {"The changes that it keeps cannot be read.", HasItsChanges},
-}};
-
-// The rest of the walk cannot be judged once an entry does not hold.
-void CheckEntries(History& history, RecordCheck& check) {
-    Statement byStation(history.Data(), "SELECT count(*) FROM entry INDEXED BY entry_of_station "
-                                        "WHERE station = ? AND rowid = ?");
-    history.ForEach({.Whole = true}, [&](const StoredEntry& entry) {
-        for (const Doubt& doubt : doubts)
-            if (!doubt.Holds(entry, check)) {
-                check.Damage = {check.Entries + 1, doubt.Reason};
-                return false;
-            }
-        if (!byStation.With(entry.Facts.Station, entry.Facts.Number).Step() || byStation.Integer(0) != 1) {
-            check.Damage = {check.Entries + 1, "It is not found by its station."};
-            return false;
-        }
-        check.Entries = entry.Facts.Number;
-        check.LastHash = entry.Facts.Hash;
-        return true;
-    });
+bool IsFoundBy(Statement& byStation, const StoredEntry& entry) {
+    return byStation.With(entry.Facts.Station, entry.Facts.Number).Step() && byStation.Integer(0) == 1;
 }
 
 // The database counts its entries for itself, too.
@@ -88,36 +38,95 @@ bool IsSound(Database& database) {
     return check.Step() && check.Bytes(0) == "ok";
 }
 
-void CheckTheFile(Database& database, RecordCheck& check) {
-    if (!EndsWithItsLast(database, check.Entries))
-        check.Damage = {check.Entries + 1, "It is missing: the record had more entries than it has."};
-    else if (!HasItsSchema(database))
-        check.Damage = {0, "The table of the record, or a rule that guards it, is not as it was made."};
-    else if (!IsSound(database))
-        check.Damage = {0, "The database of the record is damaged where no entry stands."};
-}
-
-void Check(const std::string& file, RecordCheck& check) {
-    auto history = History::OpenToRead(file);
-    if (!history)
-        return;
-    CheckEntries(*history, check);
-    if (!check.Damage)
-        CheckTheFile(history->Data(), check);
-}
-
 } // namespace
 
-// A page that cannot be read ends the walk at the first entry that needs it.
-RecordCheck VerifyRecord(const std::string& file) {
-    RecordCheck check;
-    try {
-        Check(file, check);
-    } catch (const Failure& failure) {
-        if (!check.Damage)
-            check.Damage = {check.Entries + 1, failure.what()};
+// Each file is had from the one before it, so that the whole is read once.
+bool Verification::HasItsFile(const StoredEntry& entry) {
+    Left& left = left_[entry.Facts.Station];
+    if (entry.Facts.FileHash.empty()) {
+        left = {};
+        return entry.Content.empty();
     }
-    return check;
+    const std::int64_t base = BaseOf(entry.Content);
+    auto file = base == 0 || base == left.Entry ? FileIn(entry.Content, left.File) : std::nullopt;
+    if (!file || Sha256(*file) != entry.Facts.FileHash)
+        return false;
+    left = {entry.Facts.Number, std::move(*file)};
+    return true;
+}
+
+const char* Verification::DoubtOn(const StoredEntry& entry, Statement& byStation) {
+    if (entry.Facts.Number != check_.Entries + 1)
+        return "It does not have the next number: an entry before it is missing.";
+    if (entry.Previous != check_.LastHash)
+        return "It does not follow the entry before it: that one is another than it was.";
+    if (entry.Facts.Hash != HashOf(entry))
+        return "It does not have its hash: it was changed after it was written.";
+    if (!HasItsFile(entry))
+        return "The file that it keeps does not have its hash.";
+    if (!HasItsChanges(entry))
+        return "The changes that it keeps cannot be read.";
+    return IsFoundBy(byStation, entry) ? nullptr : "It is not found by its station.";
+}
+
+// The rest of the walk cannot be judged once an entry does not hold.
+void Verification::CheckEntry(const StoredEntry& entry, Statement& byStation) {
+    if (const char* doubt = DoubtOn(entry, byStation)) {
+        check_.Damage = {check_.Entries + 1, doubt};
+        return;
+    }
+    check_.Entries = entry.Facts.Number;
+    check_.LastHash = entry.Facts.Hash;
+}
+
+void Verification::CheckTheFile() {
+    Database& database = history_->Data();
+    if (!EndsWithItsLast(database, check_.Entries))
+        check_.Damage = {check_.Entries + 1, "It is missing: the record had more entries than it has."};
+    else if (!HasItsSchema(database))
+        check_.Damage = {0, "The table of the record, or a rule that guards it, is not as it was made."};
+    else if (!IsSound(database))
+        check_.Damage = {0, "The database of the record is damaged where no entry stands."};
+}
+
+// Between two steps nothing is held open for reading, so that no other program has to wait with an entry.
+bool Verification::CheckSome() {
+    if (!history_ && !(history_ = History::OpenToRead(file_)))
+        return false;
+    Statement byStation(history_->Data(), "SELECT count(*) FROM entry INDEXED BY entry_of_station "
+                                          "WHERE station = ? AND rowid = ?");
+    int count = 0;
+    history_->ForEach({.Behind = check_.Entries, .Whole = true}, [&](const StoredEntry& entry) {
+        CheckEntry(entry, byStation);
+        return !check_.Damage && ++count < entriesAStep;
+    });
+    if (check_.Damage)
+        return false;
+    if (count == entriesAStep)
+        return true;
+    CheckTheFile();
+    return false;
+}
+
+// A page that cannot be read ends the walk at the first entry that needs it.
+bool Verification::Advance() {
+    if (through_)
+        return false;
+    try {
+        through_ = !CheckSome();
+    } catch (const Failure& failure) {
+        through_ = true;
+        if (!check_.Damage)
+            check_.Damage = {check_.Entries + 1, failure.what()};
+    }
+    return !through_;
+}
+
+config::RecordCheck VerifyRecord(const std::string& file) {
+    Verification verification(file);
+    while (verification.Advance()) {
+    }
+    return verification.SoFar();
 }
 
 } // namespace gfc::record

@@ -60,6 +60,10 @@ bool Storage::PutAnew(const Telling& telling, const std::string& file,
     return stored && !givenUp;
 }
 
+bool Storage::Put(const Telling& telling, const std::string& file, std::string_view bytes) {
+    return UntilStored(telling, file, [&] { return ini_.StoreBytes(file, bytes); });
+}
+
 bool Storage::Copy(const Telling& telling, const std::string& from, const std::string& to) {
     bool tried = false;
     return UntilStored(telling, to, [&] {

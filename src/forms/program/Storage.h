@@ -37,6 +37,7 @@ public:
     // makeWay may give up too, and has then told so itself.
     [[nodiscard]] bool PutAnew(const Telling& telling, const std::string& file,
                                const config::FileIni::Changes& changes, const std::function<bool()>& makeWay);
+    [[nodiscard]] bool Put(const Telling& telling, const std::string& file, std::string_view bytes);
     [[nodiscard]] bool Copy(const Telling& telling, const std::string& from, const std::string& to);
 
     // Once, and without a word.
