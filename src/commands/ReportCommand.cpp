@@ -82,7 +82,7 @@ void Run(const Options& options, Context context) {
                                           .User = options.User,
                                           .Since = options.Since,
                                           .Version = "gfc-configurator " GFC_VERSION});
-    const std::string bytes = FormOf(*made, options);
+    const std::string bytes = FormOf(made, options);
     if (options.Output.empty()) {
         std::cout << bytes;
         return;
@@ -90,9 +90,9 @@ void Run(const Options& options, Context context) {
     if (!context.Machine.Files.Replace(options.Output, bytes))
         throw Failure(exitcode::NotToBeHad, "the report could not be written: " + options.Output + " (" +
                                                 context.Machine.Files.LastFailure() + ")");
-    std::cout << options.Output << ": " << made->Stations.size()
-              << (made->Stations.size() == 1 ? " station" : " stations") << ", content "
-              << report::ContentHash(*made) << '\n';
+    std::cout << options.Output << ": " << made.Stations.size()
+              << (made.Stations.size() == 1 ? " station" : " stations") << ", content "
+              << report::ContentHash(made) << '\n';
 }
 
 } // namespace

@@ -104,28 +104,36 @@ StationPages PagesOf(const Sources& sources, const Request& request, const std::
 
 } // namespace
 
-std::optional<Report> MakeReport(const Sources& sources, const Request& request, const Progress& progress) {
+ReportMaking::ReportMaking(Sources sources, Request request)
+    : sources_(sources), request_(std::move(request)) {
     const project::Project& project = sources.Project;
     const auto entries = sources.Recorder.Entries(config::RecordPath(project.Paths, project.ProjectName), {});
-    Report report;
-    report.Time = services::UtcText(sources.Machine.Clock, sources.Machine.TimeZone);
-    report.Project = project.ProjectName;
-    report.ProjectFile = project.ProjectFile;
-    report.User = request.User;
-    report.MachineUser = sources.Machine.Paths.UserName();
-    report.Version = request.Version;
+    report_.Time = services::UtcText(sources.Machine.Clock, sources.Machine.TimeZone);
+    report_.Project = project.ProjectName;
+    report_.ProjectFile = project.ProjectFile;
+    report_.User = request_.User;
+    report_.MachineUser = sources.Machine.Paths.UserName();
+    report_.Version = request_.Version;
     if (!entries.empty()) {
-        report.Entries = entries.back().Number;
-        report.HistoryHash = entries.back().Hash;
+        report_.Entries = entries.back().Number;
+        report_.HistoryHash = entries.back().Hash;
     }
-    if (request.Since)
-        report.Since = "since entry " + std::to_string(*request.Since);
-    for (const std::string& station : request.Stations) {
-        report.Stations.push_back(PagesOf(sources, request, station));
-        if (progress && !progress(report.Stations.size()))
-            return std::nullopt;
+    if (request_.Since)
+        report_.Since = "since entry " + std::to_string(*request_.Since);
+}
+
+bool ReportMaking::Advance() {
+    const std::size_t next = report_.Stations.size();
+    if (next < request_.Stations.size())
+        report_.Stations.push_back(PagesOf(sources_, request_, request_.Stations[next]));
+    return report_.Stations.size() < request_.Stations.size();
+}
+
+Report MakeReport(const Sources& sources, const Request& request) {
+    ReportMaking making(sources, request);
+    while (making.Advance()) {
     }
-    return report;
+    return making.Made();
 }
 
 } // namespace gfc::report

@@ -7,7 +7,6 @@
 #include "report/Report.h"
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,10 +29,22 @@ struct Sources {
     config::Recorder& Recorder;
 };
 
-// Tells after each station how many are done; with false it ends there, and there is no report.
-using Progress = std::function<bool(std::size_t done)>;
+// One in the making: a station with each step.
+class ReportMaking {
+public:
+    // What sources refers to must outlive it.
+    ReportMaking(Sources sources, Request request);
 
-[[nodiscard]] std::optional<Report> MakeReport(const Sources& sources, const Request& request,
-                                               const Progress& progress = {});
+    // False once all stations are in.
+    bool Advance();
+    [[nodiscard]] const Report& Made() const { return report_; }
+
+private:
+    Sources sources_;
+    Request request_;
+    Report report_;
+};
+
+[[nodiscard]] Report MakeReport(const Sources& sources, const Request& request);
 
 } // namespace gfc::report

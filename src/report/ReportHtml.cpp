@@ -13,7 +13,7 @@ thead { display: table-header-group; }
 tr { break-inside: avoid; }
 th, td { border: 0.3pt solid black; padding: 0.6mm 1.5mm; text-align: left; vertical-align: top;
   overflow-wrap: anywhere; }
-th { font-weight: bold; border-bottom: 1pt solid black; }
+th { font-weight: bold; } thead th { border-bottom: 1pt solid black; } p { margin: 1mm 0; }
 code { font: 8.5pt monospace; overflow-wrap: anywhere; }
 section { break-before: page; }
 .sign td { height: 14mm; width: 33%; vertical-align: bottom; }
@@ -25,9 +25,8 @@ section { break-before: page; }
 // The footer of a station's pages bears its name and its hash.
 std::string PageRule(const StationPages& station, std::size_t number) {
     const std::string name = "station" + std::to_string(number);
-    return "@page " + name + " { @bottom-left { content: \"" +
-           CssText(station.Name + "  " + station.FileHash) + "\"; font: 8pt sans-serif; } }\n." + name +
-           " { page: " + name + "; }\n";
+    return "@page " + name + " { @bottom-left { content: \"" + CssText(FooterOf(station)) +
+           "\"; font: 8pt sans-serif; } }\n." + name + " { page: " + name + "; }\n";
 }
 
 std::string Head(const Report& report) {
@@ -50,11 +49,11 @@ std::string Embedded(const std::string& json) {
 } // namespace
 
 std::string ToHtml(const Report& report) {
-    std::string page = Head(report) + CoverHtml(report);
+    std::string page = Head(report) + ToHtml(CoverOf(report));
     for (std::size_t number = 0; number < report.Stations.size(); ++number)
         page += "<section class=\"station" + std::to_string(number + 1) + "\">\n" +
-                StationHtml(report.Stations[number]) + "</section>\n";
-    return page + "<section>\n" + SignaturesHtml() + "</section>\n" + Embedded(ToJson(report)) +
+                ToHtml(PartsOf(report.Stations[number])) + "</section>\n";
+    return page + "<section>\n" + ToHtml(SignaturesOf()) + "</section>\n" + Embedded(ToJson(report)) +
            "</body>\n</html>\n";
 }
 

@@ -1,17 +1,14 @@
 #include "report/pdf/Pdf.h"
 
-#include "record/Sha256.h"
-#include "report/Html.h"
+#include "report/Content.h"
+#include "report/pdf/Chapter.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QBuffer>
 #include <QHashSeed>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTextDocument>
 
-#include <memory>
-#include <vector>
+#include <optional>
 
 namespace gfc::report {
 
@@ -19,91 +16,11 @@ namespace {
 
 constexpr int dotsPerInch = 300;
 constexpr double millimetres = dotsPerInch / 25.4;
-constexpr double footerHeight = 9 * millimetres;
+constexpr double footHeight = 9 * millimetres;
 
 QString ToQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
-
-// What begins on a page of its own, and what stands in the footer of its pages.
-struct Chapter {
-    std::unique_ptr<QTextDocument> Text;
-    QString Footer;
-};
-
-class Book {
-public:
-    Book(QPdfWriter& writer, const Report& report)
-        : writer_(writer), size_(writer.width(), writer.height() - footerHeight) {
-        Add(CoverHtml(report), "Content " + ContentHash(report));
-        for (const StationPages& station : report.Stations)
-            Add(StationHtml(station),
-                station.Name + "  " + (station.FileHash.empty() ? "not configured" : station.FileHash));
-        Add(SignaturesHtml(), "Content " + ContentHash(report));
-    }
-
-    void Print() {
-        QPainter painter(&writer_);
-        int pages = 0;
-        for (const Chapter& chapter : chapters_)
-            pages += chapter.Text->pageCount();
-        int page = 0;
-        for (const Chapter& chapter : chapters_)
-            for (int own = 0; own < chapter.Text->pageCount(); ++own) {
-                if (page++ > 0)
-                    writer_.newPage();
-                PrintPage(painter, chapter, own);
-                PrintFooter(painter, chapter.Footer, QStringLiteral("%1 of %2").arg(page).arg(pages));
-            }
-    }
-
-private:
-    void Add(const std::string& html, const std::string& footer) {
-        auto text = std::make_unique<QTextDocument>();
-        text->documentLayout()->setPaintDevice(&writer_);
-        QFont font(QStringLiteral("DejaVu Sans"));
-        font.setStyleHint(QFont::SansSerif);
-        font.setPointSizeF(8.5);
-        text->setDefaultFont(font);
-        text->setDocumentMargin(0);
-        text->setUndoRedoEnabled(false);
-        text->setPageSize(size_); // before the text, which would else be laid out twice
-        text->setDefaultStyleSheet(QStringLiteral("h1 { font-size: 18pt; } h2 { font-size: 14pt; } "
-                                                  "h3 { font-size: 10pt; } code { font-size: 7pt; } "
-                                                  "table { border-collapse: collapse; } "
-                                                  "th { text-align: left; }"));
-        text->setHtml(ToQt(html));
-        chapters_.push_back({std::move(text), ToQt(footer)});
-    }
-
-    // Black, whatever colours the screen has.
-    void PrintPage(QPainter& painter, const Chapter& chapter, int page) const {
-        QAbstractTextDocumentLayout::PaintContext context;
-        context.palette.setColor(QPalette::Text, Qt::black);
-        context.clip = QRectF(0, page * size_.height(), size_.width(), size_.height());
-        painter.save();
-        painter.translate(0, -page * size_.height());
-        painter.setClipRect(context.clip);
-        chapter.Text->documentLayout()->draw(&painter, context);
-        painter.restore();
-    }
-
-    void PrintFooter(QPainter& painter, const QString& left, const QString& right) const {
-        QFont font = painter.font();
-        font.setPointSizeF(7);
-        painter.setFont(font);
-        painter.setPen(QPen(Qt::black, 1));
-        const QRectF place(0, size_.height() + 2 * millimetres, size_.width(),
-                           footerHeight - 2 * millimetres);
-        painter.drawLine(place.topLeft(), place.topRight());
-        painter.drawText(place, Qt::AlignLeft | Qt::AlignBottom, left);
-        painter.drawText(place, Qt::AlignRight | Qt::AlignBottom, right);
-    }
-
-    QPdfWriter& writer_;
-    QSizeF size_; // of a page's text
-    std::vector<Chapter> chapters_;
-};
 
 // Puts a text in the place of what stands between the marks, over and over; as long as what it replaces, so
 // that the places of the file's parts stay true.
@@ -126,30 +43,130 @@ QByteArray PdfTime(const std::string& time) {
     return digits;
 }
 
+// The fonts of a PDF stand in the order of a hash table, which is another one for each start else.
+class SameOrder {
+public:
+    SameOrder() { QHashSeed::setDeterministicGlobalSeed(); }
+    ~SameOrder() { QHashSeed::resetRandomGlobalSeed(); }
+    SameOrder(const SameOrder&) = delete;
+    SameOrder& operator=(const SameOrder&) = delete;
+};
+
+// Each chapter is laid out twice: how many pages there are must be known before the first one is written, and
+// one chapter at a time is all that is held.
+class PdfRendering : public Rendering {
+public:
+    PdfRendering(const Report& report, Paper paper) : report_(report) {
+        buffer_.setBuffer(&pdf_);
+        buffer_.open(QIODevice::WriteOnly);
+        writer_.emplace(&buffer_);
+        SetUp(paper);
+        hands_.emplace(*writer_);
+    }
+    ~PdfRendering() override {
+        if (painter_.isActive())
+            painter_.end();
+    }
+
+    bool Advance() override {
+        const std::size_t chapters = report_.Stations.size() + 2;
+        if (next_ < chapters)
+            pages_ += Write(next_, nullptr);
+        else if (next_ < 2 * chapters)
+            Print(next_ - chapters);
+        ++next_;
+        if (next_ == 2 * chapters)
+            painter_.end();
+        return next_ < 2 * chapters;
+    }
+
+    std::string Bytes() override {
+        Overwrite(pdf_, "/CreationDate (D:", "Z)", PdfTime(report_.Time));
+        return pdf_.toStdString();
+    }
+
+private:
+    void SetUp(Paper paper) {
+        writer_->setResolution(dotsPerInch);
+        writer_->setPageSize(QPageSize(paper == Paper::A4 ? QPageSize::A4 : QPageSize::Letter));
+        writer_->setPageMargins(QMarginsF(15, 12, 12, 12), QPageLayout::Millimeter);
+        writer_->setTitle(QStringLiteral("Configuration report: ") + ToQt(report_.Project));
+        writer_->setCreator(ToQt(report_.Version));
+        const std::string json = ToJson(report_);
+        writer_->addFileAttachment(QStringLiteral("gfc-report.json"),
+                                   QByteArray(json.data(), static_cast<qsizetype>(json.size())),
+                                   QStringLiteral("application/json"));
+    }
+
+    [[nodiscard]] Parts PartsAt(std::size_t chapter) const {
+        if (chapter == 0)
+            return CoverOf(report_);
+        return chapter > report_.Stations.size() ? SignaturesOf() : PartsOf(report_.Stations[chapter - 1]);
+    }
+    [[nodiscard]] QString FooterAt(std::size_t chapter) const {
+        const bool station = chapter > 0 && chapter <= report_.Stations.size();
+        return ToQt(station ? FooterOf(report_.Stations[chapter - 1]) : FooterOf(report_));
+    }
+
+    // How many pages that took.
+    int Write(std::size_t chapter, QPainter* painter) {
+        const double width = writer_->width();
+        const QString footer = painter == nullptr ? QString() : FooterAt(chapter);
+        PageWriter page(writer_->height() - footHeight, painter, [&] {
+            if (painter != nullptr)
+                TurnPage(footer);
+        });
+        Chapter(PartsAt(chapter), *hands_, width).WriteTo(page);
+        return page.Pages();
+    }
+
+    // A foot is written when its page is begun.
+    void Print(std::size_t chapter) {
+        if (!painter_.isActive())
+            painter_.begin(&*writer_);
+        TurnPage(FooterAt(chapter));
+        (void)Write(chapter, &painter_);
+    }
+
+    void TurnPage(const QString& left) {
+        if (page_++ > 0)
+            writer_->newPage();
+        const double width = writer_->width();
+        const double top = writer_->height() - footHeight + 2 * millimetres;
+        const QString right = QStringLiteral("%1 of %2").arg(page_).arg(pages_);
+        PageWriter foot(writer_->height(), &painter_, {});
+        foot.Line(0, top, width, top, 1);
+        foot.Write(hands_->Foot, 0, top + millimetres, left);
+        foot.Write(hands_->Foot, width - hands_->Foot.WidthOf(right), top + millimetres, right);
+    }
+
+    SameOrder sameOrder_; // the first, since all below goes by it
+    const Report& report_;
+    QByteArray pdf_;
+    QBuffer buffer_;
+    std::optional<QPdfWriter> writer_;
+    std::optional<Hands> hands_;
+    QPainter painter_; // after the writer, which it uses
+    std::size_t next_ = 0;
+    int pages_ = 0;
+    int page_ = 0;
+};
+
 } // namespace
 
-// The fonts of a PDF stand in the order of a hash table, which is another one for each start else.
+std::unique_ptr<Rendering> RenderPdf(const Report& report, Paper paper) {
+    return std::make_unique<PdfRendering>(report, paper);
+}
+
+std::unique_ptr<Rendering> MakePdf(const Report& report, bool letter) {
+    return RenderPdf(report, letter ? Paper::Letter : Paper::A4);
+}
+
 std::string ToPdf(const Report& report, Paper paper) {
-    QHashSeed::setDeterministicGlobalSeed();
-    QByteArray pdf;
-    QBuffer buffer(&pdf);
-    buffer.open(QIODevice::WriteOnly);
-    {
-        QPdfWriter writer(&buffer);
-        writer.setResolution(dotsPerInch);
-        writer.setPageSize(QPageSize(paper == Paper::A4 ? QPageSize::A4 : QPageSize::Letter));
-        writer.setPageMargins(QMarginsF(15, 12, 12, 12), QPageLayout::Millimeter);
-        writer.setTitle(QStringLiteral("Configuration report: ") + ToQt(report.Project));
-        writer.setCreator(ToQt(report.Version));
-        const std::string json = ToJson(report);
-        writer.addFileAttachment(QStringLiteral("gfc-report.json"),
-                                 QByteArray(json.data(), static_cast<qsizetype>(json.size())),
-                                 QStringLiteral("application/json"));
-        Book(writer, report).Print();
+    const auto rendering = RenderPdf(report, paper);
+    while (rendering->Advance()) {
     }
-    QHashSeed::resetRandomGlobalSeed();
-    Overwrite(pdf, "/CreationDate (D:", "Z)", PdfTime(report.Time));
-    return pdf.toStdString();
+    return rendering->Bytes();
 }
 
 } // namespace gfc::report
