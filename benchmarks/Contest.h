@@ -42,6 +42,7 @@ void TakeBytes(benchmark::State& state, double bytes);
 // One for each file of rows.
 void ContestKeys();
 void ContestStations();
+void ContestRecord();
 void ContestTree();
 void ContestTags();
 void ContestAudit();

@@ -91,7 +91,7 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     if (!Initialize(argc, argv))
         return EXIT_FAILURE;
-    for (auto* contest : {ContestKeys, ContestStations, ContestTree, ContestTags, ContestAudit,
+    for (auto* contest : {ContestKeys, ContestStations, ContestRecord, ContestTree, ContestTags, ContestAudit,
                           ContestWindows, ContestProcesses})
         contest();
     const std::vector<std::string> rows = ChooseRows(options.Rows);

@@ -22,7 +22,7 @@ struct Row {
 };
 
 // clang-format off
-constexpr std::array<Row, 15> Rows = {{
+constexpr std::array<Row, 17> Rows = {{
     {"read_key",  "one `ReadKey`, complete access, 32 KB file",
                   "open, read, scan, close of the same bytes", 1.2},
     {"write_key", "one `WriteKey`, complete, atomic, flushed",
@@ -30,6 +30,8 @@ constexpr std::array<Row, 15> Rows = {{
     {"load",      "load of a station and one run, 230 keys", "open, read, close of the file", 2},
     {"save",      "the configurator's save, 100 keys, 32 KB file",
                   "one atomic replace of the same bytes", 1.3},
+    {"record",    "the same with the history kept, as long as a person waits for it", "the save alone", 2},
+    {"report",    "a station's report as PDF, without its tags", "the same as a page for a browser", 0},
     {"tree",      "tree and table of 1,000 configured stations, rebuilt, below the window",
                   "open, read, close of the 1,000 files", 1.5},
     {"tags",      "100,000 tags: copy from the library, inventory, candidates, derived lists",
