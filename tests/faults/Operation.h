@@ -51,5 +51,6 @@ struct Operation {
 [[nodiscard]] std::vector<Operation> ProgramOperations();
 [[nodiscard]] std::vector<Operation> WorkshopOperations();
 [[nodiscard]] std::vector<Operation> PlanOperations();
+[[nodiscard]] std::vector<Operation> RecordOperations();
 
 } // namespace gfc::test::faults
