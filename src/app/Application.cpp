@@ -14,6 +14,7 @@ bool Application::Start(const project::LibraryLoader& load) {
         return false;
     }
     program_ = std::make_unique<forms::Program>(machine_, *library_, screen_, recorder_);
+    program_->Reports = reports_;
     forms::StartProgram(*program_);
     return true;
 }

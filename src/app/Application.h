@@ -11,9 +11,11 @@ namespace gfc::app {
 // The program's objects, put together before any screen: the window's or another.
 class Application {
 public:
-    // The machine's parts, the screen and the recorder must outlive it.
-    Application(platform::Machine machine, ui::Screen& screen, config::Recorder& recorder)
-        : machine_(machine), screen_(screen), recorder_(recorder) {}
+    // The machine's parts, the screen, the recorder and the writer must outlive it. Without a writer (null)
+    // no reports are made.
+    Application(platform::Machine machine, ui::Screen& screen, config::Recorder& recorder,
+                audit::ReportWriter* reports = nullptr)
+        : machine_(machine), screen_(screen), recorder_(recorder), reports_(reports) {}
 
     // Loads the add-on library from the program's own folder and shows the first window. False, once a box
     // has said why, if there is no library to work with.
@@ -25,6 +27,7 @@ private:
     platform::Machine machine_;
     ui::Screen& screen_;
     config::Recorder& recorder_;
+    audit::ReportWriter* reports_;
     std::unique_ptr<project::AddOnLibrary> library_;
     std::unique_ptr<forms::Program> program_;
 };

@@ -5,6 +5,7 @@
 #include "qt/WindowPlaces.h"
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
+#include "report/pdf/Pdf.h"
 
 #include <QApplication>
 
@@ -39,7 +40,9 @@ int main(int argc, char* argv[]) {
     screen.WatchViewer([&seams] { return seams.Launcher.ViewerFailed(); });
     gfc::record::ProjectRecorder entries(seams.Clock, seams.TimeZone, seams.Paths.UserName());
     gfc::record::BackgroundRecorder recorder(entries);
-    gfc::app::Application program(seams, screen, recorder);
+    gfc::report::ReportFileWriter reports(seams, recorder, "gfc-configurator " GFC_VERSION,
+                                          gfc::report::MakePdf);
+    gfc::app::Application program(seams, screen, recorder, &reports);
     if (!program.Start(gfc::platform::LoadLibraryAt))
         return EXIT_FAILURE;
     return screen.Run();

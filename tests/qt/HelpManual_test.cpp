@@ -35,6 +35,10 @@ const std::map<std::string, std::vector<int>> helpNumbers = {
     {"frSGERG88", {7500}},
     {"FrCheckStations", {8000}},
     {"FrPlanStations", {8100}},
+    {"FrHistory", {8200}},
+    {"FrGeneration", {8200}},
+    {"FrCompare", {8300}},
+    {"FrReport", {8400}},
 };
 
 } // namespace

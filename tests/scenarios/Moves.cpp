@@ -111,11 +111,11 @@ void ThreeStations(FakeProgram& program) {
     program.AddStation("Empty", {});
 }
 
-void StartUp(Story& story) {
+void StartUp(Story& story, const std::string& user) {
     story.SeeShown("formInicio")
         .Tick("formInicio", "timerInicio")
         .SeeShown("UserIDForm")
-        .Type("UserIDForm", "Text1", "4711")
+        .Type("UserIDForm", "Text1", user)
         .Click("UserIDForm", "Command1")
         .SeeShown("GFCPrincipal");
 }

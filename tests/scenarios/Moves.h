@@ -15,7 +15,7 @@ namespace gfc::test::moves {
 void ThreeStations(FakeProgram& program);
 
 // Splash, user id 4711, main window.
-void StartUp(Story& story);
+void StartUp(Story& story, const std::string& user = "4711");
 void Exit(Story& story);
 // Selects the station in the tree, chooses the wizard's command and confirms.
 void OpenWizard(Story& story, const std::string& station);

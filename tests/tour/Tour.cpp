@@ -9,7 +9,9 @@
 #include "qt/support/Offscreen.h"
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
+#include "report/pdf/Pdf.h"
 #include "scenarios/Moves.h"
+#include "tour/RecordTour.h"
 #include "tour/RunsTour.h"
 #include "tour/TourScreen.h"
 #include "tour/Workshop.h"
@@ -23,6 +25,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <functional>
 
 namespace {
 
@@ -51,7 +54,7 @@ bool PrepareProject(const QDir& folder) {
 }
 
 void RemoveOldPictures(const QDir& folder) {
-    const auto old = folder.entryList({QStringLiteral("*.png")}, QDir::Files);
+    const auto old = folder.entryList({QStringLiteral("*.png"), QStringLiteral("report.pdf")}, QDir::Files);
     for (const QString& picture : old)
         QFile::remove(folder.filePath(picture));
 }
@@ -136,20 +139,29 @@ bool PrintResults(const QDir& folder) {
     return Workshop({QStringLiteral("files")});
 }
 
-int Play(const QDir& folder) {
+// From one start of the program to its end; how many pictures there are by then, 0 if it went wrong.
+int PlayOnce(const QDir& folder, int pictures, const std::function<void(test::Story& story)>& tell) {
     platform::RealMachine machine;
-    tour::TourScreen screen(folder.absolutePath());
-    record::ProjectRecorder entries(machine.Seams().Clock, machine.Seams().TimeZone,
-                                    machine.Seams().Paths.UserName());
+    const platform::Machine seams = machine.Seams();
+    tour::TourScreen screen(folder.absolutePath(), pictures);
+    record::ProjectRecorder entries(seams.Clock, seams.TimeZone, seams.Paths.UserName());
     record::BackgroundRecorder recorder(entries);
-    app::Application program(machine.Seams(), screen, recorder);
-    Tell(screen.TheStory, folder);
+    report::ReportFileWriter reports(seams, recorder, "gfc-configurator", report::MakePdf);
+    app::Application program(seams, screen, recorder, &reports);
+    tell(screen.TheStory);
     if (!program.Start(platform::LoadLibraryAt))
-        return EXIT_FAILURE;
+        return 0;
     screen.RunToEnd();
-    const bool whole = screen.TheStory.Done() && !::testing::Test::HasFailure();
-    Print(QStringLiteral("%1 pictures in %2").arg(screen.Pictures()).arg(folder.absolutePath()));
-    return PrintResults(folder) && whole ? EXIT_SUCCESS : EXIT_FAILURE;
+    return screen.TheStory.Done() && !::testing::Test::HasFailure() ? screen.Pictures() : 0;
+}
+
+int Play(const QDir& folder) {
+    int pictures = PlayOnce(folder, 0, [&](test::Story& story) { Tell(story, folder); });
+    if (pictures > 0)
+        pictures =
+            PlayOnce(folder, pictures, [&](test::Story& story) { tour::TellRecord(story, folder, skid); });
+    Print(QStringLiteral("%1 pictures in %2").arg(pictures).arg(folder.absolutePath()));
+    return PrintResults(folder) && pictures > 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 struct Options {

@@ -31,7 +31,7 @@ QString NameOf(const QWidget& window) {
 
 } // namespace
 
-TourScreen::TourScreen(QString folder) : folder_(std::move(folder)) {
+TourScreen::TourScreen(QString folder, int pictures) : folder_(std::move(folder)), pictures_(pictures) {
     BeforeStep = [this] { Look(); };
 }
 

@@ -14,7 +14,8 @@ namespace gfc::tour {
 class TourScreen : public test::StoryScreen {
 public:
     // The folder must exist; pictures are numbered in the order in which the windows are met.
-    explicit TourScreen(QString folder);
+    // They begin behind so many that are there.
+    explicit TourScreen(QString folder, int pictures = 0);
 
     [[nodiscard]] int Pictures() const { return pictures_; }
 

@@ -7,12 +7,15 @@
 namespace gfc::tour {
 
 bool Workshop(const QStringList& arguments) {
+    return Beside(QStringLiteral("io-workshop"), arguments) == 0;
+}
+
+int Beside(const QString& command, const QStringList& arguments) {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("io-workshop")),
-                  arguments);
-    return process.waitForFinished() && process.exitStatus() == QProcess::NormalExit &&
-           process.exitCode() == 0;
+    process.start(QDir(QCoreApplication::applicationDirPath()).filePath(command), arguments);
+    const bool ended = process.waitForFinished() && process.exitStatus() == QProcess::NormalExit;
+    return ended ? process.exitCode() : -1;
 }
 
 } // namespace gfc::tour

@@ -11,6 +11,9 @@
 namespace gfc::platform {
 struct Machine;
 }
+namespace gfc::audit {
+class ReportWriter;
+}
 
 namespace gfc::forms {
 
@@ -26,6 +29,7 @@ struct Program {
     forms::Storage Storage;
     const config::FileIni& Ini; // reads alone
     config::Recorder& Recorder;
+    audit::ReportWriter* Reports = nullptr; // null where none are made; must outlive it
     forms::Session Session;
     FormStore Forms;
 };

@@ -1,11 +1,9 @@
 #include "forms/tools/FrCheckStations.h"
 
 #include "forms/main_window/GFCPrincipal.h"
-#include "forms/program/HelpFile.h"
 #include "platform/Folder.h"
 #include "platform/Machine.h"
 #include "services/Text.h"
-#include "ui/Exchange.h"
 
 namespace gfc::forms {
 
@@ -14,13 +12,10 @@ namespace {
 constexpr const char* title = "Check all stations";
 constexpr int helpContext = 8000;
 
-std::string Counted(std::size_t count, std::string_view thing) {
-    return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
-}
-
 } // namespace
 
-FrCheckStations::FrCheckStations(Program& program) : ProgramForm(program, "FrCheckStations", title) {
+FrCheckStations::FrCheckStations(Program& program)
+    : ToolForm(program, "FrCheckStations", title, helpContext) {
     Check1.SetValue(true);
     Check2.SetValue(true);
     Text1.OnEdited = [this] { ShowRows(); };
@@ -49,13 +44,6 @@ void FrCheckStations::Load() {
 
 void FrCheckStations::Unloading() {
     Timer1.SetEnabled(false);
-}
-
-bool FrCheckStations::KeyDown(ui::Key key) {
-    if (key != ui::Key::F1)
-        return false;
-    OpenHelp();
-    return true;
 }
 
 // The window may be closed while the library takes its time over a station: the check ends with that one.
@@ -89,9 +77,10 @@ void FrCheckStations::End(const std::string& how) {
 }
 
 void FrCheckStations::ShowProgress(const std::string& lead) {
-    Label2.SetCaption(lead + ": " + std::to_string(next_) + " of " + Counted(plant_->Count(), "station") +
-                      "; " + Counted(errors_, "error") + ", " + Counted(warnings_, "warning") + ", " +
-                      Counted(notes_, "note"));
+    Label2.SetCaption(lead + ": " + std::to_string(next_) + " of " +
+                      Counted(plant_->Count(), "station", "stations") + "; " +
+                      Counted(errors_, "error", "errors") + ", " + Counted(warnings_, "warning", "warnings") +
+                      ", " + Counted(notes_, "note", "notes"));
 }
 
 bool FrCheckStations::IsWanted(const audit::StationReport& report, const audit::Finding& finding) const {
@@ -140,31 +129,13 @@ void FrCheckStations::Copy() {
 }
 
 void FrCheckStations::Save() {
-    auto* exchange = dynamic_cast<ui::Exchange*>(&program_.Screen);
-    if (exchange == nullptr)
-        return;
-    const auto file = exchange->ChooseTarget({.Title = "Save the findings",
-                                              .Name = session_.Project.ProjectName + "_findings.csv",
-                                              .Kinds = {{"Table", "*.csv"}, {"Page", "*.html"}}});
-    if (file)
-        Write(*file);
-}
-
-void FrCheckStations::Write(const std::string& file) {
-    const bool isPage = services::FoldCase(file).ends_with(services::FoldCase(".html"));
-    const std::string text =
-        isPage ? audit::AsHtml(shown_, session_.Project.ProjectName) : audit::AsCsv(shown_);
-    if (!program_.Machine.Files.Replace(file, text))
-        program_.Screen.Ask(
-            {.Title = title,
-             .Text = "The findings could not be written to\r\n" + file +
-                     "\r\n\r\nPlease look whether the disk is full and who may write there, or "
-                     "choose another folder.",
-             .TheIcon = ui::Icon::Exclamation});
-}
-
-void FrCheckStations::OpenHelp() {
-    program_.Screen.OpenHelp(HelpFile, helpContext);
+    SaveTo({.Title = "Save the findings",
+            .Name = session_.Project.ProjectName + "_findings.csv",
+            .Kinds = {{"Table", "*.csv"}, {"Page", "*.html"}}},
+           "the findings", [this](const std::string& file) {
+               return IsPage(file) ? audit::AsHtml(shown_, session_.Project.ProjectName)
+                                   : audit::AsCsv(shown_);
+           });
 }
 
 } // namespace gfc::forms

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "audit/Export.h"
-#include "forms/program/Program.h"
+#include "forms/tools/ToolForm.h"
 #include "ui/Buttons.h"
 #include "ui/Furniture.h"
 #include "ui/Label.h"
@@ -17,7 +17,7 @@ namespace gfc::forms {
 
 // Looks all stations of the project over, one with each tick of a timer, and lists what is found. It changes
 // nothing; a row that is opened leads to its node in the main window.
-class FrCheckStations : public ProgramForm {
+class FrCheckStations : public ToolForm {
 public:
     explicit FrCheckStations(Program& program);
 
@@ -39,7 +39,6 @@ public:
 protected:
     void Load() override;
     void Unloading() override;
-    bool KeyDown(ui::Key key) override;
 
 private:
     void CheckNext();
@@ -51,8 +50,6 @@ private:
     void OpenRow(int row);
     void Copy();
     void Save();
-    void Write(const std::string& file);
-    void OpenHelp();
 
     std::unique_ptr<audit::Plant> plant_;
     std::size_t next_ = 0; // the station to be checked

@@ -1,7 +1,10 @@
 #include "forms/tools/ToolsMenu.h"
 
 #include "forms/tools/FrCheckStations.h"
+#include "forms/tools/FrCompare.h"
+#include "forms/tools/FrHistory.h"
 #include "forms/tools/FrPlanStations.h"
+#include "forms/tools/FrReport.h"
 
 #include <array>
 
@@ -13,6 +16,9 @@ std::span<const Tool> Tools() {
          [](Program& program) { program.Forms.Get<FrCheckStations>().ShowModal(); }},
         {"copySeveral", "Copy to several stations...", CopyToSeveralCommand},
         {"bindAnew", "Bind anew...", BindAnewCommand},
+        {"history", "History...", [](Program& program) { program.Forms.Get<FrHistory>().ShowModal(); }},
+        {"compare", "Compare...", [](Program& program) { program.Forms.Get<FrCompare>().ShowModal(); }},
+        {"report", "Report...", [](Program& program) { program.Forms.Get<FrReport>().ShowModal(); }},
     });
     return tools;
 }
