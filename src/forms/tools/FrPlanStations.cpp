@@ -20,6 +20,7 @@ constexpr const char* yes = "Yes";
 
 // Columns of the list of stations.
 constexpr int chosenColumn = 0;
+constexpr int configurationColumn = 2;
 constexpr int statusColumn = 3;
 
 std::string Counted(std::size_t count, std::string_view thing) {
@@ -144,6 +145,8 @@ std::string FrPlanStations::StatusOf(const Item& item) const {
 void FrPlanStations::ShowItem(std::size_t item) {
     const int row = static_cast<int>(item) + 1;
     ListView1.SetCell(row, chosenColumn, items_[item].IsChosen ? yes : "");
+    if (items_[item].State == State::Written)
+        ListView1.SetCell(row, configurationColumn, "has one");
     ListView1.SetCell(row, statusColumn, StatusOf(items_[item]));
 }
 

@@ -104,6 +104,7 @@ TEST_F(PlanStations, writes_the_complete_ones_and_records_and_checks_each_at_onc
         .Tick(window, "Timer1")
         .Check([&](Driver& d) {
             EXPECT_THAT(Status(1), HasSubstr("written"));
+            EXPECT_EQ(Form().ListView1.Cell(1, 2), "has one");
             EXPECT_EQ(Status(2), "1 variable without a tag");
             EXPECT_THAT(d.Text(window, "Label4"), HasSubstr("1 written, 0 failed"));
             EXPECT_THAT(Files.Content[FileOf("South")], HasSubstr("GasTempKDIOTag=FT-1001\r\n"));
