@@ -1,4 +1,5 @@
 #include "TagRunsWorld.h"
+#include "support/Named.h"
 
 #include <gmock/gmock.h>
 
@@ -335,8 +336,11 @@ struct AgreeingScreen : HeadlessScreen {
 };
 
 struct Opening {
+    const char* Name;
     forms::EditMode Mode;
     BindingStage Stage;
+
+    friend void PrintTo(const Opening& opening, std::ostream* out) { *out << opening.Name; }
 };
 
 // A station of which run 1 is open, and nothing that holds a person up.
@@ -446,11 +450,13 @@ TEST_P(UndoByChance, ShowsEveryStateAgain) {
     EXPECT_GT(changes, 20);
 }
 
-INSTANTIATE_TEST_SUITE_P(Stages, UndoByChance,
-                         testing::Values(Opening{forms::EditMode::Wizard, BindingStage::RunInputs},
-                                         Opening{forms::EditMode::ModifyTags, BindingStage::RunInputs},
-                                         Opening{forms::EditMode::Wizard, BindingStage::GasInputs},
-                                         Opening{forms::EditMode::ModifyTags, BindingStage::GasInputs}));
+INSTANTIATE_TEST_SUITE_P(
+    Stages, UndoByChance,
+    testing::Values(Opening{"wizard_inputs", forms::EditMode::Wizard, BindingStage::RunInputs},
+                    Opening{"modify_inputs", forms::EditMode::ModifyTags, BindingStage::RunInputs},
+                    Opening{"wizard_gas", forms::EditMode::Wizard, BindingStage::GasInputs},
+                    Opening{"modify_gas", forms::EditMode::ModifyTags, BindingStage::GasInputs}),
+    By(&Opening::Name));
 
 } // namespace
 } // namespace gfc::test
