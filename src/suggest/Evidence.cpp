@@ -49,10 +49,6 @@ static_assert(InOrder());
 
 } // namespace
 
-std::span<const EvidenceRow> EvidenceTable() {
-    return Table;
-}
-
 const EvidenceRow& RowOf(Evidence kind) {
     return Table[static_cast<std::size_t>(kind)];
 }

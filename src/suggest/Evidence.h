@@ -1,6 +1,5 @@
 #pragma once
 
-#include <span>
 #include <string_view>
 
 namespace gfc::suggest {
@@ -41,8 +40,6 @@ struct EvidenceRow {
     std::string_view Words; // for people; % stands for what was found. Empty for what need not be said
 };
 
-// One row for each kind, in their order.
-[[nodiscard]] std::span<const EvidenceRow> EvidenceTable();
 [[nodiscard]] const EvidenceRow& RowOf(Evidence kind);
 
 // From which sum on a tag is suggested at all.

@@ -350,7 +350,8 @@ private:
             [=, node = RunNode(run), answer = Chance(random_, 8) ? Answer::Yes : Answer::No](Story& story) {
                 Choose(story, node, "erun");
                 story.Box("Configure Run", "", Icon::Information, Answer::Yes);
-                for (const auto& dialog : AddRunStory(added).Dialogs()) {
+                const AddRunStory dialogs(added);
+                for (const auto& dialog : dialogs.Dialogs()) {
                     story.Click("Step", "Command1");
                     dialog.GoThrough(story);
                 }

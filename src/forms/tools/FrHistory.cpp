@@ -56,7 +56,7 @@ FrHistory::FrHistory(Program& program) : ToolForm(program, "FrHistory", title, h
 void FrHistory::Load() {
     ListView1.AddColumns({{"Entry", 6},
                           {"Time (UTC)", 23},
-                          {"Station", 18},
+                          {"Station", 26},
                           {"Command", 22},
                           {"User ID", 12},
                           {"Logged on as", 14},

@@ -66,13 +66,4 @@ ui::Answer ToolForm::Tell(std::string text, ui::Icon icon) {
     return program_.Screen.Ask({.Title = Caption(), .Text = std::move(text), .TheIcon = icon});
 }
 
-bool ToolForm::Agrees(std::string question, const std::string& station) {
-    return program_.Screen.Ask({.Title = Caption(),
-                                .Text = std::move(question),
-                                .TheIcon = ui::Icon::Question,
-                                .TheButtons = ui::Buttons::YesNo,
-                                .AtStake = station}) == ui::Answer::Yes &&
-           !program_.Screen.Ended();
-}
-
 } // namespace gfc::forms

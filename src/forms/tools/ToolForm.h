@@ -31,8 +31,6 @@ protected:
 
     // A box with the window's title.
     ui::Answer Tell(std::string text, ui::Icon icon);
-    // A question that Enter alone answers with No; the station stands below it.
-    [[nodiscard]] bool Agrees(std::string question, const std::string& station);
 
 private:
     int helpContext_;
