@@ -12,7 +12,7 @@ constexpr std::size_t dateLength = 10;
 constexpr std::size_t textLength = 20;
 
 std::string TextOf(const SystemTime& time) {
-    char text[40];
+    char text[48]; // room for any numbers, as the compiler reckons
     (void)std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02dZ", int(time.wYear),
                         int(time.wMonth), int(time.wDay), int(time.wHour), int(time.wMinute),
                         int(time.wSecond));
