@@ -3,10 +3,10 @@
 #include "Library.h"
 #include "config/CommonLayout.h"
 #include "config/ConfigWriter.h"
-#include "config/Overload.h"
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 #include "project/AddOnGate.h"
+#include "support/RunPlace.h"
 
 #include <algorithm>
 #include <array>
@@ -32,22 +32,6 @@ std::string TagName(int number) {
     return "GasTrain_Skid4_" + std::string(7 - std::min<std::size_t>(digits.size(), 7), '0') + digits + "_PV";
 }
 
-// Null for a text that is not read back.
-std::string* PlaceOf(const config::RunRow& row, config::BindingPart part, const config::RunTarget& to) {
-    using namespace config;
-    return std::visit(
-        Overload{
-            [&](CommonCopy field) { return field.Copy == nullptr ? nullptr : &(to.Mechanical.*field.Copy); },
-            [&](std::string RunMechanical::*field) { return &(to.Mechanical.*field); },
-            [&](std::string RunIO::*field) { return &(to.IO.*field); },
-            [&](TagBinding RunIO::*field) { return &PartOf(to.IO.*field, part); },
-            [&](SharedBinding field) { return &PartOf(to.IO.*field.Own, part); },
-            [&](GasBinding field) { return &PartOf(to.Gas[field.Slot], part); },
-            [&](GasValue field) { return &to.FixedValues[field.Slot].Tag; },
-        },
-        row.Field);
-}
-
 void FillRun(config::StationConfig& station, int run) {
     const auto element = static_cast<std::size_t>(run);
     config::RunGas unread;
@@ -57,7 +41,7 @@ void FillRun(config::StationConfig& station, int run) {
     for (const config::RunRow& row : config::RunRows()) {
         ++number;
         config::ForEachPart(row, [&](config::BindingPart part) {
-            std::string* place = PlaceOf(row, part, to);
+            std::string* place = test::PlaceOf(row, part, to);
             if (place != nullptr)
                 *place = !config::IsBinding(row)             ? "1.25"
                          : part == config::BindingPart::Tag  ? TagName(number)

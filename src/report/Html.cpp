@@ -1,6 +1,10 @@
 #include "report/Html.h"
 
+#include "services/HtmlText.h"
+
 namespace gfc::report {
+
+using services::HtmlText;
 
 namespace {
 
@@ -51,28 +55,6 @@ std::string PartHtml(const Part& part) {
 }
 
 } // namespace
-
-std::string HtmlText(std::string_view text) {
-    std::string html;
-    for (const char byte : text)
-        switch (byte) {
-        case '<':
-            html += "&lt;";
-            break;
-        case '>':
-            html += "&gt;";
-            break;
-        case '&':
-            html += "&amp;";
-            break;
-        case '"':
-            html += "&quot;";
-            break;
-        default:
-            html += byte;
-        }
-    return html;
-}
 
 // "<" too: it could end the style sheet.
 std::string CssText(std::string_view text) {

@@ -8,7 +8,6 @@
 // The parts of a report as HTML.
 namespace gfc::report {
 
-[[nodiscard]] std::string HtmlText(std::string_view text);
 // For a text between quotes of a style sheet.
 [[nodiscard]] std::string CssText(std::string_view text);
 

@@ -1,7 +1,10 @@
 #include "report/Html.h"
 #include "report/Report.h"
+#include "services/HtmlText.h"
 
 namespace gfc::report {
+
+using services::HtmlText;
 
 namespace {
 

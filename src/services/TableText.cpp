@@ -1,5 +1,7 @@
 #include "services/TableText.h"
 
+#include "services/HtmlText.h"
+
 #include <algorithm>
 #include <string_view>
 
@@ -8,20 +10,6 @@ namespace gfc::services {
 namespace {
 
 using Cells = std::vector<std::string>;
-
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text)
-        if (c == '&')
-            escaped += "&amp;";
-        else if (c == '<')
-            escaped += "&lt;";
-        else if (c == '>')
-            escaped += "&gt;";
-        else
-            escaped += c;
-    return escaped;
-}
 
 std::string Quoted(std::string_view text) {
     std::string quoted = "\"";
@@ -62,7 +50,7 @@ std::string Lines(const TextTable& table, std::string_view between, std::string_
 std::string HtmlRow(const Cells& cells, const std::string& tag, const std::string& className) {
     std::string row = className.empty() ? "<tr>" : "<tr class=\"" + className + "\">";
     for (const std::string& cell : cells)
-        row.append("<").append(tag).append(">").append(Escaped(cell)).append("</").append(tag).append(">");
+        row.append("<").append(tag).append(">").append(HtmlText(cell)).append("</").append(tag).append(">");
     return row + "</tr>\n";
 }
 
@@ -83,7 +71,7 @@ std::string AsCsv(const TextTable& table) {
 }
 
 std::string AsHtml(const TextTable& table, const std::string& title, const std::string& style) {
-    const std::string heading = Escaped(title);
+    const std::string heading = HtmlText(title);
     std::string page = "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\"><title>" + heading +
                        "</title><style>" + std::string(pageStyle) + style + "</style></head>\n<body><h1>" +
                        heading + "</h1>\n<table>\n" + HtmlRow(table.Headings, "th", {});

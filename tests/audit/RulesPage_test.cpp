@@ -1,4 +1,5 @@
 #include "audit/Rule.h"
+#include "services/HtmlText.h"
 #include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
@@ -12,22 +13,12 @@
 namespace gfc::audit {
 namespace {
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    for (const char c : text)
-        if (c == '&')
-            escaped += "&amp;";
-        else if (c == '<')
-            escaped += "&lt;";
-        else
-            escaped += c;
-    return escaped;
-}
+using services::HtmlText;
 
 // What a finding fills in stands as its word in italics.
 std::string WithPlaces(std::string_view text) {
     std::string page;
-    for (const char c : Escaped(text))
+    for (const char c : HtmlText(text))
         if (c == '{')
             page += "<i>";
         else if (c == '}')
@@ -42,8 +33,8 @@ std::string RowOf(const Rule& rule) {
     return "<tr>" +
            cell("<a name=\"" + std::string(rule.Name) + "\"></a><code>" + std::string(rule.Name) +
                 "</code><br/>" + std::string(WordOf(rule.Severity))) +
-           "\n" + cell(WithPlaces(rule.Text) + "<br/>Looks at: " + Escaped(rule.Looks) + ".") + "\n" +
-           cell(Escaped(rule.Advice)) + "\n" + cell(Escaped(rule.Source)) + "</tr>\n";
+           "\n" + cell(WithPlaces(rule.Text) + "<br/>Looks at: " + HtmlText(rule.Looks) + ".") + "\n" +
+           cell(HtmlText(rule.Advice)) + "\n" + cell(HtmlText(rule.Source)) + "</tr>\n";
 }
 
 std::string RulesPage() {

@@ -1,8 +1,8 @@
 #include "SampleStation.h"
 #include "config/ConfigReader.h"
-#include "config/Overload.h"
 #include "config/RunLayout.h"
 #include "support/MemoryFiles.h"
+#include "support/RunPlace.h"
 
 #include <gmock/gmock.h>
 
@@ -284,21 +284,6 @@ std::string FileOfAllKeys() {
     return "[Run1]\r\n" + bytes;
 }
 
-// Where a text is read to, told row by row; null for one that is not read back.
-std::string* PlaceOf(const RunRow& row, BindingPart part, const RunTarget& to) {
-    return std::visit(
-        Overload{
-            [&](CommonCopy field) { return field.Copy == nullptr ? nullptr : &(to.Mechanical.*field.Copy); },
-            [&](std::string RunMechanical::*field) { return &(to.Mechanical.*field); },
-            [&](std::string RunIO::*field) { return &(to.IO.*field); },
-            [&](TagBinding RunIO::*field) { return &PartOf(to.IO.*field, part); },
-            [&](SharedBinding field) { return &PartOf(to.IO.*field.Own, part); },
-            [&](GasBinding field) { return &PartOf(to.Gas[field.Slot], part); },
-            [&](GasValue field) { return &to.FixedValues[field.Slot].Tag; },
-        },
-        row.Field);
-}
-
 TEST_F(ConfigReader, reads_each_key_of_a_run_as_if_it_were_read_alone) {
     Bytes = FileOfAllKeys();
     for (const char* source : {"AGA8", "SGERG88"}) {
@@ -312,8 +297,8 @@ TEST_F(ConfigReader, reads_each_key_of_a_run_as_if_it_were_read_alone) {
                 continue;
             ForEachPart(row, [&](BindingPart part) {
                 const std::string key = KeyOf(row, part, KeyUse::Read);
-                EXPECT_EQ(*PlaceOf(row, part, run), Ini.ReadKey("Run1", key, File)) << key;
-                EXPECT_NE(*PlaceOf(row, part, run), "") << key;
+                EXPECT_EQ(*test::PlaceOf(row, part, run), Ini.ReadKey("Run1", key, File)) << key;
+                EXPECT_NE(*test::PlaceOf(row, part, run), "") << key;
             });
         }
     }
@@ -336,7 +321,7 @@ TEST(RunRows, reach_every_text_of_a_runs_records) {
     std::set<const std::string*> places;
     for (const RunRow& row : RunRows())
         ForEachPart(row, [&](BindingPart part) {
-            places.insert(PlaceOf(row, part, {io, gas, mechanical, fixed}));
+            places.insert(test::PlaceOf(row, part, {io, gas, mechanical, fixed}));
         });
     EXPECT_EQ(PlacesIn(places, io) * sizeof(std::string), sizeof io);
     EXPECT_EQ(PlacesIn(places, mechanical) * sizeof(std::string), sizeof mechanical);
