@@ -29,6 +29,7 @@ std::string ReadEntry(const Operand& operand, const std::string& record, platfor
         if (entry.Number == operand.Entry) {
             if (auto bytes = recorder.Generation(record, operand.Entry))
                 return *bytes;
+            DemandNoTrouble(recorder);
             throw Failure(exitcode::WrongUse, "entry " + std::to_string(operand.Entry) + " of station \"" +
                                                   operand.Station + "\" left no file.");
         }

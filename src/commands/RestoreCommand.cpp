@@ -25,22 +25,47 @@ config::FileState StateNow(platform::Files& files, const std::string& file) {
     return state;
 }
 
+// Why it was not stored, with what stands there now; empty where it was.
+std::string Replace(platform::Files& files, const std::string& file, const config::FileState& before,
+                    const Operand& wanted, config::FileState& after) {
+    after = wanted.Bytes;
+    if (before == after || files.Replace(file, wanted.Bytes))
+        return {};
+    const std::string reason = files.LastFailure(); // before the next call
+    after = files.Read(file);
+    return "the configuration could not be written, and " +
+           std::string(after == before         ? "is the old one"
+                       : after == wanted.Bytes ? "nobody says that it is safe on the disk"
+                                               : "what stands there is not known") +
+           ": " + file + " (" + reason + ")";
+}
+
+void Enter(const ProjectFiles& project, const config::FileChange& change, platform::Machine& machine) {
+    auto recorder = MakeRecorder(machine);
+    recorder.Record({change});
+    if (!recorder.Trouble().empty())
+        Tell("the configuration of " + change.Station + " in " + project.ProjectName +
+             " was changed, but this is not entered in the history. " + recorder.Trouble());
+}
+
 void Run(const Options& options, Context context) {
     const ProjectFiles project = FilesOfProject(context.Machine, options.Project);
     const Operand wanted = ReadOperand(options.State, options.Project, context.Machine);
     if (wanted.Entry == 0 || wanted.Run != 0)
         throw Failure(exitcode::WrongUse, "say which entry of the history to bring back: STATION@ENTRY.");
     const std::string file = project.FileOf(wanted.Station);
-    auto before = StateNow(context.Machine.Files, file);
+    const auto before = StateNow(context.Machine.Files, file);
     const bool differs = before != wanted.Bytes;
-    if (differs && !context.Machine.Files.Replace(file, wanted.Bytes))
-        throw Failure(exitcode::NotToBeHad, "the configuration could not be written, and is the old one: " +
-                                                file + " (" + context.Machine.Files.LastFailure() + ")");
-    auto recorder = MakeRecorder(context.Machine);
-    recorder.Record({{project.Record(), wanted.Station, std::string(config::command::BringBack), options.User,
-                      std::move(before), wanted.Bytes}});
-    if (!recorder.Trouble().empty())
-        Tell("the configuration was brought back, but not entered in the history. " + recorder.Trouble());
+    config::FileState after;
+    const std::string failure = Replace(context.Machine.Files, file, before, wanted, after);
+    // What may stand there although it failed is an entry, too.
+    if (failure.empty() || (after && after != before))
+        Enter(project,
+              {project.Record(), wanted.Station, std::string(config::command::BringBack), options.User,
+               before, after},
+              context.Machine);
+    if (!failure.empty())
+        throw Failure(exitcode::NotToBeHad, failure);
     if (options.Json)
         return WriteJson(std::cout, {{"version", 1},
                                      {"station", wanted.Station},

@@ -102,7 +102,8 @@ public:
     virtual void Settle() = 0;
     // Whether it would wait.
     [[nodiscard]] virtual bool IsBusy() = 0;
-    // Why the last entries could not be written, as a sentence; empty where they could.
+    // Why entries are missing, as a sentence, until they are made up; after a reading that failed, why it
+    // did. Empty where nothing is known to be missing.
     [[nodiscard]] virtual std::string Trouble() = 0;
 
     // Those of one station, of all for the empty name, in their order. Empty where there is no record, or

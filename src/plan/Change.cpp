@@ -6,8 +6,7 @@ namespace gfc::plan {
 
 namespace {
 
-std::string Standing(platform::Files& files, const Change& change) {
-    const auto now = files.Read(change.File);
+std::string Standing(const config::FileState& now, const Change& change) {
     if (now == change.Before)
         return change.Before ? "The file stands as it was before." : "There is no such file now.";
     if (now == change.After)
@@ -16,13 +15,13 @@ std::string Standing(platform::Files& files, const Change& change) {
     return now ? "The file holds something else now." : "What stands there now cannot be read.";
 }
 
-void Enter(const Writer& writer, const Change& change) {
+void Enter(const Writer& writer, const Change& change, const config::FileState& after) {
     writer.Recorder.Record({{.Record = config::RecordPath(writer.Project.Paths, writer.Project.ProjectName),
                              .Station = change.Station,
                              .Command = change.Command,
                              .User = writer.User,
                              .Before = change.Before,
-                             .After = change.After}});
+                             .After = after}});
 }
 
 } // namespace
@@ -42,9 +41,12 @@ Written Write(const Writer& writer, const Change& change) {
     // Also where it holds the new bytes: nobody has said yet that they are safe.
     if (!writer.Files.Replace(change.File, change.After)) {
         const std::string reason = writer.Files.LastFailure(); // before the next call
-        return {false, "The system says: " + reason + ". " + Standing(writer.Files, change)};
+        // It may stand there all the same, and then it is an entry of the record.
+        if (ReadState(writer.Files, change.File, now) && now != change.Before)
+            Enter(writer, change, now);
+        return {false, "The system says: " + reason + ". " + Standing(now, change)};
     }
-    Enter(writer, change);
+    Enter(writer, change, change.After);
     project::RegisterStation(writer.Library, writer.Project, change.Station);
     return {true, {}};
 }

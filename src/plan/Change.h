@@ -44,7 +44,7 @@ struct Written {
 
 // Puts the file in its place by one atomic replace, has it recorded and entered among the station's files to
 // load. Not done, with nothing changed, where the file is neither what it was when this was planned nor what
-// it is to become.
+// it is to become. Where it cannot be said to be safe on the disk it is not done, but recorded all the same.
 [[nodiscard]] Written Write(const Writer& writer, const Change& change);
 
 // One that fits, with what the check says of the new file: it need not be asked again once that is written.

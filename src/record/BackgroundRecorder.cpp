@@ -26,12 +26,9 @@ void BackgroundRecorder::Work() {
         auto handed = std::exchange(waiting_, {});
         busy_ = true;
         lock.unlock();
-        std::string trouble;
-        for (auto& changes : handed) {
+        for (auto& changes : handed)
             recorder_.Record(std::move(changes));
-            if (trouble.empty())
-                trouble = recorder_.Trouble();
-        }
+        std::string trouble = recorder_.Trouble();
         lock.lock();
         trouble_ = std::move(trouble);
         busy_ = false;

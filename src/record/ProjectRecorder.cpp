@@ -22,6 +22,17 @@ std::string_view BytesOf(const FileState& file) {
     return file ? std::string_view(*file) : std::string_view();
 }
 
+// What may throw; its message, or nothing.
+template <class Work>
+std::string TroubleOf(Work work) {
+    try {
+        work();
+        return {};
+    } catch (const Failure& failure) {
+        return failure.what();
+    }
+}
+
 } // namespace
 
 struct ProjectRecorder::Known {
@@ -37,13 +48,22 @@ ProjectRecorder::Known ProjectRecorder::LastKnown(History& history, const std::s
 }
 
 template <class Work>
-void ProjectRecorder::Trying(Work work) {
-    try {
-        work();
-        trouble_.clear();
-    } catch (const Failure& failure) {
-        trouble_ = failure.what();
-    }
+void ProjectRecorder::Reading(Work work) {
+    unread_ = TroubleOf(work);
+}
+
+std::string ProjectRecorder::Trouble() {
+    if (!unread_.empty())
+        return unread_;
+    return missing_.empty() ? std::string() : missing_.begin()->second;
+}
+
+void ProjectRecorder::Note(const std::vector<FileChange>& changes, const std::string& trouble) {
+    for (const FileChange& change : changes)
+        if (trouble.empty())
+            missing_.erase({change.Record, change.Station});
+        else
+            missing_[{change.Record, change.Station}] = trouble;
 }
 
 // Without a lock: most that are looked at have not changed.
@@ -56,10 +76,11 @@ bool ProjectRecorder::IsNews(const std::string& record, const std::vector<FileCh
 }
 
 void ProjectRecorder::Record(std::vector<FileChange> changes) {
-    Trying([&] {
-        if (!changes.empty() && IsNews(changes.front().Record, changes))
-            EnterAll(changes);
-    });
+    unread_.clear();
+    Note(changes, TroubleOf([&] {
+             if (!changes.empty() && IsNews(changes.front().Record, changes))
+                 EnterAll(changes);
+         }));
 }
 
 void ProjectRecorder::EnterAll(const std::vector<FileChange>& changes) {
@@ -106,7 +127,7 @@ void ProjectRecorder::Append(History& history, const FileChange& change, const F
 std::vector<config::RecordEntry> ProjectRecorder::Entries(const std::string& record,
                                                           std::string_view station) {
     std::vector<config::RecordEntry> entries;
-    Trying([&] {
+    Reading([&] {
         if (auto history = History::OpenToRead(record))
             history->ForEach({.Station = station}, [&](const StoredEntry& entry) {
                 entries.push_back(entry.Facts);
@@ -143,7 +164,7 @@ std::vector<config::KeyChange> ProjectRecorder::Changes(const std::string& recor
 std::vector<config::EntryChanges> ProjectRecorder::ChangesOf(const std::string& record, std::int64_t first,
                                                              std::int64_t last) {
     std::vector<config::EntryChanges> changes;
-    Trying([&] {
+    Reading([&] {
         if (auto history = History::OpenToRead(record))
             history->ForEach({.Behind = first - 1, .Whole = true}, [&](const StoredEntry& entry) {
                 if (entry.Facts.Number <= last)
@@ -156,7 +177,7 @@ std::vector<config::EntryChanges> ProjectRecorder::ChangesOf(const std::string& 
 
 FileState ProjectRecorder::Generation(const std::string& record, std::int64_t number) {
     FileState file;
-    Trying([&] {
+    Reading([&] {
         if (auto history = History::OpenToRead(record))
             if (const auto entry = EntryOf(*history, number))
                 file = history->FileOf(*entry);

@@ -4,8 +4,10 @@
 #include "services/Clock.h"
 #include "services/TimeZone.h"
 
+#include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace gfc::record {
 
@@ -23,7 +25,7 @@ public:
     // All is entered when Record returns.
     void Settle() override {}
     bool IsBusy() override { return false; }
-    std::string Trouble() override { return trouble_; }
+    std::string Trouble() override;
     std::vector<config::RecordEntry> Entries(const std::string& record, std::string_view station) override;
     std::vector<config::KeyChange> Changes(const std::string& record, std::int64_t number) override;
     config::FileState Generation(const std::string& record, std::int64_t number) override;
@@ -41,14 +43,18 @@ private:
     void EnterAll(const std::vector<config::FileChange>& changes);
     void Enter(History& history, const config::FileChange& change);
     void Append(History& history, const config::FileChange& change, const config::FileState& before);
-    // Runs what may throw; its message becomes the trouble.
+    void Note(const std::vector<config::FileChange>& changes, const std::string& trouble);
+    // A reading; its failure is the trouble until the next one.
     template <class Work>
-    void Trying(Work work);
+    void Reading(Work work);
 
     const services::Clock& clock_;
     const services::TimeZone& zone_;
     std::string machineUser_;
-    std::string trouble_;
+    std::string unread_; // why the last reading failed
+    // Why a station lacks an entry, by record and station. One that could be entered does not make up for
+    // another one that could not.
+    std::map<std::pair<std::string, std::string>, std::string> missing_;
 };
 
 } // namespace gfc::record

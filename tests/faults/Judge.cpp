@@ -1,5 +1,7 @@
 #include "faults/Judge.h"
 
+#include "faults/Records.h"
+
 #include <algorithm>
 #include <set>
 
@@ -34,6 +36,13 @@ bool IsOneOf(const std::string& name, std::initializer_list<const char*> names) 
 
 } // namespace
 
+bool IsToldOfRecord(const Ending& ending) {
+    return std::ranges::any_of(ending.Said, [](const std::string& words) {
+        return words.starts_with(FailureMark) && (words.find("istory") != std::string::npos ||
+                                                  words.find("cannot be read") != std::string::npos);
+    });
+}
+
 bool Judge::IsBetween(const std::string& name, const Entry* now) const {
     if (operation_.Between.empty() || !name.ends_with(operation_.Between))
         return false;
@@ -66,11 +75,37 @@ bool Judge::IsStored(const Ending& ending) const {
     return std::ranges::all_of(after_,
                                [&](const auto& file) {
                                    const Entry* now = In(ending.Left, file.first);
-                                   return now != nullptr && *now == file.second;
+                                   return IsRecord(file.first) || (now != nullptr && *now == file.second);
                                }) &&
            std::ranges::all_of(before_, [&](const auto& file) {
                return after_.contains(file.first) || !ending.Left.contains(file.first);
            });
+}
+
+// A record that could not be made, though there is something to be entered in it.
+bool Judge::IsMissed(const std::string& record, const Content& left) const {
+    const std::string start = record.substr(0, record.rfind('_') + 1);
+    return In(after_, record) != nullptr && std::ranges::any_of(left, [&](const auto& file) {
+               return file.first.starts_with(start) && file.first.ends_with(".ini");
+           });
+}
+
+// A record that cannot be written holds nothing up. It is told, but where the program died.
+void Judge::JudgeRecord(const std::string& name, const Ending& ending, Verdict& verdict) const {
+    const Entry* now = In(ending.Left, name);
+    if (const std::string fault = FaultInRecord(In(before_, name), now); !fault.empty())
+        verdict = {Found::Torn, name + ": " + fault};
+    if (now == nullptr ? !IsMissed(name, ending.Left) : !IsBehind(*now))
+        return;
+    verdict.Behind = true;
+    if (!ending.Killed && !IsToldOfRecord(ending) && verdict.Fault.empty())
+        verdict.Fault = "the record lacks an entry, and nobody was told";
+}
+
+std::string Judge::HeldUp(const Ending& ending) const {
+    if (!IsStored(ending))
+        return "a failure in the record kept something else from being stored";
+    return "";
 }
 
 // Who gives up knows what was not done; who tries again gets it done.
@@ -90,6 +125,12 @@ Verdict Judge::Of(const Ending& ending, bool untidy) const {
     if (ending.Failed)
         return {Found::Torn, "the program crashed, hung or lost its way"};
     for (const std::string& name : NamesOf(before_, after_, ending.Left)) {
+        if (IsRecord(name)) {
+            JudgeRecord(name, ending, verdict);
+            if (verdict.TheFound == Found::Torn)
+                return verdict;
+            continue;
+        }
         const Entry* now = In(ending.Left, name);
         const bool leftover = IsLeftover(name) && In(before_, name) == nullptr;
         if (leftover && untidy)
@@ -99,7 +140,7 @@ Verdict Judge::Of(const Ending& ending, bool untidy) const {
             return {found, name + (leftover ? " was left behind" : " is neither old nor new")};
         verdict.TheFound = std::max(verdict.TheFound, found);
     }
-    if (!untidy && !ending.Persisted)
+    if (!untidy && !ending.Persisted && verdict.Fault.empty())
         verdict.Fault = RefusedInVain(ending);
     if (verdict.Fault.empty() && !ending.Killed)
         JudgeWords(ending, verdict);

@@ -44,6 +44,10 @@ struct Operation {
     // The file in which this operation changes single keys, so that what another program changed in it since
     // it was read must still be there. Empty for operations that make or delete whole files.
     std::string ChangesKeysOf = {};
+    // It reads the record first, and cannot go on without it.
+    bool NeedsRecord = false;
+    // An entry of the record is all that it makes.
+    bool IsOfRecord = false;
     // The next start after a death: must find its way about, and remove what was left behind.
     std::function<void(const std::filesystem::path&)> StartAgain = {};
 };

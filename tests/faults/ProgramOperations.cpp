@@ -1,11 +1,14 @@
 // The operations of the program, done as a person does them.
 #include "config/FileIni.h"
 #include "faults/Operation.h"
+#include "faults/Records.h"
 #include "faults/Seam.h"
 #include "forms/files/WaitForFile.h"
+#include "forms/main_window/GFCPrincipal.h"
 #include "forms/program/StartUp.h"
 #include "forms/runs/AddRunStory.h"
 #include "forms/runs/ModifyFlowFile.h"
+#include "record/ProjectRecorder.h"
 #include "scenarios/Moves.h"
 
 #include <gtest/gtest.h>
@@ -39,6 +42,7 @@ public:
     ui::Answer Ask(const ui::Box& box) override {
         if (!patient_)
             return HeadlessScreen::Ask(box);
+        told_ = told_ || TellsOfFailure(box);
         stage_.Say((TellsOfFailure(box) ? FailureMark : "") + box.Title + ": " + box.Text);
         const auto [first, last] = ui::AnswersOf(box.TheButtons);
         return box.TheButtons != ui::Buttons::RetryClose || stage_.TriesAgain() ? first : last;
@@ -53,6 +57,14 @@ public:
     }
     std::optional<std::string> ChooseFile(const ui::FileChoice&) override { return Chosen; }
     std::string AskText(const std::string&, const std::string&) override { return Typed; }
+
+    // Whether a person was told of a failure since it was asked last.
+    bool WasTold() { return std::exchange(told_, false); }
+    void TellFailure(const std::string& words) {
+        told_ = true;
+        stage_.Say(FailureMark + words);
+    }
+    bool TriesAgain() { return stage_.TriesAgain(); }
 
     std::string Chosen;
     std::string Typed;
@@ -71,11 +83,13 @@ private:
 
     const Stage& stage_;
     bool patient_ = false;
+    bool told_ = false;
 };
 
-// The program on real files, with the tool's project in the same folder.
+// The program on real files and with its record, with the tool's project in the same folder. Entries are
+// written at once, where the program lets them be written behind its back: so each trial has one order.
 struct Plant {
-    Plant(const fs::path& folder, const Stage& stage) : Screen(stage), Fake(Screen, *Disk) {
+    Plant(const fs::path& folder, const Stage& stage) : Screen(stage), Fake(Screen, *Disk, Recorder) {
         Fake.Library.ProjectFile = (folder / "plant.KPJ").string();
         moves::ThreeStations(Fake);
     }
@@ -89,7 +103,19 @@ struct Plant {
         Screen.TheStory.Do("begin", [this](Driver&) { Screen.Begin(); });
     }
 
+    // What the status bar says of the record.
+    void LookAtStatusBar(Driver& driver) {
+        auto& window = Fake.Program.Forms.Get<forms::GFCPrincipal>();
+        if (window.recordTimer.Enabled())
+            driver.Tick(Window, "recordTimer");
+        if (const std::string text = window.StatusBar1.PanelText(1); text.starts_with("History not written"))
+            Screen.TellFailure(text);
+    }
+
     std::unique_ptr<platform::Files> Disk = platform::MakeFiles();
+    const FixedClock Clock{2023, 3, 15, 12, 0};
+    const FixedZone Zone{0};
+    record::ProjectRecorder Recorder{Clock, Zone, "operator"};
     PatientScreen Screen;
     FakeProgram Fake;
     Story& TheStory = Screen.TheStory;
@@ -178,6 +204,7 @@ void StartAgain(const fs::path& folder) {
     Plant plant(folder, Quiet);
     moves::StartUp(plant.TheStory);
     plant.TheStory.ClickNode(Window, "TreeGFC", North);
+    plant.TheStory.Check([&folder](Driver&) { EXPECT_EQ(WhatIsNotMadeUp(folder, "plant"), ""); });
     plant.TheStory.Do("save every file again", [&plant, &folder](Driver&) {
         auto& ini = plant.Fake.Hand;
         for (const std::string& name : {NorthFile, LogFile, SouthFile, FarFile}) {
@@ -209,6 +236,7 @@ Operation Told(const std::string& name, std::function<void(const fs::path&)> lay
         until(plant);
         plant.Begin();
         act(plant);
+        plant.TheStory.Do("look at the status bar", [&plant](Driver& d) { plant.LookAtStatusBar(d); });
         moves::Exit(plant.TheStory);
         plant.Play();
     };
@@ -381,6 +409,72 @@ Operation Delete() {
         [](Plant& plant) { plant.TheStory.Menu(Window, "undo"); });
 }
 
+// The configuration of an earlier day stands in the record, and another one in the file.
+std::string Earlier() {
+    std::string bytes = Configured();
+    bytes.replace(bytes.find("OrificeDia="), 11, "OrificeDia=9");
+    return bytes;
+}
+
+void LayRecorded(const fs::path& folder) {
+    LayConfigured(folder);
+    const std::string record = (folder / "KDOrmAGA_plant_History.sqlite").string();
+    const FixedClock clock(2023, 3, 14, 12, 0);
+    const FixedZone zone(0);
+    record::ProjectRecorder recorder(clock, zone, "operator");
+    recorder.Record({{record, "North", "Configuration Wizard", "ana", std::nullopt, Earlier()}});
+    recorder.Record({{record, "North", "Configure", "ana", Earlier(), Configured()}});
+}
+
+// Until nobody has to be told that it failed, or the person gives it up.
+void Insist(Plant& plant, std::function<void(Driver&)> act) {
+    plant.TheStory.Do("do it", [&plant, act = std::move(act)](Driver& driver) {
+        do
+            act(driver);
+        while (plant.Screen.WasTold() && plant.Screen.TriesAgain());
+    });
+}
+
+Operation BringBack() {
+    auto operation = Told(
+        "bring back", LayRecorded,
+        [](Plant& plant) {
+            plant.TheStory.ClickNode(Window, "TreeGFC", North).Menu(Window, "history");
+            plant.TheStory.ClickRow("FrHistory", "ListView1", 2);
+        },
+        [](Plant& plant) {
+            Insist(plant, [](Driver& driver) {
+                if (driver.Enabled("FrHistory", "Command6"))
+                    driver.Click("FrHistory", "Command6");
+            });
+            plant.TheStory.Click("FrHistory", "Command9");
+        });
+    operation.NeedsRecord = true;
+    return operation;
+}
+
+// Choosing the left side anew has both compared again, in case one of them could not be read.
+Operation TakeOver() {
+    auto operation = Told(
+        "take over", LayRecorded,
+        [](Plant& plant) { plant.TheStory.ClickNode(Window, "TreeGFC", North).Menu(Window, "compare"); },
+        [](Plant& plant) {
+            Insist(plant, [&plant](Driver& driver) {
+                driver.Select("FrCompare", "Combo2", 0);
+                const std::string state = driver.Text("FrCompare", "Label4");
+                if (state.find("cannot be read") != std::string::npos ||
+                    state.find("does not give out") != std::string::npos)
+                    plant.Screen.TellFailure(state);
+                for (const char* button : {"Command4", "Command6"})
+                    if (driver.Enabled("FrCompare", button))
+                        driver.Click("FrCompare", button);
+            });
+            plant.TheStory.Click("FrCompare", "Command10");
+        });
+    operation.NeedsRecord = true;
+    return operation;
+}
+
 } // namespace
 
 std::vector<Operation> ProgramOperations() {
@@ -395,7 +489,9 @@ std::vector<Operation> ProgramOperations() {
             InPlace(Disable()),
             CopyWithin(),
             CopyToOther(),
-            Delete()};
+            Delete(),
+            BringBack(),
+            TakeOver()};
 }
 
 } // namespace gfc::test::faults

@@ -77,6 +77,7 @@ Operation Entering(const std::string& name, std::function<void(const fs::path&)>
     };
     operation.Look = LookAtRecord;
     operation.StartAgain = MakeUp;
+    operation.NeedsRecord = operation.IsOfRecord = true;
     return operation;
 }
 

@@ -1,5 +1,7 @@
 #include "faults/Series.h"
 
+#include "faults/Records.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
@@ -36,6 +38,9 @@ const FaultRow Faults[] = {
 
 // The short run kills at every third call, and looks at every third next start.
 constexpr long QuickStep = 3;
+// Every operation makes the same calls for its entry in the record, which have operations of their own: of
+// these the short run takes each tenth, others in each operation.
+constexpr long QuickStepInRecord = 10;
 constexpr long MostTrials = 5; // for one death at a random moment
 
 // What stands beside the file cannot go where its removal is what failed.
@@ -71,6 +76,10 @@ void Series::CheckQuietRun() {
         return Complain("no fault", "the operation itself does not work");
     if (quiet_.Left == theatre_.Before())
         Complain("no fault", "the operation changes nothing");
+    for (const auto& [name, entry] : quiet_.Left)
+        if (IsRecord(name) &&
+            ((IsBehind(entry) && !IsToldOfRecord(quiet_)) || !FaultInRecord(nullptr, &entry).empty()))
+            Complain("no fault", name + " does not say what stands there: " + entry.Bytes);
     if (const std::string fault = FaultInOrder(quiet_.Calls); !fault.empty())
         Complain("no fault", fault);
 }
@@ -100,6 +109,8 @@ void Series::TryEveryFaultAtEveryCall() {
 
 void Series::TryOneFaultAtEveryCall() {
     for (long call = 1; call <= quiet_.Counted; ++call) {
+        if (IsPassedOver(call))
+            continue;
         const FaultRow& row = Faults[static_cast<std::size_t>(call) % std::size(Faults)];
         Try(row.Name, row.ThePlan, call, call % 2 == 0);
     }
@@ -109,14 +120,44 @@ void Series::Try(const std::string& what, Plan plan, long call, bool persists) {
     plan.First = call;
     const Ending ending = theatre_.Run(plan, 0, persists);
     const char* const person = persists ? ", tried again" : "";
-    if (ending.Hit > 0 || ending.Failed)
-        Note(failures_, what + " at call " + std::to_string(call) + CallOf(quiet_.Calls, call) + person,
-             ending, MayBeUntidy(plan, ending));
+    if (ending.Hit == 0 && !ending.Failed)
+        return;
+    const std::string when = what + " at call " + std::to_string(call) + CallOf(quiet_.Calls, call) + person;
+    const bool behind = Note(failures_, when, ending, MayBeUntidy(plan, ending));
+    if (behind && (settings_.Deep || failures_.Runs % QuickStep == 0))
+        CheckNextStart(when);
+    CheckNotHeldUp(when, plan, ending);
+}
+
+void Series::CheckNotHeldUp(const std::string& when, const Plan& plan, const Ending& ending) {
+    const auto& calls = quiet_.Calls;
+    const auto at = static_cast<std::size_t>(plan.First - 1);
+    const bool inRecord = plan.Count == 1 && at < calls.size() && IsOfRecord(calls[at].Path);
+    if (!inRecord || operation_.NeedsRecord)
+        return;
+    const Judge judge(operation_, theatre_.Before(), quiet_.Left);
+    if (const std::string fault = judge.HeldUp(ending); !fault.empty())
+        Complain(when, fault);
+}
+
+void Series::CheckNextStart(const std::string& when) {
+    ++kills_.Restarts;
+    if (!theatre_.StartsAgain())
+        Complain(when, "the next start fails, or leaves something behind");
+}
+
+bool Series::IsPassedOver(long call) const {
+    const auto& calls = quiet_.Calls;
+    const auto at = static_cast<std::size_t>(call - 1);
+    const auto own = static_cast<long>(operation_.Name.size());
+    return at < calls.size() && IsOfRecord(calls[at].Path) && !operation_.IsOfRecord &&
+           (call + own) % QuickStepInRecord != 0;
 }
 
 void Series::KillAtEveryCall() {
     for (long call = 1; call <= quiet_.Counted; call += settings_.Deep ? 1 : QuickStep)
-        NoteDeath("killed before call", call, theatre_.Run({Effect::Kills, 0, call, 1}));
+        if (settings_.Deep || !IsPassedOver(call))
+            NoteDeath("killed before call", call, theatre_.Run({Effect::Kills, 0, call, 1}));
     NoteDeath("killed after call", quiet_.Counted, theatre_.Run({Effect::KillsAfter, 0, quiet_.Counted, 1}));
 }
 
@@ -143,16 +184,13 @@ long Series::Microseconds() {
 }
 
 void Series::NoteDeath(const std::string& what, long number, const Ending& ending) {
-    Note(ending.Killed ? kills_ : spared_, what + " " + std::to_string(number), ending, true);
-    const bool looks = settings_.Deep || kills_.Runs % QuickStep == 0;
-    if (!operation_.StartAgain || !ending.Killed || !looks)
-        return;
-    ++kills_.Restarts;
-    if (!theatre_.StartsAgain())
-        Complain(what + " " + std::to_string(number), "the next start fails, or leaves something behind");
+    const std::string when = what + " " + std::to_string(number);
+    (void)Note(ending.Killed ? kills_ : spared_, when, ending, true);
+    if (operation_.StartAgain && ending.Killed && (settings_.Deep || kills_.Runs % QuickStep == 0))
+        CheckNextStart(when);
 }
 
-void Series::Note(Tally& tally, const std::string& when, const Ending& ending, bool untidy) {
+bool Series::Note(Tally& tally, const std::string& when, const Ending& ending, bool untidy) {
     const Verdict verdict = Judge(operation_, theatre_.Before(), quiet_.Left).Of(ending, untidy);
     ++tally.Runs;
     ++tally.Of[static_cast<std::size_t>(verdict.TheFound)];
@@ -160,6 +198,7 @@ void Series::Note(Tally& tally, const std::string& when, const Ending& ending, b
     tally.NotTold += verdict.NotTold ? 1 : 0;
     if (!verdict.Fault.empty())
         Complain(when, verdict.Fault);
+    return verdict.Behind && operation_.StartAgain;
 }
 
 void Series::Complain(const std::string& when, const std::string& fault) {

@@ -51,12 +51,16 @@ private:
     void CheckOutsideEdit();
     void TryEveryFaultAtEveryCall();
     void TryOneFaultAtEveryCall();
+    [[nodiscard]] bool IsPassedOver(long call) const;
     void Try(const std::string& what, Plan plan, long call, bool persists);
     void KillAtEveryCall();
     void KillAtRandom(long kills);
     [[nodiscard]] long Microseconds();
+    void CheckNotHeldUp(const std::string& when, const Plan& plan, const Ending& ending);
+    void CheckNextStart(const std::string& when);
     void NoteDeath(const std::string& what, long number, const Ending& ending);
-    void Note(Tally& tally, const std::string& when, const Ending& ending, bool untidy);
+    // True if the next start has something to make up.
+    bool Note(Tally& tally, const std::string& when, const Ending& ending, bool untidy);
     void Complain(const std::string& when, const std::string& fault);
 
     const Operation& operation_;

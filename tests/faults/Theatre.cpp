@@ -1,5 +1,7 @@
 #include "faults/Theatre.h"
 
+#include "faults/Records.h"
+
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -160,6 +162,7 @@ Theatre::~Theatre() {
 
 Content Theatre::Look() const {
     Content content = operation_.Look(room_.Folder());
+    ReadRecords(room_.Folder(), content);
     for (auto& [name, entry] : content)
         if (operation_.Essence)
             entry.Bytes = operation_.Essence(name, std::move(entry.Bytes));

@@ -123,6 +123,9 @@ TEST_F(ProjectRecorderTest, SaysWhyItCannotBeWrittenAndGoesOnWhenItCan) {
     const std::string good = std::exchange(Record, Folder.Path("missing/x.sqlite"));
     Enter("North", command::Wizard, std::nullopt, one);
     EXPECT_THAT(Recorder.Trouble(), HasSubstr("cannot be opened"));
+    std::filesystem::create_directory(Folder.Path("missing"));
+    Enter("North", command::Wizard, std::nullopt, one);
+    EXPECT_EQ(Recorder.Trouble(), "");
     Record = good;
     test::PutBytes(Record, "no database at all, whatever it is called");
     Enter("North", command::Wizard, std::nullopt, one);
@@ -132,6 +135,18 @@ TEST_F(ProjectRecorderTest, SaysWhyItCannotBeWrittenAndGoesOnWhenItCan) {
     Enter("North", command::Wizard, std::nullopt, one);
     EXPECT_EQ(Recorder.Trouble(), "");
     EXPECT_THAT(Commands(), SizeIs(1));
+}
+
+TEST_F(ProjectRecorderTest, WhatCouldNotBeEnteredIsTroubleUntilItIsMadeUpWhateverElseIsEntered) {
+    const std::string other = Folder.Path("missing/x.sqlite");
+    Recorder.Record({{other, "Far", std::string(command::CopyToProject), "ana", std::nullopt, one}});
+    Enter("North", command::Wizard, std::nullopt, one);
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("x.sqlite: it cannot be opened"));
+    EXPECT_THAT(Commands(), SizeIs(1));
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("x.sqlite")) << "a reading that goes well changes nothing";
+    std::filesystem::create_directory(Folder.Path("missing"));
+    Recorder.Record({{other, "Far", {}, {}, one, one}});
+    EXPECT_EQ(Recorder.Trouble(), "");
 }
 
 TEST_F(ProjectRecorderTest, LeavesAnotherProgramsDatabaseAlone) {

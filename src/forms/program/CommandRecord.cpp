@@ -95,19 +95,25 @@ TouchedFiles::~TouchedFiles() {
 }
 
 void TouchedFiles::Note(const std::string& file) {
+    if (!config::NameInConfigFile(file) || before_.contains(file))
+        return;
     FileState state;
-    if (config::NameInConfigFile(file) && !before_.contains(file) &&
-        ReadState(program_.Machine.Files, file, state))
-        before_.emplace(file, std::move(state));
+    if (!ReadState(program_.Machine.Files, file, state))
+        unknown_.insert(file);
+    before_.emplace(file, std::move(state));
 }
 
-std::vector<FileChange> TouchedFiles::Changes(std::string_view command) const {
+std::vector<FileChange> TouchedFiles::Changes(std::string_view command,
+                                              std::vector<std::string>& unread) const {
     std::vector<FileChange> changes;
     for (const auto& [path, before] : before_) {
         FileState after;
-        if (!ReadState(program_.Machine.Files, path, after))
+        if (!ReadState(program_.Machine.Files, path, after)) {
+            unread.push_back(path);
             continue;
-        auto& change = changes.emplace_back(ChangeOf(program_, path, before, std::move(after)));
+        }
+        const bool known = !unknown_.contains(path);
+        auto& change = changes.emplace_back(ChangeOf(program_, path, known ? before : after, after));
         change.Command = NameFor(command, change);
     }
     return changes;
@@ -117,9 +123,14 @@ void RunRecorded(Program& program, std::string_view name, const std::function<vo
     program.Recorder.Settle();
     const TouchedFiles touched(program);
     command();
-    HandOver(program.Recorder, touched.Changes(name));
-    if (!program.Screen.Ended())
-        program.Forms.Get<GFCPrincipal>().WatchRecord();
+    std::vector<std::string> unread;
+    HandOver(program.Recorder, touched.Changes(name, unread));
+    if (program.Screen.Ended())
+        return;
+    auto& window = program.Forms.Get<GFCPrincipal>();
+    window.WatchRecord();
+    if (!unread.empty())
+        window.StatusBar1.SetPanelText(1, "History not written. The file cannot be read: " + unread.front());
 }
 
 std::string_view NameOfConfigure(Program& program) {

@@ -4,8 +4,10 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace gfc::project {
 struct Project;
@@ -25,15 +27,17 @@ public:
     TouchedFiles(const TouchedFiles&) = delete;
     TouchedFiles& operator=(const TouchedFiles&) = delete;
 
-    // What has become of them. A file that could not be read before or cannot be read now is left out: the
-    // next command finds it changed.
-    [[nodiscard]] std::vector<config::FileChange> Changes(std::string_view command) const;
+    // What has become of them. One that could not be read before is only looked at, and found changed. One
+    // that cannot be read now is left out and named in unread: the next command finds it changed.
+    [[nodiscard]] std::vector<config::FileChange> Changes(std::string_view command,
+                                                          std::vector<std::string>& unread) const;
 
 private:
     void Note(const std::string& file);
 
     Program& program_;
     std::map<std::string, config::FileState> before_; // by path
+    std::set<std::string> unknown_;                   // those whose bytes from before could not be had
 };
 
 // Runs a command and has the record enter what came of it. The entries of the command before are waited for,

@@ -52,6 +52,14 @@ bool BringBack(Program& program, const std::string& record, const config::Record
         return false;
     const std::string file = program.Session.Project.ConfigFileOf(entry.Station);
     const auto now = program.Machine.Files.Read(file);
+    const std::string reason = program.Machine.Files.LastFailure(); // before the next call
+    if (!now && program.Machine.Files.Exists(file)) {
+        Tell(program, title,
+             "The present configuration cannot be read, and is left as it is.\r\n" + file +
+                 "\r\n\r\nThe system says: " + reason,
+             ui::Icon::Exclamation);
+        return false;
+    }
     if (now == bytes) {
         Tell(program, title, "The station's configuration already is the one that this entry left.",
              ui::Icon::Information);

@@ -107,11 +107,25 @@ TEST_F(CommandRecordTest, EnablingThatBringsARunIsAddingIt) {
     EXPECT_EQ(Recorder.Recorded[1].Command, "Add run");
 }
 
-TEST_F(CommandRecordTest, LeavesOutWhatCannotBeRead) {
+TEST_F(CommandRecordTest, LooksAtWhatCouldNotBeReadBefore) {
     TheWorld.Files.Content[North] = "[A]\r\nk=1\r\n";
     TheWorld.Files.Unreadable.insert(North);
     Run("Delete", [&](Program& program) { EXPECT_TRUE(program.Storage.TryToDelete(North)); });
+    ASSERT_THAT(Recorder.Recorded, SizeIs(1));
+    EXPECT_EQ(Recorder.Recorded[0].Station, "North");
+    EXPECT_EQ(Recorder.Recorded[0].Before, std::nullopt);
+    EXPECT_EQ(Recorder.Recorded[0].After, std::nullopt) << "the record finds by itself that it is gone";
+}
+
+TEST_F(CommandRecordTest, LeavesOutAndTellsWhatCannotBeReadAfter) {
+    TheWorld.Files.Content[North] = "[A]\r\nk=1\r\n";
+    Run("Configure", [&](Program& program) {
+        Write(program, "A", "k", "2", North);
+        TheWorld.Files.Unreadable.insert(North);
+    });
     EXPECT_THAT(Recorder.Recorded, IsEmpty());
+    EXPECT_EQ(TheWorld.Program.Forms.Get<GFCPrincipal>().StatusBar1.PanelText(1),
+              "History not written. The file cannot be read: " + North);
 }
 
 TEST_F(CommandRecordTest, TheStartLooksAtEveryStation) {

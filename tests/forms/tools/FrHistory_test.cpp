@@ -146,6 +146,19 @@ TEST_F(History, brings_a_deleted_station_back) {
     PlayToTheEnd();
 }
 
+TEST_F(History, puts_nothing_over_a_configuration_that_cannot_be_read) {
+    Open()
+        .Do("lock it", [&](Driver&) { Files.Unreadable.insert(North); })
+        .ClickRow(window, "ListView1", 5)
+        .Click(window, "Command6")
+        .Box("History", "", Icon::Exclamation)
+        .Check([&](Driver&) {
+            EXPECT_EQ(Files.Content[North], Present);
+            EXPECT_THAT(Screen.BoxesShown.back().Text, HasSubstr("cannot be read, and is left as it is"));
+        });
+    PlayToTheEnd();
+}
+
 TEST_F(History, leaves_everything_as_it_is_where_the_disk_refuses) {
     Open()
         .Do("fill the disk", [&](Driver&) { Files.DiskFull = true; })
