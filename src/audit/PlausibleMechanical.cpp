@@ -119,6 +119,15 @@ void CheckTemperature(const StationConfig& station, std::string_view key, const 
         sink.Add(RuleId::ReferenceTemperature, {key, text}, {WithUnit(text, Quantity::Temperature, station)});
 }
 
+void CheckOneTemperature(const StationConfig& station, const RunMechanical& mechanical, Sink& sink) {
+    const std::string& bore = mechanical.OrificeDiaRefTemp;
+    const std::string& pipe = mechanical.InternalPipeDiaRefTemp;
+    if (NumberOf(bore) && NumberOf(pipe) && NumberOf(bore) != NumberOf(pipe))
+        sink.Add(
+            RuleId::ReferenceTemperaturesDiffer, {"OrificeDiaRefTemp", bore},
+            {WithUnit(bore, Quantity::Temperature, station), WithUnit(pipe, Quantity::Temperature, station)});
+}
+
 void CheckExpansion(const StationConfig& station, std::string_view key, const std::string& text, Sink& sink) {
     constexpr double least = 0.5e-6, most = 40e-6; // per degree C: from Invar to zinc
     const double unit = ScaleOf(station.SystemUnits).PerCelsius;
@@ -137,6 +146,7 @@ void CheckPlate(const StationConfig& station, const OrificeLimits& limits, const
         OrificeCheck(station, limits, diameters, sink).Check();
         CheckTemperature(station, "OrificeDiaRefTemp", mechanical.OrificeDiaRefTemp, sink);
         CheckTemperature(station, "InternalPipeDiaRefTemp", mechanical.InternalPipeDiaRefTemp, sink);
+        CheckOneTemperature(station, mechanical, sink);
     }
     if (mechanical.OrificeMaterial == "Other")
         CheckExpansion(station, "OrificeThermalExpCoeff", mechanical.OrificeThermalExpCoeff, sink);

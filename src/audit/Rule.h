@@ -90,6 +90,7 @@ enum class RuleId {
     PipeISO5167,
     DiametersInMetres,
     ReferenceTemperature,
+    ReferenceTemperaturesDiffer,
     ThermalExpansion,
     AccelabarRow,
 

@@ -160,6 +160,8 @@ const std::vector<Case>& Cases() {
         {DiametersInMetres, GBT, SetAll({{"OrificeDia", "0.193675"}, {"InternalPipeDia", "0.363513"}}), [](auto&) {}},
         {ReferenceTemperature, {.Units = Metric}, Set("Run1", "OrificeDiaRefTemp", "68.00"),
                                Set("Run1", "OrificeDiaRefTemp", "15")},
+        {ReferenceTemperaturesDiffer, US, SetAll({{"OrificeDiaRefTemp", "68"}, {"InternalPipeDiaRefTemp", "60"}}),
+                                          SetAll({{"OrificeDiaRefTemp", "68"}, {"InternalPipeDiaRefTemp", "68.0"}})},
         {ThermalExpansion, US, SetAll({{"PipeMaterial", "Other"}, {"PipeThermalExpCoeff", "6.2"}}),
                                SetAll({{"PipeMaterial", "Other"}, {"PipeThermalExpCoeff", "0.0000062"}})},
         {AccelabarRow, {.Algorithm = Accelabar}, Set("Run1", "AccelabarSize", "4"),
