@@ -32,31 +32,31 @@ public:
     virtual ~Plant() = default;
 
     [[nodiscard]] project::TagList Ask(int station) {
-        return Library->ReadTags(stations_[Place(station)].Name, ProjectFile, {});
+        return Library->ReadTags(NameOf(station), Project.ProjectFile, {});
     }
     [[nodiscard]] audit::Findings Check(int station) {
-        const std::string& name = stations_[Place(station)].Name;
-        return audit::CheckFile(*files_, {FileOf(name), "/jobs/plant.KPJ", "plant", name}, Ask(station))
-            .Findings;
+        return audit::CheckStation(*files_, *Library, Project, NameOf(station)).Findings;
     }
     [[nodiscard]] std::optional<std::string> Read(int station) {
-        return files_->Read(FileOf(stations_[Place(station)].Name));
+        return files_->Read(Project.ConfigFileOf(NameOf(station)));
+    }
+    [[nodiscard]] const std::string& NameOf(int station) const {
+        return stations_[static_cast<std::size_t>(station % Stations)].Name;
     }
 
 protected:
     [[nodiscard]] const std::vector<SoundStation>& All() const { return stations_; }
 
     Folder InFolder;
-    std::string ProjectFile = "/jobs/plant.KPJ";
+    project::Project Project{.ProjectFile = InFolder.File("plant.KPJ"),
+                             .ProjectName = "plant",
+                             .Paths = config::PathsOf(InFolder.File("plant.KPJ")),
+                             .Stations = {}};
     std::unique_ptr<project::AddOnLibrary> Library;
 
 private:
-    static std::size_t Place(int station) { return static_cast<std::size_t>(station % Stations); }
-    [[nodiscard]] std::string FileOf(const std::string& name) const {
-        return InFolder.File("KDOrmAGA_plant_" + name + ".ini");
-    }
     void Add(SoundStation station) {
-        Put(FileOf(station.Name), station.File);
+        Put(Project.ConfigFileOf(station.Name), station.File);
         stations_.push_back(std::move(station));
     }
 
@@ -71,13 +71,12 @@ struct PlantAtHand : Plant {
 struct PlantOfTheWorkshop : Plant {
     PlantOfTheWorkshop() {
         qputenv("XDG_STATE_HOME", InFolder.Path().c_str());
-        ProjectFile = InFolder.File("asked.KPJ");
         std::string table = TableHeading;
         for (const SoundStation& station : All())
             table += station.Table();
         Put(InFolder.File("tags.csv"), table);
-        Workshop("new " + ProjectFile);
-        Workshop("open " + ProjectFile);
+        Workshop("new " + Project.ProjectFile);
+        Workshop("open " + Project.ProjectFile);
         Workshop("import-tags " + InFolder.File("tags.csv"));
         std::string error;
         Library = project::LoadAddOnLibrary(platform::LoadLibraryAt,
@@ -117,6 +116,24 @@ void AskAndRead(benchmark::State& state, int scale) {
                     }));
 }
 
+// Of the command that looks over as many, one after the other.
+template <int StationsOf(int scale)>
+void PeakOfCommand(benchmark::State& state, int scale) {
+    const PlantOfTheWorkshop plant;
+    std::string command = "exec " + Beside("bench-peak-of") + " " + Beside("gfc-audit") + " check";
+    for (int station = 0; station < StationsOf(scale); ++station)
+        command += " " + plant.NameOf(station);
+    for (auto _ : state)
+        TakeBytes(state, 1024 * std::atof(FirstLineOf(command).c_str()));
+}
+
+constexpr int All(int scale) {
+    return Stations * scale;
+}
+constexpr int One(int) {
+    return 1;
+}
+
 } // namespace
 
 void ContestAudit() {
@@ -124,6 +141,8 @@ void ContestAudit() {
     Contest("audit", Floor, AskAndRead<PlantOfTheWorkshop>, Pace::Once);
     Contest("audit_at_hand", Ours, Audit<PlantAtHand>, Pace::Once);
     Contest("audit_at_hand", Floor, AskAndRead<PlantAtHand>, Pace::Once);
+    Contest("audit_memory", Ours, PeakOfCommand<All>, Pace::Once);
+    Contest("audit_memory", Floor, PeakOfCommand<One>, Pace::Once);
 }
 
 } // namespace gfc::bench

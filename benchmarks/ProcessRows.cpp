@@ -80,8 +80,8 @@ Work Starting(const std::string& program, std::chrono::seconds rest = {}) {
 void Peak(benchmark::State& state, int scale) {
     const std::string tags = std::to_string(static_cast<long long>(Tags) * scale);
     for (auto _ : state) {
-        const Process process = StartOf("exec " + Beside("bench-tag-memory") + " " + tags);
-        TakeBytes(state, 1024 * std::atof(LineOf(process).c_str()));
+        TakeBytes(state,
+                  1024 * std::atof(FirstLineOf("exec " + Beside("bench-tag-memory") + " " + tags).c_str()));
     }
 }
 

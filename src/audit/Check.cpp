@@ -8,6 +8,9 @@
 #include "services/Text.h"
 
 #include <algorithm>
+#include <future>
+#include <iterator>
+#include <memory>
 
 namespace gfc::audit {
 
@@ -15,6 +18,9 @@ namespace {
 
 constexpr std::string_view NameStart = "KDOrmAGA_";
 constexpr std::string_view NameEnd = ".ini";
+
+// Here, where the system gives no thread.
+constexpr std::launch Elsewhere = std::launch::async | std::launch::deferred;
 
 void CheckPlausibility(const Subject& subject, Sink& sink) {
     const config::StationConfig& station = subject.Station();
@@ -29,21 +35,57 @@ void CheckPlausibility(const Subject& subject, Sink& sink) {
         }
 }
 
-void CheckAll(const Subject& subject, std::optional<project::TagList> tags, Findings& findings) {
-    Sink sink(findings);
-    CheckNames(subject, sink);
-    CheckLayout(subject, sink);
-    CheckValues(subject, sink);
-    CheckRuns(subject, sink);
-    CheckPlausibility(subject, sink);
-    const std::vector<Bound> all = BindingsOf(subject);
-    if (tags)
-        CheckTags(subject, all, *std::move(tags), sink);
-    CheckDirections(all, sink);
-    CheckSharedTags(all, sink);
-    CheckTagNames(all, subject.Station(), sink);
-    SortBySeverity(findings);
-}
+// What is found in a station's file: first without its tags, then with them.
+class FileCheck {
+public:
+    FileCheck(platform::Files& files, const Whose& whose)
+        : report_{.Station = whose.Station, .File = whose.File} {
+        auto bytes = whose.File.empty() ? std::nullopt : files.Read(whose.File);
+        report_.Configured = bytes.has_value() || (!whose.File.empty() && files.Exists(whose.File));
+        if (bytes)
+            CheckBytes(whose, *std::move(bytes));
+        else if (report_.Configured)
+            Sink(report_.Findings).Add(RuleId::FileUnreadable, {});
+    }
+
+    StationReport With(std::optional<project::TagList> tags) && {
+        report_.TagsMark = tags ? project::MarkOf(*tags) : 0;
+        if (subject_ && tags) {
+            Sink sink(report_.Findings);
+            CheckTags(*subject_, bindings_, *std::move(tags), sink);
+        }
+        std::ranges::move(ofBindings_, std::back_inserter(report_.Findings));
+        SortBySeverity(report_.Findings);
+        return std::move(report_);
+    }
+
+private:
+    void CheckBytes(const Whose& whose, std::string bytes) {
+        subject_ = std::make_unique<Subject>(whose, std::move(bytes));
+        bindings_ = BindingsOf(*subject_);
+        CheckContent();
+        CheckBindings();
+    }
+    void CheckContent() {
+        Sink sink(report_.Findings);
+        CheckNames(*subject_, sink);
+        CheckLayout(*subject_, sink);
+        CheckValues(*subject_, sink);
+        CheckRuns(*subject_, sink);
+        CheckPlausibility(*subject_, sink);
+    }
+    void CheckBindings() {
+        Sink sink(ofBindings_);
+        CheckDirections(bindings_, sink);
+        CheckSharedTags(bindings_, sink);
+        CheckTagNames(bindings_, subject_->Station(), sink);
+    }
+
+    StationReport report_;
+    std::unique_ptr<Subject> subject_; // null for a file that cannot be read
+    std::vector<Bound> bindings_;
+    Findings ofBindings_; // they stand behind those of the tags
+};
 
 std::string InFolder(std::string_view folder, std::string_view name) {
     return std::string(folder) + platform::Separator + std::string(name);
@@ -63,15 +105,7 @@ std::string StationReport::FileName() const {
 }
 
 StationReport CheckFile(platform::Files& files, const Whose& whose, std::optional<project::TagList> tags) {
-    StationReport report{.Station = whose.Station, .File = whose.File};
-    report.TagsMark = tags ? project::MarkOf(*tags) : 0;
-    auto bytes = whose.File.empty() ? std::nullopt : files.Read(whose.File);
-    report.Configured = bytes.has_value() || (!whose.File.empty() && files.Exists(whose.File));
-    if (bytes)
-        CheckAll(Subject(whose, *std::move(bytes)), std::move(tags), report.Findings);
-    else if (report.Configured)
-        Sink(report.Findings).Add(RuleId::FileUnreadable, {});
-    return report;
+    return FileCheck(files, whose).With(std::move(tags));
 }
 
 StationReport CheckFile(platform::Files& files, const Whose& whose, const project::TagList* tags) {
@@ -83,7 +117,10 @@ StationReport CheckStation(platform::Files& files, project::AddOnLibrary& librar
     const Whose whose{project.ConfigFileOf(station), project.ProjectFile, project.ProjectName, station};
     if (whose.File.empty() || !files.Exists(whose.File))
         return {.Station = station, .File = whose.File};
-    return CheckFile(files, whose, library.ReadTags(station, project.ProjectFile, {}));
+    // The library is asked on the thread on which it always is.
+    auto check = std::async(Elsewhere, [&] { return std::make_unique<FileCheck>(files, whose); });
+    auto tags = library.ReadTags(station, project.ProjectFile, {});
+    return std::move(*check.get()).With(std::move(tags));
 }
 
 bool IsConfigurationName(std::string_view fileName) {

@@ -38,7 +38,8 @@ struct Whose {
 // For who keeps the tags; null for none.
 [[nodiscard]] StationReport CheckFile(platform::Files& files, const Whose& whose,
                                       const project::TagList* tags);
-// A station of the open project, whose tags are asked for if it has a file.
+// A station of the open project, whose tags are asked for if it has a file; meanwhile another thread looks at
+// the file.
 [[nodiscard]] StationReport CheckStation(platform::Files& files, project::AddOnLibrary& library,
                                          const project::Project& project, const std::string& station);
 
