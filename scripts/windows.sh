@@ -7,6 +7,7 @@ windows_preset() {
     i686-whole) echo windows ;;
     i686-core) echo windows-core ;;
     x86_64-whole) echo windows64 ;;
+    x86_64-core) echo windows64-core ;;
     *) echo "There is no such form: $1 $2" >&2; return 2 ;;
     esac
 }

@@ -1,26 +1,7 @@
 #!/usr/bin/env bash
 # Runs gfc-configure as a shell does: forty stations from one, what does not fit, what is bound anew after a rename.
-#   gfc-configure.sh BIN     the folder of the programs
-set -u
-bin=$1
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-export HOME=$work XDG_STATE_HOME=$work/state
-unset DISPLAY WAYLAND_DISPLAY
-failed=0
-
-# expect PROGRAM CODE WORDS ARGUMENT...: the exit code, and a text in what is given out.
-expect() {
-    local program=$1 code=$2 words=$3 out status
-    shift 3
-    out=$("$bin/$program" "$@" 2>&1)
-    status=$?
-    if [ $status -ne "$code" ] || ! grep -qF -- "$words" <<<"$out"; then
-        echo "$program $*: exit code $status instead of $code, or no \"$words\" in:" >&2
-        head -n 30 <<<"$out" >&2
-        failed=1
-    fi
-}
+#   gfc-configure.sh BIN [RUNNER...]
+. "$(dirname "$0")/programs.sh"
 configure() { expect gfc-configure "$@"; }
 same() { [ "$(sha256sum "$plant"/*.ini)" = "$before" ] || { echo "a file was changed: $1" >&2; failed=1; }; }
 
@@ -29,18 +10,18 @@ source=Lakeside_Delivery
 configure 3 "no project is open" copy A B
 configure 2 "" bogus
 configure 0 "Exit codes:" --help
-"$bin/io-workshop" demo "$plant" >/dev/null || exit 1
-"$bin/io-workshop" open "$plant/plant.KPJ" >/dev/null || exit 1
+program io-workshop demo "$plant" >/dev/null || exit 1
+program io-workshop open "$plant/plant.KPJ" >/dev/null || exit 1
 
 # Forty stations like it, with loops of their own: 601 is 1101 in the first of them.
-"$bin/io-workshop" export-tags "$work/tags.csv" >/dev/null || exit 1
+program io-workshop export-tags "$work/tags.csv" >/dev/null || exit 1
 twins=()
 head -n 1 "$work/tags.csv" >"$work/twins.csv"
 for n in {1..40}; do
     twins+=("Twin_$n")
     sed -n "s/^$source,\([^,]*\),[^,]*,[^,]*,/Twin_$n,\1,,,/; T; s/-60\([0-9]\)/-$((n + 10))0\1/g; p" "$work/tags.csv"
 done >>"$work/twins.csv"
-"$bin/io-workshop" import-tags "$work/twins.csv" >"$work/import.txt" 2>&1 || { cat "$work/import.txt" >&2; exit 1; }
+program io-workshop import-tags "$work/twins.csv" >"$work/import.txt" 2>&1 || { cat "$work/import.txt" >&2; exit 1; }
 
 before=$(sha256sum "$plant"/*.ini)
 configure 0 "TIT-601_PV (FX 1202) -> TIT-1101_PV (FX 1202)  [the same name but for its number: 601 is 1101" copy $source Twin_1 --rebind --preview
@@ -68,7 +49,7 @@ configure 1 "Odorizer_2: 11 variables have no tags" copy $source Odorizer_2 Twin
 configure 0 "Odorizer_2: left out" copy $source Odorizer_2 Twin_1 --rebind --replace --only-complete
 
 # The tags of one station get other names; bound anew it is sound again.
-"$bin/io-workshop" rename-tag Twin_7 TIT-1701_PV TT_NEW >/dev/null 2>&1 || { echo "no rename" >&2; failed=1; }
+program io-workshop rename-tag Twin_7 TIT-1701_PV TT_NEW >/dev/null 2>&1 || { echo "no rename" >&2; failed=1; }
 expect gfc-audit 1 "tag-not-found" check Twin_7
 configure 0 "TT_NEW (FX 1202)  [the same register, which was called TIT-1701_PV]" rebind Twin_7 --preview
 configure 0 "Twin_7: nothing to report" rebind Twin_7
@@ -76,7 +57,7 @@ expect gfc-audit 0 "Twin_7: nothing to report" check Twin_7
 expect gfc-audit 0 "Bind anew" history Twin_7
 
 # A table of a station gives the same file again; a faulty one gives every fault and nothing else.
-"$bin/gfc-configure" template Twin_3 Twin_4 -o "$work/plan.csv" || failed=1
+program gfc-configure template Twin_3 Twin_4 -o "$work/plan.csv" || failed=1
 before=$(sha256sum "$plant"/*.ini)
 configure 1 "replaced with --replace alone" apply "$work/plan.csv"
 configure 0 "Twin_4: stands already as the table says" apply "$work/plan.csv" --replace --preview
@@ -89,7 +70,7 @@ configure 1 '"column": "OrificeDia"' apply "$work/faulty.csv" --replace --json
 same "a faulty table writes nothing"
 configure 2 "cannot be read" apply "$work/nowhere.csv"
 configure 2 "not configured" template Valve_Site_12
-"$bin/gfc-configure" template $source --tags suggested | sed "s/^\(\xEF\xBB\xBF\)\?$source/Northgate_Custody/" >"$work/new.csv"
+program gfc-configure template $source --tags suggested | sed "s/^\(\xEF\xBB\xBF\)\?$source/Northgate_Custody/" >"$work/new.csv"
 configure 1 "What is suggested is not sure: FI-201_VOL" apply "$work/new.csv" --preview
 configure 0 "2 of 2 stations written" apply "$work/plan.csv" --replace --user 99
 expect gfc-audit 0 "Twin_3  Apply plan  99" history Twin_3

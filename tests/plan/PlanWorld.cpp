@@ -2,6 +2,7 @@
 
 #include "config/FileIni.h"
 #include "suggest/Known.h"
+#include "support/InJobs.h"
 #include "support/TestFolders.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ std::string ModuleTypeOf(const std::string& type) {
 } // namespace
 
 PlanWorld::PlanWorld() {
+    Library.ProjectFile = InJobs("plant.KPJ");
     Project.ProjectFile = Library.ProjectFile;
     Project.ProjectName = project::ProjectNameOf(Library.ProjectFile);
     Project.Paths = config::PathsOf(Library.ProjectFile);

@@ -1,5 +1,6 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/InJobs.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,7 @@ using ui::Icon;
 
 const std::string configurador = "Configurador";
 const std::string north = "All Stations\\North";
-const std::string northFile = platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_North.ini");
+const std::string northFile = InJobs("KDOrmAGA_plant_North.ini");
 
 const std::string stored =
     "; by hand\r\n"

@@ -1,6 +1,7 @@
 // Whole configurations are copied.
 #include "scenarios/Moves.h"
 #include "scenarios/StoredStation.h"
+#include "support/InJobs.h"
 #include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
@@ -42,7 +43,7 @@ void CopyWithin(Story& story) {
 
 void CopyAcross(Story& story, const std::string& station) {
     Choose(story, NorthNode, "copiar2");
-    story.ChooseFile(platform::WithOwnSeparators("/jobs/other.KPJ")).Prompt(prompt, station);
+    story.ChooseFile(InJobs("other.KPJ")).Prompt(prompt, station);
 }
 
 Scenario WithinTheProject() {
@@ -61,9 +62,8 @@ Scenario WithinTheProject() {
                  SeeImage(story, "All Stations\\Empty", "StationConfig");
                  SeeImage(story, moves::RunNode(5, "Empty"), "Run");
                  story.Check([=](Driver&) {
-                     EXPECT_EQ(
-                         outside->Content("Empty"),
-                         CopyOf(outside->Content(), platform::WithOwnSeparators("/jobs/plant.KPJ"), "Empty"));
+                     EXPECT_EQ(outside->Content("Empty"),
+                               CopyOf(outside->Content(), InJobs("plant.KPJ"), "Empty"));
                      EXPECT_TRUE(outside->Program->Library.FilesToLoad.empty()) << "at the exit only";
                  });
              },
@@ -118,18 +118,16 @@ Scenario NothingCanBeWritten() {
                         .Beside =
                             [](FakeProgram& program) {
                                 for (const std::string& file :
-                                     {platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_South.ini"),
-                                      platform::WithOwnSeparators("/jobs/KDOrmAGA_other_Far.ini")})
+                                     {InJobs("KDOrmAGA_plant_South.ini"), InJobs("KDOrmAGA_other_Far.ini")})
                                     program.Files.Unwritable.insert(file);
                             },
                         .Tell =
                             [](Story& story, const TheOutside&) {
                                 CopyWithin(story);
                                 story.Click("frCopyStation", "Command1");
-                                NotCopied(story,
-                                          platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_South.ini"));
+                                NotCopied(story, InJobs("KDOrmAGA_plant_South.ini"));
                                 CopyAcross(story, "Far");
-                                NotCopied(story, platform::WithOwnSeparators("/jobs/KDOrmAGA_other_Far.ini"));
+                                NotCopied(story, InJobs("KDOrmAGA_other_Far.ini"));
                             }});
 }
 
@@ -153,7 +151,7 @@ Scenario ProjectOfOneStation() {
 }
 
 Scenario ToAnotherProject() {
-    const std::string far = platform::WithOwnSeparators("/jobs/KDOrmAGA_other_Far Away.ini");
+    const std::string far = InJobs("KDOrmAGA_other_Far Away.ini");
     return TheScenario({.Name = "a_configuration_is_copied_to_another_project",
                         .Golden = "aga7_iso3_fixed_external",
                         .Tell =
@@ -168,8 +166,7 @@ Scenario ToAnotherProject() {
                         .After =
                             [far](const Outside& outside) {
                                 EXPECT_EQ(outside.Program->Files.Content[far],
-                                          CopyOf(outside.Content(),
-                                                 platform::WithOwnSeparators("/jobs/other.KPJ"), "Far Away"));
+                                          CopyOf(outside.Content(), InJobs("other.KPJ"), "Far Away"));
                                 EXPECT_EQ(outside.Program->Library.FilesToLoad.size(), 1U);
                             }});
 }

@@ -1,5 +1,6 @@
 // The trial of an edit on a copy of the file, and what is done where it fails.
 #include "scenarios/ModifyMoves.h"
+#include "support/InJobs.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +12,8 @@ using namespace modify;
 using moves::RunNode;
 using ui::Icon;
 
-const std::string trial = platform::WithOwnSeparators("/jobs/tmpTags_plant_North.ini");
-const std::string log = platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_North_Errors.log");
+const std::string trial = InJobs("tmpTags_plant_North.ini");
+const std::string log = InJobs("KDOrmAGA_plant_North_Errors.log");
 
 // Another status for run 5, up to what the trial comes to.
 void EditStatus(Story& story) {

@@ -1,5 +1,6 @@
 // Runs are turned off and on.
 #include "scenarios/StoredStation.h"
+#include "support/InJobs.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +18,7 @@ using moves::SeeImage;
 using ui::Answer;
 using ui::Icon;
 
-const std::string log = platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_North_Errors.log");
+const std::string log = InJobs("KDOrmAGA_plant_North_Errors.log");
 const std::string logGenerated = "A log file describing the error and its cause has been generated in:\r\n" +
                                  log + "\r\n\r\nDo you wish to see the log file of errors ?";
 

@@ -1,5 +1,6 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/InJobs.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +23,7 @@ Scenario ConfiguredStationsAreRegisteredAtExit() {
     return {"start_up_and_exit_registers_each_station",
             [](FakeProgram& program) {
                 moves::ThreeStations(program);
-                program.Files.Content[platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_South.ini")] =
+                program.Files.Content[InJobs("KDOrmAGA_plant_South.ini")] =
                     "[FlowRuns]\r\nRun1=Yes\r\nRun2=yes\r\n";
             },
             [](Story& story) {
@@ -46,8 +47,7 @@ Scenario ConfiguredStationsAreRegisteredAtExit() {
             },
             [](FakeProgram& program) {
                 ASSERT_EQ(program.Library.FilesToLoad.size(), 1U);
-                const std::tuple expected{std::string("South"),
-                                          platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_South.ini"),
+                const std::tuple expected{std::string("South"), InJobs("KDOrmAGA_plant_South.ini"),
                                           std::string("/etc/stacfg/kdormaga.ini")};
                 EXPECT_EQ(program.Library.FilesToLoad.front(), expected);
                 EXPECT_EQ(std::count(program.Library.Calls.begin(), program.Library.Calls.end(),

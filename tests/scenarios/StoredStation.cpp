@@ -1,6 +1,7 @@
 #include "scenarios/StoredStation.h"
 
 #include "scenarios/Moves.h"
+#include "support/InJobs.h"
 #include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +35,7 @@ void ExpectFiles(const StoredStation& stored, const Outside& outside) {
 } // namespace
 
 std::string Outside::File(const std::string& station) {
-    return platform::WithOwnSeparators("/jobs/KDOrmAGA_plant_" + station + ".ini");
+    return InJobs("KDOrmAGA_plant_" + station + ".ini");
 }
 
 std::string& Outside::Content(const std::string& station) const {

@@ -25,9 +25,7 @@ void FakeProgram::AddStation(const std::string& name, project::TagList tags) {
 
 void FakeProgram::OpenProject() {
     (void)project::LoadProject(Library, Session.Project);
-    auto& paths = Session.Project.Paths;
-    paths.ProjectFolder = platform::ParentFolder(Session.Project.ProjectFile);
-    paths.ConfigFilePrefix = config::ConfigFilePrefixOf(paths.ProjectFolder);
+    Session.Project.Paths = config::PathsOf(Session.Project.ProjectFile);
     Station.ProjectFile = Session.Project.ProjectFile;
     Station.ProjectName = Session.Project.ProjectName;
 }

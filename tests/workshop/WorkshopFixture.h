@@ -1,6 +1,7 @@
 // A folder, a state folder and a way to run the command, all of them one test's own.
 #pragma once
 
+#include "support/Shell.h"
 #include "support/TempFolder.h"
 #include "support/TestFolders.h"
 #include "workshop/store/Project.h"
@@ -9,16 +10,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
-#ifndef _WIN32
-#include <sys/wait.h>
-#endif
 
 namespace gfc::workshop {
 
@@ -46,24 +42,14 @@ class WorkshopFixture : public testing::Test {
     test::TempFolder folder_;
 
 protected:
-    struct Outcome {
-        int Status;
-        std::string Output; ///< what it wrote on either stream
-    };
+    using Outcome = test::Outcome;
 
     WorkshopFixture() : Folder(folder_.Path()) { SetVariable("XDG_STATE_HOME", In("state")); }
     ~WorkshopFixture() override { SetVariable("XDG_STATE_HOME", ""); }
 
     /// Runs io-workshop with `arguments` as a shell would split them; single quotes hold a word together.
     static Outcome Run(const std::string& arguments) {
-        FILE* pipe =
-            OpenShell("'" + (test::BinFolder() / "io-workshop").string() + "' " + arguments + " 2>&1");
-        std::string output;
-        char chunk[4096];
-        while (const std::size_t size = std::fread(chunk, 1, sizeof chunk, pipe)) {
-            output.append(chunk, size);
-        }
-        return {CloseShell(pipe), output};
+        return test::RunInShell("'" + (test::BinFolder() / "io-workshop").string() + "' " + arguments);
     }
 
     [[nodiscard]] std::string In(const std::string& name) const { return (Folder / name).string(); }
@@ -91,27 +77,6 @@ protected:
     }
 
     const std::filesystem::path Folder;
-
-private:
-#ifdef _WIN32
-    static FILE* OpenShell(std::string command) {
-        std::ranges::replace(command, '\'', '"');
-        // The shell takes the outer quotes away.
-        command = '"' + command + '"';
-        return ::_wpopen(std::filesystem::path(std::u8string(command.begin(), command.end())).c_str(), L"rt");
-    }
-    static int CloseShell(FILE* pipe) {
-        return ::_pclose(pipe);
-    }
-#else
-    static FILE* OpenShell(const std::string& command) {
-        return ::popen(command.c_str(), "r");
-    }
-    static int CloseShell(FILE* pipe) {
-        const int status = ::pclose(pipe);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-#endif
 };
 
 } // namespace gfc::workshop

@@ -11,6 +11,9 @@
 #ifdef _WIN32
 #include "workshop/text/Paths.h"
 
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
 #endif
 
@@ -19,10 +22,14 @@ namespace {
 using namespace gfc::workshop;
 
 // The words of the command line in UTF-8, the program's own name first, with output in the same. On Windows a
-// program is handed them in the machine's code page, which lacks many a letter.
+// program is handed them in the machine's code page, which lacks many a letter, and its output would get
+// other line ends: those of a table that goes out are its own.
 std::vector<std::string> Words(int argc, char** argv) {
 #ifdef _WIN32
     ::SetConsoleOutputCP(CP_UTF8);
+    for (FILE* const stream : {stdout, stderr}) {
+        static_cast<void>(::_setmode(::_fileno(stream), _O_BINARY));
+    }
     wchar_t** const wide = ::CommandLineToArgvW(::GetCommandLineW(), &argc);
     std::vector<std::string> words;
     for (int word = 0; wide != nullptr && word < argc; ++word) {

@@ -2,6 +2,9 @@
 
 #include "platform/windows/Wide.h"
 
+#include <cstdio>
+#include <fcntl.h>
+#include <io.h>
 #include <shellapi.h>
 
 namespace gfc::platform {
@@ -10,6 +13,9 @@ namespace gfc::platform {
 // names that a folder can have.
 std::vector<std::string> ConsoleArguments(int, const char* const*) {
     ::SetConsoleOutputCP(CP_UTF8);
+    // What is given out may be a file of a station or a report, whose line ends are its own.
+    for (FILE* const stream : {stdout, stderr})
+        (void)::_setmode(::_fileno(stream), _O_BINARY);
     int count = 0;
     wchar_t** const words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     std::vector<std::string> arguments;

@@ -2,6 +2,7 @@
 #include "binding/ErrorLog.h"
 #include "forms/binding/TagsChanged.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gmock/gmock.h>
@@ -15,7 +16,7 @@ using forms::TagsChangedChoice;
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr const char* Log = "/jobs/KDOrmAGA_plant_North_Errors.log";
+const std::string Log = InJobs("KDOrmAGA_plant_North_Errors.log");
 
 struct TagsChanged : testing::Test, World {
     TagsChanged() {
@@ -50,8 +51,8 @@ TEST_F(TagsChanged, says_what_happened_and_what_each_button_does) {
         .SeeText(
             "TagsChanged", "Label3",
             "Warning: The current configuration is incomplete or has errors in its tag assigments. An error "
-            "log file describing all the errors found has been generated and saved in \r\n"
-            "/jobs/KDOrmAGA_plant_North_Errors.log")
+            "log file describing all the errors found has been generated and saved in \r\n" +
+                Log)
         .SeeText(
             "TagsChanged", "Label1",
             "Click ignore to exit and save the project changes for later correction. Please note that runs "

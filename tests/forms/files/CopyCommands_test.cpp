@@ -1,5 +1,6 @@
 #include "forms/files/CopyCommands.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +21,7 @@ const std::string content = "[General]\r\nPackage=kdormaga\r\nProject=/jobs/plan
                             "UserID=4711\r\n[FlowRuns]\r\nRun1=Yes\r\nOddity=\xB0\r\n";
 
 std::string Path(const std::string& station) {
-    return "/jobs/KDOrmAGA_plant_" + station + ".ini";
+    return InJobs("KDOrmAGA_plant_" + station + ".ini");
 }
 
 // A configuration for that project and station, all else as in the source.
@@ -79,7 +80,7 @@ TEST_F(CopyToStation, copies_the_file_and_names_project_and_station) {
     });
     Play();
     EXPECT_EQ(Files.Content[Path("North")], content);
-    EXPECT_EQ(Files.Content[Path("West")], Named("/jobs/plant.KPJ", "West"));
+    EXPECT_EQ(Files.Content[Path("West")], Named(InJobs("plant.KPJ"), "West"));
     EXPECT_EQ(Files.Content.size(), 2U);
     EXPECT_EQ(Files.Replaces, 1);
     EXPECT_TRUE(Library.FilesToLoad.empty()) << "registered at the end of the program only";
@@ -91,7 +92,7 @@ TEST_F(CopyToStation, writes_the_project_with_its_ending_in_capitals) {
     TheStory.Click("frCopyStation", "Command1");
     ExpectDone();
     Play();
-    EXPECT_EQ(Files.Content[Path("South")], Named("/jobs/plant.KPJ", "South"));
+    EXPECT_EQ(Files.Content[Path("South")], Named(InJobs("plant.KPJ"), "South"));
 }
 
 TEST_F(CopyToStation, does_nothing_without_a_selected_station) {
@@ -237,7 +238,7 @@ TEST_F(CopyToProject, copies_into_a_project_in_the_same_folder) {
     Answer("Far Away");
     ExpectDone();
     Play();
-    EXPECT_EQ(Files.Content["/jobs/KDOrmAGA_other_Far Away.ini"], Named("/jobs/other.KPJ", "Far Away"));
+    EXPECT_EQ(Files.Content["/jobs/KDOrmAGA_other_Far Away.ini"], Named(InJobs("other.KPJ"), "Far Away"));
     EXPECT_EQ(Files.Content[Path("North")], content);
     EXPECT_EQ(Files.Content.size(), 2U);
 }
@@ -258,7 +259,8 @@ TEST_F(CopyToProject, copies_to_where_the_other_project_looks_for_it) {
     Answer("Far");
     ExpectDone();
     Play();
-    EXPECT_EQ(Files.Content["/fields/gas.d/KDOrmAGA_other_Far.ini"], Named("/fields/gas.d/other.KPJ", "Far"));
+    EXPECT_EQ(Files.Content["/fields/gas.d/KDOrmAGA_other_Far.ini"],
+              Named(platform::WithOwnSeparators("/fields/gas.d/other.KPJ"), "Far"));
     EXPECT_EQ(Files.Content.size(), 2U);
 }
 
@@ -361,7 +363,7 @@ TEST_F(CopyToProject, takes_a_name_with_accents) {
     ExpectDone();
     Play();
     EXPECT_EQ(Files.Content["/jobs/KDOrmAGA_other_Estaci\xC3\xB3n.ini"],
-              Named("/jobs/other.KPJ", "Estaci\xF3n"));
+              Named(InJobs("other.KPJ"), "Estaci\xF3n"));
 }
 
 } // namespace

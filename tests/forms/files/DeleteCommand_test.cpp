@@ -1,4 +1,5 @@
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +13,7 @@ namespace {
 using ui::Answer;
 using ui::Icon;
 
-constexpr const char* file = "/jobs/KDOrmAGA_plant_North.ini";
+const std::string file = InJobs("KDOrmAGA_plant_North.ini");
 
 // A station's file that stays for a while after it was deleted, as where another program still reads it.
 struct DeleteCommand : testing::Test, World {

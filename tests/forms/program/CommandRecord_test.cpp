@@ -1,6 +1,7 @@
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/program/CommandRecord.h"
 #include "support/FakeRecorder.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gmock/gmock.h>
@@ -43,7 +44,7 @@ void Write(Program& program, const std::string& section, const std::string& key,
         lost, file, [&](config::FileIni& ini) { ini.WriteKey(section, key, value, file); }));
 }
 
-const std::string record = "/jobs/KDOrmAGA_plant_History.sqlite";
+const std::string record = test::InJobs("KDOrmAGA_plant_History.sqlite");
 
 TEST_F(CommandRecordTest, HandsOverWhatACommandChangedWithWhatStoodThereBefore) {
     TheWorld.Files.Content[North] = "[A]\r\nk=1\r\n";
@@ -93,7 +94,8 @@ TEST_F(CommandRecordTest, ACopyToAnotherProjectIsEnteredThere) {
         Write(program, "General", "OrmStation", "Far_1", far);
     });
     ASSERT_THAT(Recorder.Recorded, SizeIs(1));
-    EXPECT_EQ(Recorder.Recorded[0].Record, "/other/KDOrmAGA_plant_two_History.sqlite");
+    EXPECT_EQ(Recorder.Recorded[0].Record,
+              platform::WithOwnSeparators("/other/KDOrmAGA_plant_two_History.sqlite"));
     EXPECT_EQ(Recorder.Recorded[0].Station, "Far_1");
 }
 

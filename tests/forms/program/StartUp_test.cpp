@@ -2,6 +2,7 @@
 #include "forms/program/StartUp.h"
 #include "forms/program/UserIDForm.h"
 #include "forms/program/formInicio.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gmock/gmock.h>
@@ -23,6 +24,13 @@ public:
             OnPaint();
     }
 };
+
+// The window of the stand-in, beside the program.
+#ifdef _WIN32
+const std::string window = "/opt/gfc\\io-workshop-window.exe";
+#else
+const std::string window = "/opt/gfc/io-workshop-window";
+#endif
 
 struct StartUp : testing::Test, World {
     StartUp() { AddStation("North", {}); }
@@ -155,9 +163,8 @@ TEST_F(StartUp, looks_the_project_up_before_anything_else) {
     const auto& project = Session.Project;
     EXPECT_EQ(project.ProjectFile, "/jobs/area 5/Plant.kpj");
     EXPECT_EQ(project.ProjectName, "Plant");
-    EXPECT_EQ(project.Paths.ProjectFolder, "/jobs/area 5");
-    EXPECT_EQ(project.Paths.ConfigFilePrefix,
-              std::string("/jobs/area 5") + platform::Separator + "KDOrmAGA_");
+    EXPECT_EQ(project.Paths.ProjectFolder, InJobs("area 5"));
+    EXPECT_EQ(project.Paths.ConfigFilePrefix, InJobs("area 5/KDOrmAGA_"));
     EXPECT_EQ(Station.ProjectFile, "/jobs/area 5/Plant.kpj");
     EXPECT_EQ(Station.ProjectName, "Plant");
     EXPECT_EQ(Library.Calls, (Names{"GetProjectFile", "GetProjectFile", "GetStations", "CoInitialize"}));
@@ -187,7 +194,7 @@ TEST_F(StartUp, a_second_instance_says_so_after_looking_the_project_up) {
     EXPECT_TRUE(Screen.Ended());
     EXPECT_NE(Screen.ExitCode, 0);
     EXPECT_EQ(Library.Calls, Names{"GetProjectFile"});
-    EXPECT_EQ(Session.Project.Paths.ProjectFolder, "/jobs");
+    EXPECT_EQ(Session.Project.Paths.ProjectFolder, platform::WithOwnSeparators("/jobs"));
     EXPECT_EQ(Screen.FormsShown.back(), "UserIDForm");
 }
 
@@ -215,7 +222,6 @@ TEST_F(StartUp, without_an_open_project_it_ends_with_a_message) {
 }
 
 TEST_F(StartUp, without_an_open_project_the_window_of_the_stand_in_is_offered_where_it_lies_beside) {
-    const std::string window = "/opt/gfc/io-workshop-window";
     Files.Content[window] = "";
     Launcher.Works = false;
     Library.ProjectFile.clear();
@@ -230,7 +236,7 @@ TEST_F(StartUp, without_an_open_project_the_window_of_the_stand_in_is_offered_wh
 }
 
 TEST_F(StartUp, the_window_of_the_stand_in_stays_away_from_who_does_not_want_it) {
-    Files.Content["/opt/gfc/io-workshop-window"] = "";
+    Files.Content[window] = "";
     Library.ProjectFile.clear();
     Start();
     TheStory.Box("Gas Flow Computer", "Error: please open the I/O Workshop", ui::Icon::Exclamation)

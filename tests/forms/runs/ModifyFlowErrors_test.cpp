@@ -1,6 +1,7 @@
 // A trial that fails, and what each answer makes of it.
 #include "ModifyWorld.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/InJobs.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -166,7 +167,7 @@ TEST(ModifyFlowErrors, of_a_file_that_has_gone_are_told_and_no_file_is_made) {
     const std::string gone =
         std::string("The changes were not saved. The configuration file of the station is "
                     "not there any more:\r\n") +
-        "/jobs/KDOrmAGA_plant_North.ini";
+        InJobs("KDOrmAGA_plant_North.ini");
     for (const int box : {3, 2}) {
         ModifyWorld world;
         world.TickAndAccept({box});

@@ -4,6 +4,7 @@
 #include "forms/program/Program.h"
 #include "forms/runs/FrModificarTags.h"
 #include "support/FileText.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gtest/gtest.h>
@@ -24,8 +25,8 @@ struct ModifyChoices {
 // holds. Run 2 is selected in the tree.
 struct ModifyWorld : World {
     static constexpr const char* Form = "FrModificarTags";
-    static constexpr const char* Trial = "/jobs/tmpTags_plant_North.ini";
-    static constexpr const char* Log = "/jobs/KDOrmAGA_plant_North_Errors.log";
+    inline static const std::string Trial = InJobs("tmpTags_plant_North.ini");
+    inline static const std::string Log = InJobs("KDOrmAGA_plant_North_Errors.log");
 
     explicit ModifyWorld(const ModifyChoices& choices = {});
 

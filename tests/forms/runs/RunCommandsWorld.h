@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/InJobs.h"
 #include "support/TestFolders.h"
 #include "support/World.h"
 
@@ -51,8 +52,8 @@ struct RunCommandsWorld : World {
         EXPECT_TRUE(TheStory.Done());
     }
 
-    static constexpr const char* Path = "/jobs/KDOrmAGA_plant_North.ini";
-    static constexpr const char* Log = "/jobs/KDOrmAGA_plant_North_Errors.log";
+    inline static const std::string Path = InJobs("KDOrmAGA_plant_North.ini");
+    inline static const std::string Log = InJobs("KDOrmAGA_plant_North_Errors.log");
     inline static const std::string North = "All Stations\\North";
     inline static const std::string Runs = North + "\\Individual Parameters";
 };

@@ -1,5 +1,6 @@
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/tools/FrCheckStations.h"
+#include "support/InJobs.h"
 #include "support/World.h"
 
 #include <gmock/gmock.h>
@@ -14,7 +15,7 @@ using testing::Not;
 
 const std::string window = "FrCheckStations";
 const std::string main = "GFCPrincipal";
-const std::string northFile = "/jobs/KDOrmAGA_plant_North.ini";
+const std::string northFile = InJobs("KDOrmAGA_plant_North.ini");
 
 // Errors enough, of the station and of its run.
 const std::string faulty = "[General]\r\nPackage=kdormaga\r\nProject=/jobs/plant.KPJ\r\nOrmStation=North\r\n"

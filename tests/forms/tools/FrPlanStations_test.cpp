@@ -1,6 +1,7 @@
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/tools/FrPlanStations.h"
 #include "support/FakeRecorder.h"
+#include "support/InJobs.h"
 #include "support/TestFolders.h"
 #include "support/World.h"
 
@@ -17,7 +18,7 @@ const std::string window = "FrPlanStations";
 const std::string main = "GFCPrincipal";
 
 std::string FileOf(const std::string& station) {
-    return "/jobs/KDOrmAGA_plant_" + station + ".ini";
+    return InJobs("KDOrmAGA_plant_" + station + ".ini");
 }
 
 // The tags of the large station with other numbers, and without one of its digital ones.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/main_window/GFCPrincipal.h"
+#include "support/InJobs.h"
 #include "support/MemoryRecorder.h"
 #include "support/World.h"
 
@@ -47,8 +48,8 @@ struct ToolRoom : testing::Test, HasRecorder, World {
     const std::string Second = FileWith("6.0");
     const std::string Present = FileWith("6.5", "MeterKind=x\r\n");
     const std::string Souths = "[General]\r\nProject=/jobs/plant.KPJ\r\nOrmStation=South\r\n";
-    const std::string North = "/jobs/KDOrmAGA_plant_North.ini";
-    const std::string South = "/jobs/KDOrmAGA_plant_South.ini";
+    const std::string North = InJobs("KDOrmAGA_plant_North.ini");
+    const std::string South = InJobs("KDOrmAGA_plant_South.ini");
     const std::string Main = "GFCPrincipal";
 
     forms::GFCPrincipal& MainWindow() { return Program.Forms.Get<forms::GFCPrincipal>(); }
