@@ -27,9 +27,16 @@ struct Options {
 };
 
 #ifdef GFC_PDF
-// Text is laid out without a screen.
+// Text is laid out without a screen, which a machine may lack. Windows has one, and no other platform of the
+// toolkit finds its fonts there.
+#ifdef _WIN32
+constexpr const char* Platform = "windows";
+#else
+constexpr const char* Platform = "offscreen";
+#endif
+
 std::string Pdf(const report::Report& made, const Options& options) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", Platform);
     std::array<char, 10> name{"gfc-audit"};
     std::array<char*, 2> arguments{name.data(), nullptr};
     int count = 1;

@@ -180,7 +180,7 @@ TEST_F(HelpWindows, keep_their_lines_short_in_a_wide_window) {
     Help()->resize(1800, 600);
     Settle();
     const auto& page = Part<qt::HelpView>("HelpPage");
-    EXPECT_LT(page.lineWrapColumnOrWidth(), 900);
+    EXPECT_LT(page.lineWrapColumnOrWidth(), page.viewport()->width() * 2 / 3);
     Help()->resize(500, 600);
     Settle();
     EXPECT_LE(page.lineWrapColumnOrWidth(), page.viewport()->width());

@@ -27,9 +27,9 @@ public:
 
 // The window of the stand-in, beside the program.
 #ifdef _WIN32
-const std::string window = "/opt/gfc\\io-workshop-window.exe";
+const std::string workshopWindow = "/opt/gfc\\io-workshop-window.exe";
 #else
-const std::string window = "/opt/gfc/io-workshop-window";
+const std::string workshopWindow = "/opt/gfc/io-workshop-window";
 #endif
 
 struct StartUp : testing::Test, World {
@@ -222,21 +222,21 @@ TEST_F(StartUp, without_an_open_project_it_ends_with_a_message) {
 }
 
 TEST_F(StartUp, without_an_open_project_the_window_of_the_stand_in_is_offered_where_it_lies_beside) {
-    Files.Content[window] = "";
+    Files.Content[workshopWindow] = "";
     Launcher.Works = false;
     Library.ProjectFile.clear();
     Start();
     TheStory.Box("Gas Flow Computer", "Error: please open the I/O Workshop", ui::Icon::Exclamation)
         .Box("Gas Flow Computer", "", ui::Icon::Question, ui::Answer::Yes)
-        .Box("Gas Flow Computer", window + " could not be started. Start it from the desktop's menu.",
+        .Box("Gas Flow Computer", workshopWindow + " could not be started. Start it from the desktop's menu.",
              ui::Icon::Exclamation);
     Play();
     EXPECT_TRUE(Screen.Ended());
-    EXPECT_EQ(Launcher.Started, std::vector{window});
+    EXPECT_EQ(Launcher.Started, std::vector{workshopWindow});
 }
 
 TEST_F(StartUp, the_window_of_the_stand_in_stays_away_from_who_does_not_want_it) {
-    Files.Content[window] = "";
+    Files.Content[workshopWindow] = "";
     Library.ProjectFile.clear();
     Start();
     TheStory.Box("Gas Flow Computer", "Error: please open the I/O Workshop", ui::Icon::Exclamation)
