@@ -46,6 +46,7 @@ void ContestRecord();
 void ContestTree();
 void ContestTags();
 void ContestAudit();
+void ContestPlan();
 void ContestWindows();
 void ContestProcesses();
 

@@ -92,7 +92,7 @@ int main(int argc, char* argv[]) {
     if (!Initialize(argc, argv))
         return EXIT_FAILURE;
     for (auto* contest : {ContestKeys, ContestStations, ContestRecord, ContestTree, ContestTags, ContestAudit,
-                          ContestWindows, ContestProcesses})
+                          ContestPlan, ContestWindows, ContestProcesses})
         contest();
     const std::vector<std::string> rows = ChooseRows(options.Rows);
     if (rows.empty())

@@ -22,7 +22,7 @@ struct Row {
 };
 
 // clang-format off
-constexpr std::array<Row, 17> Rows = {{
+constexpr std::array<Row, 19> Rows = {{
     {"read_key",  "one `ReadKey`, complete access, 32 KB file",
                   "open, read, scan, close of the same bytes", 1.2},
     {"write_key", "one `WriteKey`, complete, atomic, flushed",
@@ -43,6 +43,9 @@ constexpr std::array<Row, 17> Rows = {{
                   "asking the stand-in's library for the tags, and reading the files", 1.3},
     {"audit_at_hand", "the same, from a library that has its records at hand",
                   "copying the records, and reading the files", 0},
+    {"import",    "preview of a foreign table of 6,000 rows", "its rows read alone", 3},
+    {"plan",      "a table of 3 stations of 500 tags: planned, checked, written, in the history",
+                  "their atomic replaces", 2},
     {"open_tags", "`TagRuns` opened on 50,000 free tags",
                   "a bare table view over Qt's own model of the same rows", 1.5},
     {"start",     "process start to main window, less the splash's wait",

@@ -27,9 +27,4 @@ struct Circumstances {
                                               const Circumstances& circumstances, config::FileState before,
                                               Faults& faults);
 
-// The tag that a cell names: "FT-101", or "FT-101 (FX 12)" where there are several of that name. Null with a
-// reason where the list has none, or more than one.
-[[nodiscard]] const project::Tag* TagNamed(const project::TagList& tags, const std::string& text,
-                                           std::string& reason);
-
 } // namespace gfc::plan

@@ -24,26 +24,6 @@ std::string_view ClassText(binding::TagClass tagClass) {
 
 } // namespace
 
-const project::Tag* TagNamed(const project::TagList& tags, const std::string& text, std::string& reason) {
-    const project::Tag* found = nullptr;
-    int count = 0;
-    const bool maySayRegister = text.ends_with(')');
-    for (const project::Tag& tag : tags) {
-        if (maySayRegister && EqualNoCase(Line::TextOf(suggest::BindingTo(tag)), text))
-            return &tag;
-        if (!EqualNoCase(tag.TagName, text))
-            continue;
-        found = &tag;
-        ++count;
-    }
-    if (count == 1)
-        return found;
-    if (count > 1)
-        reason = std::to_string(count) + " tags bear the name; say which, as " +
-                 Line::TextOf(suggest::BindingTo(*found)) + ".";
-    return nullptr;
-}
-
 void Assembler::Bind() {
     project::TagInventory inventory = to_.Inventory();
     const auto& working = station_.WorkingModules;
@@ -82,7 +62,7 @@ void Assembler::BindVariable(const binding::Variable& variable, const RunWish* r
     const project::Tag* tag = nullptr;
     std::string reason;
     if (said != nullptr) {
-        tag = TagNamed(pools_.Of(variable.Class()), said->Text, reason);
+        tag = pools_.Named(variable.Class(), said->Text, reason);
         if (reason.empty())
             reason = "The station has no " + std::string(ClassText(variable.Class())) +
                      " tag of this name that may be bound.";

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <unordered_map>
 
 namespace gfc::plan {
 
@@ -136,10 +137,16 @@ std::span<const Column> Columns() {
 }
 
 const Column* ColumnOf(std::string_view title) {
-    const auto found = std::ranges::find_if(Columns(), [&](const Column& column) {
-        return EqualNoCase(column.Title, title) || EqualNoCase(column.Key, title);
-    });
-    return found == Columns().end() ? nullptr : &*found;
+    // Asked some hundred times for each station.
+    static const auto places = [] {
+        std::unordered_map<std::string, const Column*> of;
+        for (const Column& column : Columns())
+            for (const std::string& name : {column.Title, column.Key})
+                of.emplace(services::FoldCase(name), &column);
+        return of;
+    }();
+    const auto found = places.find(services::FoldCase(title));
+    return found == places.end() ? nullptr : found->second;
 }
 
 const Column* ColumnOfKey(std::string_view key, bool ofRun) {

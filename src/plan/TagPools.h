@@ -5,6 +5,9 @@
 
 #include <set>
 #include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
 
 namespace gfc::plan {
 
@@ -15,15 +18,24 @@ public:
     // inventory: with its lists of available tags built.
     explicit TagPools(const project::TagInventory& inventory);
 
-    [[nodiscard]] const project::TagList& Of(binding::TagClass tagClass) const;
+    // The tag that a cell names: "FT-101", or "FT-101 (FX 12)" where there are several of that name. Null
+    // where the class has none; with a reason where it has more than one.
+    [[nodiscard]] const project::Tag* Named(binding::TagClass tagClass, const std::string& text,
+                                            std::string& reason) const;
     // It goes to nobody else by itself then.
     void Take(const project::Tag& tag);
     // The next that is free; null where none is left.
     [[nodiscard]] const project::Tag* Next(binding::TagClass tagClass);
 
 private:
-    project::TagList lists_[4];   // by class
-    std::size_t next_[4] = {};    // where to look on
+    struct Pool {
+        project::TagList Tags;
+        std::unordered_multimap<std::string, std::size_t> ByName; // their places; the case is folded
+        std::size_t Next = 0;                                     // where to look on
+    };
+    [[nodiscard]] std::vector<const project::Tag*> AllNamed(const Pool& pool, std::string_view name) const;
+
+    Pool pools_[4];               // by class
     std::set<std::string> taken_; // "FX 12"
 };
 

@@ -5,6 +5,7 @@
 #include "services/Text.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 
 namespace gfc::plan {
@@ -94,12 +95,10 @@ private:
     }
 
     StationWish& WishOf(const std::string& station, int row) {
-        const auto found = std::ranges::find_if(
-            wishes_, [&](const StationWish& wish) { return services::EqualNoCase(wish.Station, station); });
-        if (found != wishes_.end())
-            return *found;
-        wishes_.push_back({station, row, {}, {}});
-        return wishes_.back();
+        const auto [place, added] = places_.try_emplace(services::FoldCase(station), wishes_.size());
+        if (added)
+            wishes_.push_back({station, row, {}, {}});
+        return wishes_[place->second];
     }
 
     void TakeCell(StationWish& wish, const Sheet::Row& row, const Column& column, const std::string& text) {
@@ -125,6 +124,7 @@ private:
     Faults& faults_;
     std::vector<const Column*> columns_;
     std::vector<StationWish> wishes_;
+    std::map<std::string, std::size_t> places_; // by station, its case folded
 };
 
 } // namespace

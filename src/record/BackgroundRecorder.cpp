@@ -1,5 +1,7 @@
 #include "record/BackgroundRecorder.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace gfc::record {
@@ -16,6 +18,21 @@ BackgroundRecorder::~BackgroundRecorder() {
     worker_.join();
 }
 
+namespace {
+
+// What has piled up for a record goes in at once: each list by itself would wait for the disk some times.
+std::vector<std::vector<config::FileChange>> Together(std::vector<std::vector<config::FileChange>> handed) {
+    std::vector<std::vector<config::FileChange>> lists;
+    for (auto& changes : handed)
+        if (!lists.empty() && lists.back().back().Record == changes.front().Record)
+            std::ranges::move(changes, std::back_inserter(lists.back()));
+        else
+            lists.push_back(std::move(changes));
+    return lists;
+}
+
+} // namespace
+
 // Takes all that waits at once, and ends only when nothing does.
 void BackgroundRecorder::Work() {
     std::unique_lock lock(mutex_);
@@ -26,7 +43,7 @@ void BackgroundRecorder::Work() {
         auto handed = std::exchange(waiting_, {});
         busy_ = true;
         lock.unlock();
-        for (auto& changes : handed)
+        for (auto& changes : Together(std::move(handed)))
             recorder_.Record(std::move(changes));
         std::string trouble = recorder_.Trouble();
         lock.lock();

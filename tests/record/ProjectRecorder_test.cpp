@@ -276,6 +276,25 @@ TEST_F(ProjectRecorderTest, GivesTheChangesOfManyEntriesInOneReading) {
     EXPECT_THAT(Recorder.ChangesOf(Record, 4, 9), IsEmpty());
 }
 
+TEST_F(ProjectRecorderTest, WhatPilesUpInTheBackgroundGoesInInItsOrder) {
+    std::vector<std::string> wanted;
+    {
+        BackgroundRecorder behind(Recorder);
+        for (int save = 0; save < 40; ++save) {
+            const std::string station = save % 3 == 0 ? "North" : "South";
+            const std::string state = "[S]\r\nk=" + std::to_string(save) + "\r\n";
+            behind.Record({{Record, station, "Configure", "ana", std::nullopt, state}});
+            wanted.push_back(state);
+        }
+    }
+    std::vector<std::string> entered;
+    for (const RecordEntry& entry : Recorder.Entries(Record, {}))
+        if (entry.Command == "Configure")
+            entered.push_back(Recorder.Generation(Record, entry.Number).value_or("none"));
+    EXPECT_EQ(entered, wanted);
+    EXPECT_FALSE(Recorder.Verify(Record).Damage);
+}
+
 TEST_F(ProjectRecorderTest, InTheBackgroundNothingIsLostAndReadersWait) {
     {
         BackgroundRecorder behind(Recorder);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <unordered_map>
 
 namespace gfc::workshop {
 
@@ -19,6 +20,7 @@ struct Module {
 struct RowTag {
     const TableRow* Row;
     Tag TheTag;
+    Module* TheModule;
     bool Placed = false; // stands where a tag of its name stood before
 };
 
@@ -39,6 +41,8 @@ public:
         if (merge_) {
             RememberModules();
         }
+        rowTags_.reserve(rows.size());
+        byName_.reserve(rows.size());
         for (const TableRow& row : rows) {
             TakeProperties(row);
             if (HoldsTag(row)) {
@@ -89,14 +93,14 @@ private:
                          std::to_string(rowTags_[known->second].Row->Row) + " already");
             return;
         }
-        rowTags_.push_back({&row, TagOf(row)});
+        rowTags_.push_back({&row, TagOf(row), &module});
     }
 
     // Only a virtual module has floats and longs that can be bound. One that the project has already stays
     // what it is there, so that what was written out comes back as it was.
     void TakeAsVirtual() {
         for (const RowTag& row : rowTags_) {
-            Module& module = modules_.at(Folded(row.TheTag.Module));
+            Module& module = *row.TheModule;
             const char kind = row.TheTag.Class.front();
             if ((kind == 'F' || kind == 'L') && module.Type.empty() && module.Told.empty() &&
                 !StoodBefore(module.Name)) {
@@ -115,14 +119,17 @@ private:
     void GiveModule(Tag& tag) const {
         const auto module = modules_.find(Folded(tag.Module));
         if (module != modules_.end()) {
-            tag.Module = module->second.Name;
-            tag.ModuleType = module->second.Told.empty() ? module->second.Type : module->second.Told;
+            GiveModule(tag, module->second);
         }
+    }
+    static void GiveModule(Tag& tag, const Module& module) {
+        tag.Module = module.Name;
+        tag.ModuleType = module.Told.empty() ? module.Type : module.Told;
     }
 
     void CompleteTags() {
         for (RowTag& row : rowTags_) {
-            GiveModule(row.TheTag);
+            GiveModule(row.TheTag, *row.TheModule);
         }
         for (const Tag& tag : before_) {
             if (RowTag* row = RowOf(tag); merge_ && row != nullptr && row->TheTag.Description.empty()) {
@@ -138,7 +145,8 @@ private:
 
     // Two tags may change places, so that only tags that the table does not name are in the way.
     void CheckRegisters() {
-        std::map<std::string, std::string> holders;
+        std::unordered_map<std::string, std::string> holders;
+        holders.reserve(before_.size() + rowTags_.size());
         for (const Tag& tag : before_) {
             if (merge_ && RowOf(tag) == nullptr) {
                 holders.emplace(PlaceOf(tag), tag.Name);
@@ -179,13 +187,15 @@ private:
             lastOf[Folded(plan_.Tags[at].Module)] = at;
         }
         std::vector<std::vector<Tag>> behind(plan_.Tags.size() + 1);
-        for (const RowTag& row : rowTags_) {
+        for (RowTag& row : rowTags_) { // the last to need them
             if (!row.Placed) {
-                const auto last = lastOf.find(Folded(row.TheTag.Module));
-                behind[last == lastOf.end() ? plan_.Tags.size() : last->second].push_back(row.TheTag);
+                const auto last = lastOf.empty() ? lastOf.end() : lastOf.find(Folded(row.TheTag.Module));
+                behind[last == lastOf.end() ? plan_.Tags.size() : last->second].push_back(
+                    std::move(row.TheTag));
             }
         }
         std::vector<Tag> all;
+        all.reserve(plan_.Tags.size() + rowTags_.size());
         for (std::size_t at = 0; at < behind.size(); ++at) {
             if (at < plan_.Tags.size()) {
                 all.push_back(std::move(plan_.Tags[at]));
@@ -204,15 +214,16 @@ private:
     std::vector<Complaint>& complaints_;
     StationPlan plan_;
     TableRow told_;
-    std::map<std::string, Module> modules_;
+    std::unordered_map<std::string, Module> modules_; // by name; they stay where they are
     std::vector<RowTag> rowTags_;
-    std::map<std::string, std::size_t> byName_;
+    std::unordered_map<std::string, std::size_t> byName_;
 };
 
-using TagsByName = std::map<std::string, const Tag*>;
+using TagsByName = std::unordered_map<std::string, const Tag*>;
 
 TagsByName ByName(const std::vector<Tag>& tags) {
     TagsByName byName;
+    byName.reserve(tags.size());
     for (const Tag& tag : tags) {
         byName.emplace(Folded(tag.Name), &tag);
     }
@@ -231,6 +242,10 @@ std::vector<std::string> OrderWithin(const std::vector<Tag>& tags, const TagsByN
 }
 
 void Compare(const std::vector<Tag>& tags, StationPlan& plan) {
+    if (tags.empty()) { // a new station: nothing has to be looked for
+        plan.Added = plan.Tags;
+        return;
+    }
     const TagsByName before = ByName(tags);
     const TagsByName after = ByName(plan.Tags);
     for (const Tag& tag : plan.Tags) {

@@ -103,6 +103,7 @@ private:
 
     void TakeRows(const std::vector<CsvRow>& rows) {
         constexpr std::size_t Often = 4096;
+        table_.Rows.reserve(rows.size());
         for (std::size_t at = heading_.At + 1; at < rows.size(); ++at) {
             if (at % Often == 0) {
                 TellProgress(progress_, static_cast<double>(at) / static_cast<double>(rows.size()));

@@ -1,6 +1,7 @@
 #include "commands/Listing.h"
 #include "commands/configure/Configure.h"
 #ifdef GFC_RECORD
+#include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
 #endif
 
@@ -11,27 +12,39 @@ namespace gfc::commands {
 
 namespace {
 
-std::unique_ptr<config::Recorder> RecorderFor([[maybe_unused]] platform::Machine& machine) {
 #ifdef GFC_RECORD
-    return std::make_unique<record::ProjectRecorder>(machine.Clock, machine.TimeZone,
-                                                     machine.Paths.UserName());
+// Enters what was written while the next files are: waiting for the disk for each would take longer than all
+// else.
+struct Recording {
+    explicit Recording(const platform::Machine& machine)
+        : entries_(machine.Clock, machine.TimeZone, machine.Paths.UserName()) {}
+
+private:
+    record::ProjectRecorder entries_;
+
+public:
+    record::BackgroundRecorder Recorder{entries_};
+};
 #else
-    return std::make_unique<config::NoRecorder>();
+struct Recording {
+    explicit Recording(const platform::Machine&) {}
+    config::NoRecorder Recorder;
+};
 #endif
-}
 
 } // namespace
 
 std::vector<plan::Written> WriteAll(OpenProject& open, const std::vector<plan::Checked>& targets,
                                     const std::string& user, Context context) {
-    const auto recorder = RecorderFor(context.Machine);
-    const plan::Writer writer{context.Machine.Files, *open.Library, *recorder, open.Project, user};
+    Recording recording(context.Machine);
+    config::Recorder& recorder = recording.Recorder;
+    const plan::Writer writer{context.Machine.Files, *open.Library, recorder, open.Project, user};
     std::vector<plan::Written> results;
     for (const plan::Checked& target : targets)
         results.push_back(plan::Write(writer, target.Change));
-    recorder->Settle();
-    if (!recorder->Trouble().empty())
-        Tell("what was written is not entered in the history. " + recorder->Trouble());
+    recorder.Settle();
+    if (const std::string trouble = recorder.Trouble(); !trouble.empty())
+        Tell("what was written is not entered in the history. " + trouble);
     return results;
 }
 
