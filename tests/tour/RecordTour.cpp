@@ -20,6 +20,7 @@ using ui::Icon;
 const std::string history = "FrHistory";
 const std::string compare = "FrCompare";
 const std::string report = "FrReport";
+const std::string check = "FrCheckStations";
 // More parts than any of the windows has to do here.
 constexpr int ticksEnough = 60;
 
@@ -96,6 +97,19 @@ void Tamper(Story& story, const QString& file) {
     });
 }
 
+// What has been tampered with is found before it goes out.
+void CheckThePlant(Story& story) {
+    story.Menu("GFCPrincipal", "checkStations");
+    WaitFor(story, check, "Timer1");
+    story
+        .Check([](Driver& d) {
+            EXPECT_GE(d.Rows(check, "ListView1"), 1);
+            EXPECT_EQ(d.Cell(check, "ListView1", 1, 1), "error");
+        })
+        .ClickRow(check, "ListView1", 1)
+        .Click(check, "Command5");
+}
+
 void BringBack(Story& story) {
     story.Menu("GFCPrincipal", "history")
         .ClickRow(history, "ListView1", 1)
@@ -121,6 +135,7 @@ void TellRecord(Story& story, const QDir& folder, const QString& station) {
     Verify(story, paper, project, 0);
     Tamper(story, file);
     Verify(story, paper, project, 1);
+    CheckThePlant(story);
     BringBack(story);
     Verify(story, paper, project, 0);
     moves::Exit(story);

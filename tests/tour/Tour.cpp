@@ -113,6 +113,20 @@ void EditWithATagRenamed(test::Story& story, const QString& station) {
         .SeeShown("TagsChanged", false);
 }
 
+// A bore that is wider than its pipe; the quiet line says so.
+void TypeWhatIsImplausible(test::Story& story, const QString& station) {
+    story
+        .ClickNode("GFCPrincipal", "TreeGFC",
+                   "All Stations\\" + station.toStdString() + "\\Individual Parameters\\Run 1")
+        .Menu("GFCPrincipal", "ConfigPar")
+        .Click("FrModificarTags", "Check3")
+        .Click("FrModificarTags", "Command1")
+        .Type("FrParMec", "txtDiaOrif", "99.9")
+        .SeeVisible("FrParMec", "Notes")
+        .Click("FrParMec", "cmdCancel")
+        .Box("Close mechanical parameters", "", ui::Icon::None, ui::Answer::Yes);
+}
+
 void Tell(test::Story& story, const QDir& folder) {
     moves::StartUp(story);
     ConfigureStation(story, single, {}, {1});
@@ -122,6 +136,7 @@ void Tell(test::Story& story, const QDir& folder) {
     for (const QString& station : {single, large, skid, delivery})
         ReadSummaries(story, station, 1);
     LookAtTheConfigurator(story, large);
+    TypeWhatIsImplausible(story, single);
     EditWithATagRenamed(story, single);
     tour::TellRuns(story, folder, large);
     moves::Exit(story);

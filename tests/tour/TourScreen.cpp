@@ -1,5 +1,6 @@
 #include "tour/TourScreen.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
@@ -48,6 +49,13 @@ QString TourScreen::SightOf(const QWidget& window) {
     for (const QStatusBar* bar : bars)
         for (const QLabel* panel : bar->findChildren<QLabel*>())
             sight += panel->text();
+    // So does a list that was empty, and the quiet line under a form.
+    const auto lists = window.findChildren<QAbstractItemView*>();
+    for (const QAbstractItemView* list : lists)
+        if (list->isVisible() && list->model() != nullptr)
+            sight += list->model()->rowCount() > 0 ? QLatin1Char('+') : QLatin1Char('-');
+    if (const auto* notes = window.findChild<QLabel*>(QStringLiteral("Notes")); notes != nullptr)
+        sight += notes->text();
     return sight;
 }
 
