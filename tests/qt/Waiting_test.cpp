@@ -9,10 +9,15 @@
 namespace gfc::test {
 
 struct Waiting : ProbeInWindow {
-    // Does it in the middle of a wait.
-    void Meanwhile(std::function<void()> act) {
-        QTimer::singleShot(1, qApp, std::move(act));
-        Screen.WaitAMoment();
+    // Does it in the middle of a wait, of which a machine that is busy may need several.
+    void Meanwhile(const std::function<void()>& act) {
+        bool done = false;
+        QTimer::singleShot(1, qApp, [&] {
+            act();
+            done = true;
+        });
+        while (!done)
+            Screen.WaitAMoment();
     }
 };
 
