@@ -14,7 +14,7 @@ namespace {
 QColor LinkColour(const QPalette& palette) {
     const QColor link = palette.color(QPalette::Link);
     const bool dark = palette.color(QPalette::Base).lightness() < 128;
-    constexpr int readable = 170; // of 255
+    constexpr int readable = 205; // of 255, at which even a blue stands out
     if (!dark || link.lightness() >= readable)
         return link;
     return QColor::fromHsl(link.hslHue(), link.hslSaturation(), readable);

@@ -54,9 +54,12 @@ QSize FittingSize(const QWidget& window) {
 // The one that is open, or a new one, which deletes itself when it is closed.
 HelpWindow& WindowOver(const QString& folder, QWidget* owner) {
     auto* window = dynamic_cast<HelpWindow*>(SideWindow::Named(windowName));
-    if (window == nullptr)
+    const bool isNew = window == nullptr;
+    if (isNew)
         window = new HelpWindow(folder);
     window->StandOver(owner);
+    if (isNew)
+        window->StandWithinScreen();
     return *window;
 }
 

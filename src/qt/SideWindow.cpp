@@ -65,8 +65,8 @@ void SideWindow::Fill(QWidget& content, QSize size) {
     activateWindow();
 }
 
-// In the middle of what it stands over, as far as the screen reaches. Left to themselves some systems place a
-// window a step beyond the last one, wherever its far edges come to be.
+// Left to themselves some systems place a window a step beyond the last one, wherever its far edges come to
+// be.
 void SideWindow::StandWithinScreen() {
     constexpr QMargins frame(8, 32, 8, 8);
     const QRect room = screen()->availableGeometry().marginsRemoved(frame);

@@ -18,6 +18,8 @@ public:
     // Stands over the window that a person works in, or a modal one would keep it from being used. Null for
     // none.
     void StandOver(QWidget* owner);
+    // Moves it into the middle of what it stands over, as far as the screen reaches.
+    void StandWithinScreen();
     // Takes the content and shows the window.
     void Fill(QWidget& content, QSize size);
 
@@ -30,7 +32,6 @@ protected:
 
 private:
     void StandOver(QWindow* under);
-    void StandWithinScreen();
 
     QPointer<QWindow> under_;
 };

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QScreen>
 #include <QTextBlock>
 
 namespace gfc::test {
@@ -117,6 +118,17 @@ TEST_F(HelpWindows, go_to_the_contents_on_F1_and_close_on_Escape) {
     Press(Help(), Qt::Key_Escape);
     EXPECT_EQ(Help(), nullptr);
     EXPECT_TRUE(Form->IsShown());
+}
+
+TEST_F(HelpWindows, stand_within_the_screen_wherever_they_are_called_from) {
+    const QRect screen = Window().screen()->availableGeometry();
+    for (const QPoint at : {screen.topLeft(), screen.center(), screen.bottomRight() - QPoint(50, 50)}) {
+        Window().move(at);
+        Settle();
+        Open(0);
+        EXPECT_TRUE(screen.contains(Help()->frameGeometry())) << Help()->x() << ", " << Help()->y();
+        Press(Help(), Qt::Key_Escape);
+    }
 }
 
 TEST_F(HelpWindows, close_on_Escape_wherever_the_focus_is) {
