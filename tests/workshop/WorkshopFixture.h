@@ -52,7 +52,9 @@ protected:
         return test::RunInShell("'" + (test::BinFolder() / "io-workshop").string() + "' " + arguments);
     }
 
-    [[nodiscard]] std::string In(const std::string& name) const { return (Folder / name).make_preferred().string(); }
+    [[nodiscard]] std::string In(const std::string& name) const {
+        return (Folder / name).make_preferred().string();
+    }
     [[nodiscard]] std::string Quoted(const std::string& name) const { return "'" + In(name) + "'"; }
 
     /// A project with station North, three tags in two modules, and station South without tags.
