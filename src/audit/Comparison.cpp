@@ -4,6 +4,8 @@
 #include "config/KeyChanges.h"
 #include "config/RunLayout.h"
 #include "config/Units.h"
+#include "platform/Profile.h"
+#include "services/CodePage.h"
 #include "services/Text.h"
 
 #include <algorithm>
@@ -46,16 +48,22 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 4> parts = {
 }};
 // clang-format on
 
+constexpr std::string_view viscosity = "FlowingViscosity"; // its unit is said by the table of defaults
+
 bool IsSection(const FileKey& key, std::string_view section) {
     return services::EqualNoCase(key.Section, section);
+}
+
+const UnitRow* UnitRowOf(const std::string& key) {
+    const auto found =
+        std::ranges::find_if(units, [&](const UnitRow& row) { return services::EqualNoCase(row.Key, key); });
+    return found == units.end() ? nullptr : &*found;
 }
 
 // The keys of one side, and what its units depend on.
 class Keys {
 public:
-    explicit Keys(const Side& side) : all_(config::KeysOf(side.Bytes)) {
-        systemUnits_ = ValueOf("FlowRuns", "SystemUnits");
-        algorithm_ = ValueOf("FlowRuns", "FlowAlgorithm");
+    explicit Keys(const Side& side) : all_(config::KeysOf(side.Bytes)), units_(side.Bytes) {
         if (side.Run == 0)
             return;
         const std::string section = config::RunSection(side.Run);
@@ -65,27 +73,12 @@ public:
     [[nodiscard]] const std::vector<FileKey>& All() const { return all_; }
 
     [[nodiscard]] std::string UnitOf(const std::string& key, const std::optional<std::string>& value) const {
-        if (!value || value->empty())
-            return {};
-        if (services::EqualNoCase(key, "FlowingViscosity"))
-            return std::string(config::DefaultsOf(systemUnits_).ViscosityCaption);
-        const auto found = std::ranges::find_if(
-            units, [&](const UnitRow& row) { return services::EqualNoCase(row.Key, key); });
-        return found == units.end() ? std::string()
-                                    : std::string(config::UnitCaption(found->Unit, systemUnits_, algorithm_));
+        return units_.Of(key, value);
     }
 
 private:
-    [[nodiscard]] std::string ValueOf(std::string_view section, std::string_view name) const {
-        const auto found = std::ranges::find_if(all_, [&](const FileKey& key) {
-            return IsSection(key, section) && services::EqualNoCase(key.Key, name);
-        });
-        return found == all_.end() ? std::string() : found->Value;
-    }
-
     std::vector<FileKey> all_;
-    std::string systemUnits_;
-    std::string algorithm_;
+    ShownUnits units_;
 };
 
 // Where the keys of a side stand; within two runs the section says nothing.
@@ -110,6 +103,26 @@ private:
 };
 
 } // namespace
+
+ShownUnits::ShownUnits(const std::string& bytes) {
+    const platform::Profile profile(bytes);
+    systemUnits_ = services::FromCodePage(profile.Read("FlowRuns", "SystemUnits"));
+    algorithm_ = services::FromCodePage(profile.Read("FlowRuns", "FlowAlgorithm"));
+}
+
+std::string ShownUnits::Of(const std::string& key, const std::optional<std::string>& value) const {
+    if (!value || value->empty())
+        return {};
+    if (services::EqualNoCase(key, viscosity))
+        return std::string(config::DefaultsOf(systemUnits_).ViscosityCaption);
+    const UnitRow* row = UnitRowOf(key);
+    return row == nullptr ? std::string()
+                          : std::string(config::UnitCaption(row->Unit, systemUnits_, algorithm_));
+}
+
+bool ShownUnits::Has(const std::string& key) {
+    return services::EqualNoCase(key, viscosity) || UnitRowOf(key) != nullptr;
+}
 
 std::string CaptionOf(const std::string& key) {
     const std::string caption = VariableOf(key);

@@ -33,6 +33,21 @@ struct ComparedRow {
 // no summary shows it.
 [[nodiscard]] std::string CaptionOf(const std::string& key);
 
+// The units that the forms show the values of one configuration with.
+class ShownUnits {
+public:
+    // bytes: the file. One that does not say its units is shown in the first ones, as in the forms.
+    explicit ShownUnits(const std::string& bytes);
+    // Empty for a text without a unit, and for an empty value.
+    [[nodiscard]] std::string Of(const std::string& key, const std::optional<std::string>& value) const;
+    // Whether values under the key have one in any configuration.
+    [[nodiscard]] static bool Has(const std::string& key);
+
+private:
+    std::string systemUnits_;
+    std::string algorithm_;
+};
+
 // "12.50 in", "(none)" for a key that is not there; an empty value is the empty text.
 [[nodiscard]] std::string ShownValue(const std::optional<std::string>& value, const std::string& unit);
 

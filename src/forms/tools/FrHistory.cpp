@@ -1,6 +1,5 @@
 #include "forms/tools/FrHistory.h"
 
-#include "audit/Comparison.h"
 #include "forms/tools/BringBack.h"
 #include "forms/tools/EntryText.h"
 #include "forms/tools/FrCompare.h"
@@ -9,6 +8,7 @@
 #include "services/UtcText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace gfc::forms {
 
@@ -22,9 +22,9 @@ constexpr const char* allRuns = "All";
 
 const std::vector<std::string> changeHeadings = {"Section", "Variable", "Key", "Old", "New"};
 
-std::vector<std::string> CellsOf(const config::KeyChange& change) {
-    return {change.Section, audit::CaptionOf(change.Key), change.Key, audit::ShownValue(change.Old, {}),
-            audit::ShownValue(change.New, {})};
+std::string UnitOf(const std::optional<audit::ShownUnits>& units, const std::string& key,
+                   const std::optional<std::string>& value) {
+    return units ? units->Of(key, value) : std::string();
 }
 
 } // namespace
@@ -158,6 +158,34 @@ std::vector<config::KeyChange> FrHistory::WantedOf(std::vector<config::KeyChange
     return changes;
 }
 
+// What the values were shown with before the entry and after it. The files are fetched where it matters
+// alone.
+FrHistory::Units FrHistory::UnitsOf(const config::RecordEntry& entry,
+                                    const std::vector<config::KeyChange>& changes) {
+    if (std::ranges::none_of(changes, [](const auto& change) { return audit::ShownUnits::Has(change.Key); }))
+        return {};
+    const auto of = [this](std::int64_t number) {
+        const auto file = program_.Recorder.Generation(record_, number);
+        return file ? std::optional<audit::ShownUnits>(*file) : std::nullopt;
+    };
+    std::int64_t before = 0;
+    for (const config::RecordEntry& earlier : entries_)
+        if (earlier.Station == entry.Station && earlier.Number < entry.Number && !earlier.FileHash.empty())
+            before = earlier.Number;
+    return {before == 0 ? std::nullopt : of(before), of(entry.Number)};
+}
+
+std::vector<ui::ListView::Row> FrHistory::RowsOf(const config::RecordEntry& entry) {
+    const auto changes = WantedOf(program_.Recorder.Changes(record_, entry.Number));
+    const Units units = UnitsOf(entry, changes);
+    std::vector<ui::ListView::Row> rows;
+    for (const config::KeyChange& change : changes)
+        rows.push_back({change.Section, audit::CaptionOf(change.Key), change.Key,
+                        audit::ShownValue(change.Old, UnitOf(units.Old, change.Key, change.Old)),
+                        audit::ShownValue(change.New, UnitOf(units.New, change.Key, change.New))});
+    return rows;
+}
+
 void FrHistory::ShowState() {
     const std::string trouble = entries_.empty() ? program_.Recorder.Trouble() : std::string();
     const std::string all = Counted(entries_.size(), "entry", "entries");
@@ -185,12 +213,8 @@ void FrHistory::SelectEntry(int) {
     ListView2.ClearRows();
     OfferCommands();
     const config::RecordEntry* entry = Selected();
-    if (entry == nullptr)
-        return;
-    std::vector<ui::ListView::Row> rows;
-    for (const config::KeyChange& change : WantedOf(program_.Recorder.Changes(record_, entry->Number)))
-        rows.push_back(CellsOf(change));
-    ListView2.AddRows(std::move(rows));
+    if (entry != nullptr)
+        ListView2.AddRows(RowsOf(*entry));
 }
 
 // Nothing can be done with an entry that left no file.
@@ -283,13 +307,13 @@ services::TextTable FrHistory::TableOfAll() {
                                                entry.Command,
                                                entry.User,
                                                entry.MachineUser};
-        const auto changes = WantedOf(program_.Recorder.Changes(record_, entry.Number));
+        auto changes = RowsOf(entry);
         if (changes.empty())
             table.Rows.push_back(head);
-        for (const config::KeyChange& change : changes) {
+        for (auto& change : changes) {
             auto& row = table.Rows.emplace_back(head);
-            for (std::string& cell : CellsOf(change))
-                row.push_back(std::move(cell));
+            row.insert(row.end(), std::make_move_iterator(change.begin()),
+                       std::make_move_iterator(change.end()));
         }
     }
     return table;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audit/Comparison.h"
 #include "config/RecordFilter.h"
 #include "forms/tools/ToolForm.h"
 #include "ui/Buttons.h"
@@ -10,6 +11,7 @@
 #include "ui/TextBox.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -61,6 +63,14 @@ private:
     void AddRowsOf(const std::vector<config::EntryChanges>& changes);
     [[nodiscard]] config::RecordFilter Wanted() const;
     [[nodiscard]] std::vector<config::KeyChange> WantedOf(std::vector<config::KeyChange> changes) const;
+    struct Units {
+        std::optional<audit::ShownUnits> Old;
+        std::optional<audit::ShownUnits> New;
+    };
+    [[nodiscard]] Units UnitsOf(const config::RecordEntry& entry,
+                                const std::vector<config::KeyChange>& changes);
+    // Of the changes that are wanted, as the lower list shows them.
+    [[nodiscard]] std::vector<ui::ListView::Row> RowsOf(const config::RecordEntry& entry);
     void ShowState();
     void SelectEntry(int row);
     [[nodiscard]] const config::RecordEntry* Selected() const;

@@ -92,7 +92,8 @@ private:
         const bool left = event.button() == Qt::LeftButton;
         const bool onBox = checkable_ != nullptr && at.column() == 0 && left;
         const bool twice = event.type() == QEvent::MouseButtonDblClick && left;
-        ViewRenderer::TakePress(event);
+        // What draws the box would keep a press on it to itself, and the view would not know of it.
+        onBox&& row > 0 ? Click(row) : ViewRenderer::TakePress(event);
         if (event.button() == Qt::RightButton)
             return AskForMenu();
         if (row == 0 || window_.Form() == nullptr || Selected() != row)

@@ -78,8 +78,8 @@ TEST_F(History, filters_by_station_run_variable_user_and_time) {
 TEST_F(History, shows_old_and_new_of_the_entry_that_is_selected) {
     Open().ClickRow(window, "ListView1", 3).Check([&](Driver&) {
         ASSERT_EQ(Form().ListView2.Count(), 1);
-        EXPECT_EQ(Form().ListView2.At(1),
-                  (ui::ListView::Row{"Run1", "Orifice Plate Internal Dia.", "OrificeDia", "5.0", "6.0"}));
+        EXPECT_EQ(Form().ListView2.At(1), (ui::ListView::Row{"Run1", "Orifice Plate Internal Dia.",
+                                                             "OrificeDia", "5.0 in", "6.0 in"}));
     });
     TheStory.SeeEnabled(window, "Command6").ClickRow(window, "ListView1", 2);
     for (const char* command : {"Command4", "Command5", "Command6"})
@@ -205,6 +205,19 @@ TEST_F(History, verifies_in_steps_and_names_what_does_not_hold) {
     PlayToTheEnd();
 }
 
+TEST_F(History, shows_each_value_with_the_units_of_its_own_time) {
+    std::string metric = Present;
+    metric.replace(metric.find("SystemUnits=US"), 14, "SystemUnits=Metric");
+    metric.replace(metric.find("OrificeDia=6.5"), 14, "OrificeDia=165.1");
+    Recorder.Record({{"", "North", "Configure", "eve", Present, metric}});
+    Open().ClickRow(window, "ListView1", 1).Check([&](Driver&) {
+        const int row = RowOf(Form().ListView2, 2, "OrificeDia");
+        EXPECT_EQ(Form().ListView2.Cell(row, 3), "6.5 in");
+        EXPECT_EQ(Form().ListView2.Cell(row, 4), "165.1 mm");
+    });
+    PlayToTheEnd();
+}
+
 TEST_F(History, looks_at_thousands_bit_by_bit_and_can_be_stopped) {
     for (int entry = 6; entry <= 350; ++entry)
         Recorder.Record({{"", "North", "Configure", "eve", FileWith(std::to_string(entry)),
@@ -231,7 +244,7 @@ TEST_F(History, gives_out_each_change_with_its_entry) {
         .Check([&](Driver&) {
             EXPECT_THAT(Screen.Copied,
                         HasSubstr("3\t2023-03-10 08:00:00\tNorth\tModify run\tbob\toperator\tRun1\t"
-                                  "Orifice Plate Internal Dia.\tOrificeDia\t5.0\t6.0\n"));
+                                  "Orifice Plate Internal Dia.\tOrificeDia\t5.0 in\t6.0 in\n"));
         })
         .Click(window, "Command8")
         .ChooseFile("/jobs/out.html")

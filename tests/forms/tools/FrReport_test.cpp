@@ -1,5 +1,6 @@
 #include "ToolRoom.h"
 #include "forms/tools/FrReport.h"
+#include "support/FakeReports.h"
 
 #include <gmock/gmock.h>
 
@@ -11,31 +12,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 const std::string window = "FrReport";
-
-// Makes nothing, in three steps.
-class FakeReports : public audit::ReportWriter {
-public:
-    std::vector<audit::ReportOrder> Orders;
-
-    std::unique_ptr<audit::ReportWork> Begin(const project::Project&, project::AddOnLibrary&,
-                                             const audit::ReportOrder& order) override {
-        Orders.push_back(order);
-        return std::make_unique<Work>();
-    }
-
-private:
-    class Work : public audit::ReportWork {
-    public:
-        bool Advance() override { return ++done_ < Total(); }
-        [[nodiscard]] std::size_t Done() const override { return done_; }
-        [[nodiscard]] std::size_t Total() const override { return 3; }
-        [[nodiscard]] std::string Bytes() const override { return "the report"; }
-        [[nodiscard]] std::string ContentHash() const override { return "c0ffee"; }
-
-    private:
-        std::size_t done_ = 0;
-    };
-};
 
 struct ReportWindow : ToolRoom {
     ReportWindow() {
