@@ -45,6 +45,9 @@ public:
     [[nodiscard]] virtual std::string ExecutableFolder() = 0;
     // The folder in which a profile that is named without a folder is looked for; empty if there is none.
     [[nodiscard]] virtual std::string ProfileFolder() = 0;
+    // The folder of this program among the person's own, for what it must find again itself, without a
+    // separator at its end; made if need be. Empty if there is none and none can be made.
+    [[nodiscard]] virtual std::string OwnFolder() = 0;
     // The name under which the person is logged on; empty if the machine does not tell.
     [[nodiscard]] virtual std::string UserName() = 0;
 };

@@ -56,5 +56,6 @@ struct Operation {
 [[nodiscard]] std::vector<Operation> WorkshopOperations();
 [[nodiscard]] std::vector<Operation> PlanOperations();
 [[nodiscard]] std::vector<Operation> RecordOperations();
+[[nodiscard]] std::vector<Operation> DraftOperations();
 
 } // namespace gfc::test::faults

@@ -41,6 +41,8 @@ bool PlayAll(const Settings& settings) {
         operations.push_back(std::move(operation));
     for (Operation& operation : PlanOperations())
         operations.push_back(std::move(operation));
+    for (Operation& operation : DraftOperations())
+        operations.push_back(std::move(operation));
     for (Operation& operation : RecordOperations())
         operations.push_back(std::move(operation));
     Tally failures;

@@ -37,6 +37,7 @@ public:
     explicit FixedPaths(std::string profiles) : profiles_(std::move(profiles)) {}
     std::string ExecutableFolder() override { return "/opt"; }
     std::string ProfileFolder() override { return profiles_; }
+    std::string OwnFolder() override { return {}; }
     std::string UserName() override { return {}; }
 
 private:

@@ -39,6 +39,7 @@ const std::map<std::string, std::vector<int>> helpNumbers = {
     {"FrGeneration", {8200}},
     {"FrCompare", {8300}},
     {"FrReport", {8400}},
+    {"FrDrafts", {8500}},
 };
 
 } // namespace

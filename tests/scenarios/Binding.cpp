@@ -1,5 +1,6 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -56,7 +57,7 @@ Scenario InInputStage(const std::string& name, const moves::Choices& choices,
                 CancelTagRuns(story);
             },
             [](FakeProgram& program) {
-                EXPECT_TRUE(program.Files.Content.empty());
+                EXPECT_TRUE(ProjectFiles(program.Files).empty());
                 EXPECT_EQ(program.Session.Station.ActiveRunCount, 0);
             }};
 }

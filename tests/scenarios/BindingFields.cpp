@@ -1,5 +1,6 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -53,7 +54,7 @@ Scenario InFirstDialog(const std::string& name, const moves::Choices& choices,
                 CancelTagRuns(story);
                 moves::Exit(story);
             },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+            [](FakeProgram& program) { EXPECT_TRUE(ProjectFiles(program.Files).empty()); }};
 }
 
 // Longs and digitals go to and from lists of their own, whichever node of the variable is clicked.

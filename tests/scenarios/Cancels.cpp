@@ -1,5 +1,6 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -56,7 +57,7 @@ Scenario CancelOfRunSelection() {
                     .SeeShown("SelectRuns", false);
                 moves::Exit(story);
             },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+            [](FakeProgram& program) { EXPECT_TRUE(ProjectFiles(program.Files).empty()); }};
 }
 
 void SeeRows(Story& story, const std::string& list, int count) {
@@ -125,7 +126,7 @@ Scenario CancelledInTheSecondRun() {
                 moves::Exit(story);
             },
             [](FakeProgram& program) {
-                EXPECT_TRUE(program.Files.Content.empty());
+                EXPECT_TRUE(ProjectFiles(program.Files).empty());
                 EXPECT_EQ(program.Session.Station.ActiveRunCount, 0);
                 EXPECT_TRUE(program.Session.Inventory.AvailFloat.empty());
                 EXPECT_TRUE(program.Session.Station.Runs.IO.empty());
@@ -155,7 +156,49 @@ Scenario CancelledOnTheClosingPage() {
                     .SeeShown("GFCPrincipal");
                 moves::Exit(story);
             },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+            [](FakeProgram& program) { EXPECT_TRUE(ProjectFiles(program.Files).empty()); }};
+}
+
+// What the pass has behind it, and what was bound in the window that was cancelled, is there again; the draft
+// goes with the file.
+Scenario CancelledAndGoneOnWith() {
+    return {"a_cancelled_pass_goes_on_from_its_draft", moves::ThreeStations,
+            [](Story& story) {
+                const moves::Choices choices{.Source = 1};
+                const std::string drafts = "FrDrafts";
+                moves::StartUp(story);
+                moves::OpenWizard(story, "North");
+                moves::SelectRuns(story, {3});
+                moves::WalkPages(story, choices);
+                moves::PassUntil(story, choices, 3, 3);
+                story.ClickNode("TagRuns", "TreeAGA", "AGA 3 Outputs\\Mass Flow")
+                    .ClickRow("TagRuns", "ListViewRuns", 5)
+                    .Click("TagRuns", "Command1");
+                moves::CancelWindow(story, "TagRuns");
+                story.Menu("GFCPrincipal", "drafts")
+                    .SeeText(drafts, "Label1", "1 draft")
+                    .SeeText(drafts, "Combo1", "North")
+                    .OpenRow(drafts, "ListView1", 1);
+                moves::Continue(story, "Run 3 flow calculation output tag assignments", "Step 3 of 5");
+                story.Click("TagRuns", "Command6")
+                    .Box("Automatic Tags assignments", "", Icon::Information)
+                    .Box("Tags configuration", "", Icon::Information)
+                    .Click("TagRuns", "Command3");
+                moves::AutoBind(story);
+                story.Click("Step", "Command1").Click("MDetail", "Command1").Click("Step", "Command1");
+                moves::AutoBind(story);
+                moves::SaveAndClose(story);
+                story.Menu("GFCPrincipal", "drafts")
+                    .SeeEnabled(drafts, "Command3", false)
+                    .Click(drafts, "Command4");
+                moves::Exit(story);
+            },
+            [](FakeProgram& program) {
+                const std::string file = program.ConfigFile("North");
+                EXPECT_EQ(program.Program.Ini.ReadKey("FlowRuns", "Run3", file), "Yes");
+                EXPECT_EQ(program.Program.Ini.ReadKey("Run3", "AGA8StatusKDIORegAddr", file).size(), 4U);
+                EXPECT_EQ(program.Files.Content.size(), 1U) << "the draft has gone";
+            }};
 }
 
 } // namespace
@@ -168,6 +211,7 @@ std::vector<Scenario> CancelScenarios() {
         CancelOfRunSelection(),
         CancelledInTheSecondRun(),
         CancelledOnTheClosingPage(),
+        CancelledAndGoneOnWith(),
         CancelAt("cancel_at_the_common_inputs", detail, 1, "TagRuns"),
         CancelAt("cancel_at_the_mechanical_parameters", detail, 2, "FrParMec"),
         CancelAt("cancel_at_the_run_inputs", detail, 3, "TagRuns"),

@@ -1,6 +1,7 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
 #include "support/Room.h"
+#include "support/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +46,7 @@ void QuitWizard(Story& story) {
 Scenario OnStation(
     const std::string& name, const Room& room, std::function<void(Story&)> acts,
     std::function<void(FakeProgram&)> after = [](FakeProgram& program) {
-        EXPECT_TRUE(program.Files.Content.empty());
+        EXPECT_TRUE(ProjectFiles(program.Files).empty());
         EXPECT_EQ(program.Session.Station.ActiveRunCount, 0);
     }) {
     return {name, [room](FakeProgram& program) { program.AddStation("North", TagsOf(room)); },
@@ -184,7 +185,7 @@ Scenario StationWithoutTags() {
                 story.SeeShown("GFCPrincipal").SeeShown(selection, false);
                 moves::Exit(story);
             },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+            [](FakeProgram& program) { EXPECT_TRUE(ProjectFiles(program.Files).empty()); }};
 }
 
 Scenario WizardAnsweredNo() {
@@ -203,7 +204,7 @@ Scenario WizardAnsweredNo() {
                     .SeeShown(selection, false);
                 moves::Exit(story);
             },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+            [](FakeProgram& program) { EXPECT_TRUE(ProjectFiles(program.Files).empty()); }};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
+#include "support/ProjectFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -35,7 +36,7 @@ Scenario OnThePages(const std::string& name, std::function<void(Story&)> pages) 
                 pages(story);
                 QuitWizard(story);
             },
-            [](FakeProgram& program) { EXPECT_TRUE(program.Files.Content.empty()); }};
+            [](FakeProgram& program) { EXPECT_TRUE(ProjectFiles(program.Files).empty()); }};
 }
 
 void FourPagesForwardAndBack(Story& story) {

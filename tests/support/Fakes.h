@@ -28,7 +28,10 @@ class FakePaths : public platform::Paths {
 public:
     std::string ExecutableFolder() override { return "/opt/gfc"; }
     std::string ProfileFolder() override { return "/etc/profiles"; }
+    std::string OwnFolder() override { return Own; }
     std::string UserName() override { return "operator"; }
+
+    std::string Own = "/home/operator/.state";
 };
 
 // The I/O Workshop tool with a project open in it.

@@ -69,8 +69,10 @@ void TagRuns::SaySomethingIsBound() {
 void TagRuns::Cancel() {
     if (MayLose(program_, "Gas Flow Computer",
                 "Are you sure you want to discard the changes made to the current configuration?",
-                ui::Icon::Question))
+                ui::Icon::Question)) {
+        TellWhatStands();
         GiveBackFromTagRuns(program_);
+    }
 }
 
 bool TagRuns::HasPulses() const {

@@ -2,6 +2,7 @@
 
 #include "binding/Assignment.h"
 #include "binding/Catalogue.h"
+#include "drafts/Draft.h"
 #include "forms/binding/BindingHistory.h"
 #include "forms/binding/TagFilter.h"
 #include "forms/binding/TagSuggestions.h"
@@ -93,6 +94,10 @@ public:
     ui::MenuEntry soltar{edicion, "soltar", "Take &Back"};
     ui::MenuEntry buscar{edicion, "buscar", "&Filter"};
     ui::MenuEntry dondeSeUsa{edicion, "dondeSeUsa", "&Where Used"};
+
+    // For a pass that is kept: what stood in the window when it was left, null for none, and who is told what
+    // stands in it after each act. Before the window is shown.
+    void FollowPass(const drafts::OpenDialog* leftIn, std::function<void(drafts::OpenDialog)> onChange);
 
     // The row, from 1, that the next Assign takes from that list; past the end it takes nothing.
     [[nodiscard]] int RowToTake(binding::OfferList list) { return RowFieldOf(list); }
@@ -191,6 +196,10 @@ private:
     // The first shown row from this one on; past the end where none is.
     [[nodiscard]] static int NextShown(const ui::ListView& list, int row);
 
+    // What a draft keeps of it
+    void GoOn(const drafts::OpenDialog& left);
+    void TellWhatStands() const;
+
     // Leaving
     void Continue();
     [[nodiscard]] bool MayContinue();
@@ -219,6 +228,8 @@ private:
     int longRow_ = 1;
     int selectedNode_ = 0;
     std::string configFilePath_;
+    std::optional<drafts::OpenDialog> leftIn_;
+    std::function<void(drafts::OpenDialog)> onChange_;
     BindingHistory history_;
     std::vector<BindingHistory::RowChange> changes_; // of the act that goes on
     TagSuggestions suggestions_;

@@ -1,3 +1,4 @@
+#include "binding/OnOffer.h"
 #include "config/Vocabulary.h"
 #include "forms/binding/TagLists.h"
 #include "forms/binding/TagRuns.h"
@@ -63,16 +64,8 @@ void TagRuns::StoreFields() {
     io->ContractMin = std::move(stored.ContractMin);
 }
 
-// An empty list leaves its old tags on offer, except the analog one. The long tags are never taken away: one
-// used by a run is offered to the next. All of it deliberate.
 void TagRuns::UpdatePools() {
-    auto& pools = session_.Inventory;
-    if (ListViewRuns.Count() > 0)
-        pools.AvailFloat = TagsInList(ListViewRuns);
-    if (Stage() == RunOutputs || Stage() == GasOutputs)
-        pools.AvailAnalog = TagsInList(ListAnalogDig);
-    else if (ListAnalogDig.Count() > 0)
-        pools.AvailDigital = TagsInList(ListAnalogDig);
+    binding::LeaveOnOffer(Stage(), TagsInList(ListViewRuns), TagsInList(ListAnalogDig), session_.Inventory);
 }
 
 int TagRuns::ChosenSource() const {

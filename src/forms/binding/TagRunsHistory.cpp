@@ -2,6 +2,7 @@
 #include "forms/binding/TagRuns.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace gfc::forms {
 
@@ -34,6 +35,13 @@ Rows RowsOf(const ui::ListView& list) {
     return rows;
 }
 
+// None for what is no number: the text of a draft may be any.
+int IndexIn(const std::string& text) {
+    int index = ui::DropDownList::None;
+    std::from_chars(text.data(), text.data() + text.size(), index);
+    return index;
+}
+
 // A list has a blank in front of its numbers until it is renumbered.
 bool HasBareNumbers(const ui::ListView& list) {
     return list.Count() > 0 && !list.Cell(1, 0).starts_with(" ");
@@ -48,6 +56,7 @@ void TagRuns::Do(const std::string& what, const std::function<void()>& act) {
     std::ranges::for_each(changes_, [this](const RowChange& change) { TellFilter(change); });
     history_.Note(what, std::move(before), TakePicture(), std::exchange(changes_, {}));
     ShowNotes();
+    TellWhatStands();
 }
 
 void TagRuns::TakeRow(OfferList list, int row) {
@@ -136,7 +145,7 @@ void TagRuns::ShowFields(const Picture& picture) {
         texts[i]->SetText(picture.FieldTexts[i]);
     ui::DropDownList* const times[] = {&ListHour, &ListMinx10, &ListMinx1};
     for (std::size_t i = 0; i < 3; ++i)
-        times[i]->SetListIndex(std::stoi(picture.FieldTexts[i + 3]));
+        times[i]->SetListIndex(IndexIn(picture.FieldTexts[i + 3]));
     if (const bool local = picture.FieldTexts[6] == "local"; local != OptionLocal.Value())
         (local ? OptionLocal : OptionGMT).SetValue(true);
 }
@@ -146,6 +155,7 @@ void TagRuns::UndoLast() {
         return;
     GoTo(history_.Undo(TakePicture()));
     ShowNotes();
+    TellWhatStands();
 }
 
 void TagRuns::RedoLast() {
@@ -153,6 +163,7 @@ void TagRuns::RedoLast() {
         return;
     GoTo(history_.Redo(TakePicture()));
     ShowNotes();
+    TellWhatStands();
 }
 
 } // namespace gfc::forms

@@ -1,3 +1,4 @@
+#include "binding/OnOffer.h"
 #include "config/Vocabulary.h"
 #include "forms/binding/TagLists.h"
 #include "forms/binding/TagRuns.h"
@@ -78,6 +79,8 @@ void TagRuns::Load() {
     FilterKind.SetListIndex(0);
     PrepareStage();
     ShowRowFields();
+    if (leftIn_)
+        GoOn(*leftIn_);
     history_.Clear();
     suggestions_.Forget();
     filter_.Forget();
@@ -165,7 +168,7 @@ void TagRuns::FillLists() {
     FillTagList(ListLong, pools.AvailLong, 0);
     ListLong.SetVisible(Stage() == RunInputs && HasPulses());
 
-    const bool outputs = Stage() == RunOutputs || Stage() == GasOutputs;
+    const bool outputs = binding::OffersAnalog(Stage());
     HeadTagList(ListAnalogDig, binding::ListHeading(outputs ? TagClass::Analog : TagClass::Digital));
     ListAnalogDig.SetVisible(Stage() != CommonInputs);
     if (Stage() != CommonInputs)

@@ -13,6 +13,8 @@ public:
 
     ui::Label Label1{*this, "Label1", "Press  'Continue' to configure the individual parameters"};
     ui::Label Label2{*this, "Label2"};
+    // Beside what is announced: that the pass is not kept as a draft.
+    ui::Label Notes{*this, "Notes"};
     ui::CommandButton Command1{*this, "Command1", "Continue"};
 };
 

@@ -8,6 +8,7 @@
 #include "forms/editors/MDetail.h"
 #include "forms/editors/frSGERG88.h"
 #include "forms/station/Step.h"
+#include "forms/wizard/PassDraft.h"
 #include "services/Text.h"
 
 #include <utility>
@@ -29,6 +30,8 @@ const PassTexts WizardPassTexts = {
 namespace {
 
 using config::GasSlot;
+using drafts::Dialog;
+using drafts::PassStep;
 
 // The letters of "assignemnts" are those of the announcement.
 constexpr std::string_view AnnounceCommon = "Configuring I/O Tag assignemnts common to all Runs...";
@@ -61,7 +64,11 @@ void WizardPass::StartCount(int total) {
     step_ = total > 0 ? 1 : 0;
 }
 
+// A pass that goes on has its records, and a person who knows where it leads.
 bool WizardPass::Open() {
+    session_.Cancelled = false;
+    if (draft_ != nullptr && draft_->GoesOn())
+        return !program_.Screen.Ended();
     auto& step = program_.Forms.Touch<Step>();
     if (!texts_.Opening.empty())
         step.Label1.SetCaption(std::string(texts_.Opening));
@@ -73,14 +80,14 @@ bool WizardPass::Open() {
 
 bool WizardPass::Common() {
     const bool external = services::EqualNoCase(station_.ExtAtmPress, config::Yes);
+    total_ += external ? 1 : 0;
+    if (IsBehind({0, Dialog::CommonInputs}))
+        return true;
     // The wizard's file is a new one: an earlier configuration of the station must not shine through. What a
     // stored configuration holds of a pressure that is not in use stays.
     if (external || session_.EditMode != EditMode::Configurator)
         station_.CommonPa = {};
-    if (!external)
-        return true;
-    ++total_;
-    return Bind(BindingStage::CommonInputs, {1, 0}, AnnounceCommon);
+    return !external || Bind(BindingStage::CommonInputs, {1, 0}, AnnounceCommon);
 }
 
 bool WizardPass::EachRun() {
@@ -112,6 +119,9 @@ bool WizardPass::Mechanical(const TheRun& run) {
 
 template <class Editor>
 bool WizardPass::EditMechanical(const TheRun& run, std::string_view announcement, std::string_view caption) {
+    const PassStep step{run.Number, Dialog::Mechanical};
+    if (IsBehind(step))
+        return true;
     if (!Announce(announcement, run, texts_.StepOf))
         return false;
     session_.EditRun = run.Number;
@@ -120,7 +130,7 @@ bool WizardPass::EditMechanical(const TheRun& run, std::string_view announcement
     editor.SetCaption(Filled(caption, run));
     session_.Cancelled = false;
     editor.ShowModal();
-    if (!Goes())
+    if (!Goes(step))
         return false;
     // By the run's place among the active ones, not by its number: that is where the writer looks for it.
     station_.Runs.Mechanical.at(static_cast<std::size_t>(run.Element)) = session_.EditedMechanical;
@@ -139,22 +149,28 @@ bool WizardPass::GasData(const TheRun& run) {
 }
 
 bool WizardPass::DetailComposition(const TheRun& run) {
+    const PassStep step{run.Number, Dialog::GasData};
+    if (IsBehind(step))
+        return true;
     if (!Announce(AnnounceDetail, run, texts_.StepOf))
         return false;
     PrepareGas(run, GasSlot::GC_N2);
     program_.Forms.Get<MDetail>().ShowModal();
-    if (!Goes())
+    if (!Goes(step))
         return false;
     TakeGas(run);
     return true;
 }
 
 bool WizardPass::GrossProperties(const TheRun& run) {
+    const PassStep step{run.Number, Dialog::GasData};
+    if (IsBehind(step))
+        return true;
     if (!Announce(AnnounceGross, run, texts_.StepOf))
         return false;
     PrepareGas(run, GasSlot::VolCalorificValue);
     program_.Forms.Get<frSGERG88>().ShowModal();
-    if (!Goes())
+    if (!Goes(step))
         return false;
     TakeGas(run);
     return true;
@@ -177,35 +193,56 @@ void WizardPass::TakeGas(const TheRun& run) {
 bool WizardPass::GasOutputs(const TheRun& run) {
     if (!config::IsGasModel(station_.GasDensitySource))
         return true;
-    return Announce(texts_.AnnounceGasOutputs, run, texts_.LastStepOf) &&
-           ShowTags(BindingStage::GasOutputs, run);
+    const PassStep step{run.Number, Dialog::GasOutputs};
+    return IsBehind(step) ||
+           (Announce(texts_.AnnounceGasOutputs, run, texts_.LastStepOf) && ShowTags(step, run));
 }
 
 bool WizardPass::Bind(BindingStage stage, const TheRun& run, std::string_view announcement) {
-    return Announce(announcement, run, texts_.StepOf) && ShowTags(stage, run);
+    const PassStep step{stage == BindingStage::CommonInputs ? 0 : run.Number, drafts::DialogOf(stage)};
+    return IsBehind(step) || (Announce(announcement, run, texts_.StepOf) && ShowTags(step, run));
 }
 
-bool WizardPass::ShowTags(BindingStage stage, const TheRun& run) {
-    session_.BindingStage = stage;
+bool WizardPass::ShowTags(const PassStep& step, const TheRun& run) {
+    session_.BindingStage = drafts::StageOf(step.What);
     session_.RunPosition = run.Element;
     session_.RunNumber = run.Number - 1;
     session_.Cancelled = false;
-    program_.Forms.Get<TagRuns>().ShowModal();
-    return Goes();
+    auto& tags = program_.Forms.Get<TagRuns>();
+    if (draft_ != nullptr)
+        tags.FollowPass(draft_->LeftIn(step), [this, step](drafts::OpenDialog dialog) {
+            draft_->Note(step, std::move(dialog));
+        });
+    tags.ShowModal();
+    return Goes(step);
 }
 
 bool WizardPass::Announce(std::string_view announcement, const TheRun& run, std::string_view stepOf) {
     auto& step = program_.Forms.Touch<Step>();
     step.Label1.SetCaption(Filled(announcement, run));
     step.Label2.SetCaption("Step " + std::to_string(step_) + std::string(stepOf) + std::to_string(total_));
+    if (draft_ != nullptr) {
+        draft_->Reach(step.Label2.Caption() + ": " + step.Label1.Caption());
+        step.Notes.SetCaption(draft_->TakeTrouble());
+    }
     step.ShowModal();
     return !program_.Screen.Ended();
 }
 
+bool WizardPass::IsBehind(const PassStep& step) {
+    const bool behind = draft_ != nullptr && draft_->IsBehind(step);
+    step_ += behind ? 1 : 0;
+    return behind;
+}
+
 // After each dialog: counts it, and tells whether the pass goes on.
-bool WizardPass::Goes() {
+bool WizardPass::Goes(const PassStep& step) {
     ++step_;
-    return !session_.Cancelled && !program_.Screen.Ended();
+    if (session_.Cancelled || program_.Screen.Ended())
+        return false;
+    if (draft_ != nullptr)
+        draft_->Pass(step);
+    return true;
 }
 
 std::string WizardPass::Filled(std::string_view text, const TheRun& run) const {

@@ -1,11 +1,14 @@
 #pragma once
 
+#include "drafts/Draft.h"
 #include "forms/program/Program.h"
 
 #include <string>
 #include <string_view>
 
 namespace gfc::forms {
+
+class PassDraft;
 
 // The words of a pass that differ by who drives it. {run} stands for the run's number, {station} for the
 // station's name.
@@ -28,7 +31,10 @@ extern const PassTexts WizardPassTexts;
 // with the count of the steps. The results stand in the run records, compactly over the active runs.
 class WizardPass {
 public:
-    WizardPass(Program& program, const PassTexts& texts) : program_(program), texts_(texts) {}
+    // draft keeps what is entered, and says which dialogs are behind a pass that goes on; null for a pass of
+    // which none is kept.
+    WizardPass(Program& program, const PassTexts& texts, PassDraft* draft = nullptr)
+        : program_(program), texts_(texts), draft_(draft) {}
 
     // True once all runs are through. False as soon as a dialog was cancelled, or the program has ended.
     [[nodiscard]] bool Run();
@@ -53,20 +59,23 @@ private:
     bool EachRun();
     template <class Editor>
     bool EditMechanical(const TheRun& run, std::string_view announcement, std::string_view caption);
+    // A dialog that was finished before the pass was left; it counts as a step all the same.
+    bool IsBehind(const drafts::PassStep& step);
     bool GasData(const TheRun& run);
     bool DetailComposition(const TheRun& run);
     bool GrossProperties(const TheRun& run);
     bool GasOutputs(const TheRun& run);
     bool Bind(BindingStage stage, const TheRun& run, std::string_view announcement);
-    bool ShowTags(BindingStage stage, const TheRun& run);
+    bool ShowTags(const drafts::PassStep& step, const TheRun& run);
     void PrepareGas(const TheRun& run, config::GasSlot signOfEntry);
     void TakeGas(const TheRun& run);
     bool Announce(std::string_view announcement, const TheRun& run, std::string_view stepOf);
-    bool Goes();
+    bool Goes(const drafts::PassStep& step);
     [[nodiscard]] std::string Filled(std::string_view text, const TheRun& run) const;
 
     Program& program_;
     const PassTexts& texts_;
+    PassDraft* draft_;
     Session& session_ = program_.Session;
     config::StationConfig& station_ = session_.Station;
     int step_ = 1;

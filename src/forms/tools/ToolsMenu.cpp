@@ -2,6 +2,7 @@
 
 #include "forms/tools/FrCheckStations.h"
 #include "forms/tools/FrCompare.h"
+#include "forms/tools/FrDrafts.h"
 #include "forms/tools/FrHistory.h"
 #include "forms/tools/FrPlanStations.h"
 #include "forms/tools/FrReport.h"
@@ -16,6 +17,7 @@ std::span<const Tool> Tools() {
          [](Program& program) { program.Forms.Get<FrCheckStations>().ShowModal(); }},
         {"copySeveral", "Copy to several stations...", CopyToSeveralCommand},
         {"bindAnew", "Bind anew...", BindAnewCommand},
+        {"drafts", "Drafts...", DraftsCommand},
         {"history", "History...", [](Program& program) { program.Forms.Get<FrHistory>().ShowModal(); }},
         {"compare", "Compare...", [](Program& program) { program.Forms.Get<FrCompare>().ShowModal(); }},
         {"report", "Report...", [](Program& program) { program.Forms.Get<FrReport>().ShowModal(); }},

@@ -4,11 +4,14 @@
 #include "forms/editors/QuietNotes.h"
 #include "forms/program/Program.h"
 #include "forms/station/CommonGroups.h"
+#include "forms/wizard/PassDraft.h"
 #include "ui/Buttons.h"
 #include "ui/Frame.h"
 #include "ui/Label.h"
 #include "ui/TabbedPane.h"
 #include "ui/TextBox.h"
+
+#include <optional>
 
 namespace gfc::forms {
 
@@ -62,6 +65,9 @@ public:
 
     // Copies the pages into the station's configuration, as the texts that are stored.
     void StoreWizardValues();
+    // Takes up the pass of a draft, whose configuration is that of the session: the pages are behind it. The
+    // form must be loaded.
+    void GoOn(drafts::Draft draft);
     // Whether the station can carry the standard with the density source: 0, or the failed row, 1 to 4, after
     // the message of the minimum I/O.
     [[nodiscard]] int SourceCapacityCheck();
@@ -110,13 +116,17 @@ private:
 
     // The end (WizardSave.cpp)
     void Finish();
+    void HidePageButtons();
     void SetModulesAside();
+    void PassRuns();
     void Abandon();
+    void SayWhatIsKept();
     void Save();
     void CloseForms();
     void Quit();
 
     QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckCommonValues(Entered(), sink); }};
+    std::optional<PassDraft> draft_; // from the pass on
     int nStep_ = 0;
     int lastPage_ = 3;
     bool finished_ = false;

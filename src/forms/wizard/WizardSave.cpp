@@ -2,6 +2,7 @@
 #include "config/ConfigWriter.h"
 #include "forms/binding/TagRuns.h"
 #include "forms/files/WaitForFile.h"
+#include "forms/main_window/GFCPrincipal.h"
 #include "forms/program/Loss.h"
 #include "forms/program/MainWindow.h"
 #include "forms/station/Step.h"
@@ -21,17 +22,37 @@ void WizardFC::Finish() {
         siguiente.SetEnabled(true);
         return;
     }
-    for (ui::CommandButton* button : {&atras, &siguiente, &finalizar})
-        button->SetVisible(false);
+    HidePageButtons();
     StoreWizardValues();
     HideMainWindow(program_);
     SetModulesAside();
     Hide();
-    const bool through = WizardPass(program_, WizardPassTexts).Run();
+    draft_.emplace(program_);
+    PassRuns();
+}
+
+void WizardFC::GoOn(drafts::Draft draft) {
+    const auto alive = KeepAlive();
+    HidePageButtons();
+    // It is the pages that are judged there, and these say nothing.
+    Notes.SetVisible(false);
+    HideMainWindow(program_);
+    draft_.emplace(program_, std::move(draft));
+    PassRuns();
+}
+
+void WizardFC::HidePageButtons() {
+    for (ui::CommandButton* button : {&atras, &siguiente, &finalizar})
+        button->SetVisible(false);
+}
+
+void WizardFC::PassRuns() {
+    const bool through = WizardPass(program_, WizardPassTexts, &*draft_).Run();
     if (program_.Screen.Ended())
         return;
     if (!through)
         return Abandon();
+    draft_->Reach("All runs are through");
     program_.Forms.Unload<TagRuns>();
     ShowClosingPage();
     ShowModal();
@@ -43,11 +64,23 @@ void WizardFC::SetModulesAside() {
                                  session_.Station.FlagAGA7);
 }
 
-// After a cancel in the pass. Nothing was written; all that was entered is lost.
+// After a cancel in the pass. Nothing was written to the station's file; what was entered stays as a draft.
 void WizardFC::Abandon() {
     CloseForms();
     ForgetStation(session_);
     ShowMainWindow(program_);
+    SayWhatIsKept();
+}
+
+void WizardFC::SayWhatIsKept() {
+    if (!draft_ || program_.Screen.Ended() || !program_.Forms.IsLoaded<GFCPrincipal>())
+        return;
+    const std::string trouble = draft_->TakeTrouble();
+    const std::string text = trouble.empty() && draft_->IsKept()
+                                 ? "What was entered is kept: menu Tools, Drafts..."
+                                 : trouble;
+    if (!text.empty())
+        program_.Forms.Get<GFCPrincipal>().StatusBar1.SetPanelText(1, text);
 }
 
 void WizardFC::CloseForms() {
@@ -67,6 +100,8 @@ void WizardFC::Save() {
         [&] { return DeletePatiently(program_, file); });
     if (!stored)
         return;
+    if (draft_)
+        draft_->LetGo();
     CloseForms();
     ShowMainWindow(program_);
     session_.TreeRefreshNeeded = true;
@@ -78,6 +113,7 @@ void WizardFC::Quit() {
     Unload();
     ShowMainWindow(program_);
     ForgetStation(session_);
+    SayWhatIsKept();
 }
 
 } // namespace gfc::forms

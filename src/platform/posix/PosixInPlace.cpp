@@ -64,13 +64,6 @@ std::unique_ptr<OpenFile> Opened(Descriptor file) {
     return file ? std::make_unique<PosixOpenFile>(std::move(file)) : nullptr;
 }
 
-// With those that it stands in; what stands there already stays.
-void MakeFolder(const std::string& folder) {
-    for (std::size_t at = folder.find('/', 1); at != std::string::npos; at = folder.find('/', at + 1))
-        ::mkdir(folder.substr(0, at).c_str(), 0700);
-    ::mkdir(folder.c_str(), 0700);
-}
-
 // A file system without locks gives none; the file serves all the same.
 bool TryLock(const Descriptor& file) {
     return ::flock(file.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;

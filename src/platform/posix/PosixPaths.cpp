@@ -4,6 +4,7 @@
 #include <climits>
 
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #ifdef __APPLE__
@@ -39,6 +40,15 @@ public:
             return config;
         const std::string home = posix::HomeFolder();
         return home.empty() ? home : home + "/.config";
+    }
+
+    std::string OwnFolder() override {
+        const std::string folder = posix::StateFolder();
+        if (folder.empty())
+            return folder;
+        posix::MakeFolder(folder);
+        struct stat state {};
+        return ::stat(folder.c_str(), &state) == 0 && S_ISDIR(state.st_mode) ? folder : std::string();
     }
 
     // By the account and not by a variable, which anybody can set.

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace gfc::platform::posix {
@@ -25,6 +26,12 @@ std::string StateFolder() {
         return state + "/gfc-configurator";
     const std::string home = HomeFolder();
     return home.empty() ? home : home + "/.local/state/gfc-configurator";
+}
+
+void MakeFolder(const std::string& folder) {
+    for (std::size_t at = folder.find('/', 1); at != std::string::npos; at = folder.find('/', at + 1))
+        ::mkdir(folder.substr(0, at).c_str(), 0700);
+    ::mkdir(folder.c_str(), 0700);
 }
 
 } // namespace gfc::platform::posix

@@ -11,5 +11,7 @@ namespace gfc::platform::posix {
 [[nodiscard]] std::string HomeFolder();
 // Where this program keeps what it must find again itself. It need not exist.
 [[nodiscard]] std::string StateFolder();
+// With those that it stands in, open to its owner alone; what stands there already stays.
+void MakeFolder(const std::string& folder);
 
 } // namespace gfc::platform::posix

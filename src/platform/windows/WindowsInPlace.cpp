@@ -2,6 +2,7 @@
 
 #include "platform/windows/FileHandle.h"
 #include "platform/windows/SystemPath.h"
+#include "platform/windows/UserFolders.h"
 
 namespace gfc::platform::windows {
 namespace {
@@ -37,14 +38,6 @@ private:
 
 std::unique_ptr<OpenFile> Opened(Handle file) {
     return file ? std::make_unique<WindowsOpenFile>(std::move(file)) : nullptr;
-}
-
-// Where this user's programs keep what they must find again themselves.
-std::wstring StateFolder() {
-    std::wstring folder(32768, L'\0');
-    const DWORD length = ::GetEnvironmentVariableW(L"LOCALAPPDATA", folder.data(), 32768);
-    folder.resize(length < folder.size() ? length : 0);
-    return folder.empty() ? folder : folder + L"\\gfc-configurator";
 }
 
 } // namespace

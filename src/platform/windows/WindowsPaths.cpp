@@ -1,4 +1,5 @@
 #include "platform/Machine.h"
+#include "platform/windows/UserFolders.h"
 #include "platform/windows/Wide.h"
 
 namespace gfc::platform {
@@ -20,6 +21,16 @@ public:
         const UINT length = ::GetWindowsDirectoryW(path.data(), LongestPath);
         path.resize(length < LongestPath ? length : 0);
         return windows::Utf8(path);
+    }
+
+    std::string OwnFolder() override {
+        const std::wstring folder = windows::StateFolder();
+        if (folder.empty())
+            return {};
+        ::CreateDirectoryW(folder.c_str(), nullptr);
+        const DWORD its = ::GetFileAttributesW(folder.c_str());
+        const bool isThere = its != INVALID_FILE_ATTRIBUTES && (its & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        return isThere ? windows::Utf8(folder) : std::string();
     }
 
     std::string UserName() override {

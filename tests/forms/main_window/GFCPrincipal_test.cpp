@@ -90,6 +90,7 @@ TEST_F(MainWindow, menu_has_its_entries_in_order) {
                                "Tools>Check all stations...",
                                "Tools>Copy to several stations...",
                                "Tools>Bind anew...",
+                               "Tools>Drafts...",
                                "Tools>History...",
                                "Tools>Compare...",
                                "Tools>Report...",

@@ -77,8 +77,8 @@ public:
             .Click("Step", "Command1");
     }
     // Up to the window of a dialog, counted from 0, which then stands open.
-    void Until(Story& story, std::size_t last) const {
-        for (std::size_t i = 0; i <= last; ++i) {
+    void Until(Story& story, std::size_t last, std::size_t first = 0) const {
+        for (std::size_t i = first; i <= last; ++i) {
             const auto& dialog = dialogs_.at(i);
             story.SeeText("Step", "Label1", dialog.Announced)
                 .SeeText("Step", "Label2",
@@ -91,8 +91,8 @@ public:
                 dialog.GoThrough(story);
         }
     }
-    void Through(Story& story) const {
-        Until(story, dialogs_.size() - 1);
+    void Through(Story& story, std::size_t first = 0) const {
+        Until(story, dialogs_.size() - 1, first);
         dialogs_.back().GoThrough(story);
     }
 

@@ -35,7 +35,7 @@ TEST_P(WholePass, from_the_pages_to_the_written_file) {
         .SeeVisible(Form, "Command1")
         .Check([&](Driver& d) {
             EXPECT_EQ(d.Tab(Form, "wizard"), 4);
-            EXPECT_TRUE(world.Files.Content.empty());
+            EXPECT_TRUE(ProjectFiles(world.Files).empty());
         })
         .Click(Form, "Command1");
     world.Play();
@@ -219,7 +219,7 @@ CancelWords CancelOf(const std::string& window) {
 }
 
 void ExpectNothingLeft(PassWorld& world) {
-    EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_TRUE(ProjectFiles(world.Files).empty());
     EXPECT_EQ(world.Station.ActiveRunCount, 0);
     EXPECT_EQ(world.Station.CurrentStation, "");
     EXPECT_EQ(world.Station.FlowAlgorithm, "");

@@ -178,7 +178,7 @@ TEST(WizardSave, says_that_the_folder_takes_no_file) {
         .Box("Gas Flow Computer", "Do you want to quit the configuration wizard ?", ui::Icon::None,
              ui::Answer::Yes);
     world.Play();
-    EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_TRUE(ProjectFiles(world.Files).empty());
     EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>());
     EXPECT_FALSE(world.Screen.Ended());
 }
@@ -186,14 +186,14 @@ TEST(WizardSave, says_that_the_folder_takes_no_file) {
 TEST(WizardSave, says_that_no_file_bears_the_name_of_the_station) {
     for (const char* name : {"../North", "a\\b", "x\ny"}) {
         SaveWorld world;
-        const auto before = world.Files.Content;
+        const auto before = ProjectFiles(world.Files);
         world.Station.CurrentStation = name;
         ExpectNotSaved(world, "",
                        "The name of the station, or the path of the project, cannot be that of a file",
                        "There is no such file now.", ui::Answer::Close);
         world.TheStory.Click(Form, "cancelar").Box("Gas Flow Computer", "", ui::Icon::None, ui::Answer::Yes);
         world.Play();
-        EXPECT_EQ(world.Files.Content, before) << name;
+        EXPECT_EQ(ProjectFiles(world.Files), before) << name;
         EXPECT_FALSE(world.Program.Forms.IsLoaded<forms::WizardFC>()) << name;
         EXPECT_FALSE(world.Screen.Ended()) << name;
     }
@@ -209,7 +209,7 @@ TEST(WizardFinish, unwinds_without_a_word_when_the_program_ends_between_two_dial
     world.TheStory.SeeShown("Step").Do("end the program", [&](Driver&) { world.Screen.EndProgram(0); });
     world.Play();
     EXPECT_TRUE(world.Screen.BoxesShown.empty());
-    EXPECT_TRUE(world.Files.Content.empty());
+    EXPECT_TRUE(ProjectFiles(world.Files).empty());
     EXPECT_EQ(world.Screen.FormsShown.back(), "Step");
 }
 

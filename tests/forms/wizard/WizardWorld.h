@@ -2,6 +2,7 @@
 
 #include "forms/wizard/SelectRuns.h"
 #include "forms/wizard/WizardFC.h"
+#include "support/ProjectFiles.h"
 #include "support/Room.h"
 #include "support/World.h"
 
