@@ -3,7 +3,6 @@
 #include "services/Text.h"
 
 #include <algorithm>
-#include <map>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -19,10 +18,6 @@ bool IsInputType(std::string_view type) {
     return !type.empty() && (type.back() == 'X' || type.back() == 'x');
 }
 
-std::string RegisterKey(std::string_view type, std::string_view address) {
-    return naming::Fold(type) + " " + std::string(address);
-}
-
 // The name without what a tool has put behind it.
 std::string WithoutToolSuffix(const naming::TagName& name) {
     if (!name.ToolSuffix)
@@ -31,14 +26,18 @@ std::string WithoutToolSuffix(const naming::TagName& name) {
 }
 
 void MarkAlike(std::vector<TagFacts>& facts) {
-    const auto key = [](const TagFacts& tag) {
-        return WithoutToolSuffix(tag.Name) + "|" + tag.Module.Folded + "|" + std::string(tag.Tag->RegType);
-    };
-    std::unordered_map<std::string, int> counts;
-    for (const TagFacts& tag : facts)
-        ++counts[key(tag)];
-    for (TagFacts& tag : facts)
-        tag.IsAlike = tag.Name.ToolSuffix || counts[key(tag)] > 1;
+    std::vector<std::string> keys;
+    keys.reserve(facts.size());
+    for (const TagFacts& tag : facts) {
+        std::string& key = keys.emplace_back(WithoutToolSuffix(tag.Name));
+        key.append("|").append(tag.Module->Folded).append("|").append(tag.Tag->RegType.View());
+    }
+    std::unordered_map<std::string_view, int> counts;
+    counts.reserve(keys.size());
+    for (const std::string& key : keys)
+        ++counts[key];
+    for (std::size_t i = 0; i < facts.size(); ++i)
+        facts[i].IsAlike = facts[i].Name.ToolSuffix || counts[keys[i]] > 1;
 }
 
 bool MayBeScheme(const naming::Part& part) {
@@ -47,12 +46,13 @@ bool MayBeScheme(const naming::Part& part) {
 }
 
 void MarkSchemeWords(std::vector<TagFacts>& facts) {
-    std::map<std::string, std::size_t> counts;
+    std::unordered_map<std::string_view, std::size_t> counts;
+    std::vector<std::string_view> once; // of one name; there are few
     for (const TagFacts& tag : facts) {
-        std::set<std::string> once;
+        once.clear();
         for (const naming::Part& part : tag.Name.Parts)
-            if (MayBeScheme(part) && once.insert(part.Text).second)
-                ++counts[part.Text];
+            if (MayBeScheme(part) && std::ranges::find(once, part.Text) == once.end())
+                ++counts[once.emplace_back(part.Text)];
     }
     const auto least =
         std::max(FewestForScheme, static_cast<std::size_t>(ShareForScheme * double(facts.size())));
@@ -61,6 +61,41 @@ void MarkSchemeWords(std::vector<TagFacts>& facts) {
             if (MayBeScheme(part) && counts[part.Text] >= least)
                 tag.Idle.insert(part.Text);
 }
+
+// What qualifies a quantity, and does not make it another.
+constexpr SubjectSet Fillers = SetOf(naming::Subject::Run) | SetOf(naming::Subject::Value) |
+                               SetOf(naming::Subject::Neutral) | SetOf(naming::Subject::Selected) |
+                               SetOf(naming::Subject::Range);
+
+void GatherSubjects(TagFacts& tag) {
+    for (const naming::Part& part : tag.Name.Parts)
+        if (!part.Device && !part.Means.empty() && !tag.Idle.contains(part.Text))
+            tag.Words |= SetOf(part.Means);
+    tag.Words &= ~Fillers;
+    tag.Device = SetOf(tag.Name.Device.Means);
+    tag.WordsAndDevice = tag.Words | (tag.Device & ~Fillers);
+}
+
+// Which registers a question's bindings name, by their numbers: hardly any tag passes that.
+class TakenRegisters {
+public:
+    explicit TakenRegisters(const std::vector<BoundVariable>& bound) {
+        for (const BoundVariable& each : bound)
+            byAddress_[each.Binding.RegAddr].push_back(&each.Binding);
+    }
+    [[nodiscard]] bool Has(const project::Tag& tag) const {
+        if (byAddress_.empty())
+            return false;
+        const auto found = byAddress_.find(std::to_string(tag.RegAddr));
+        return found != byAddress_.end() &&
+               std::ranges::any_of(found->second, [&](const config::TagBinding* each) {
+                   return naming::Fold(each->Type) == naming::Fold(tag.RegType);
+               });
+    }
+
+private:
+    std::unordered_map<std::string, std::vector<const config::TagBinding*>> byAddress_;
+};
 
 TagFacts FactsOf(const project::Tag& tag, binding::TagClass tagClass) {
     TagFacts facts;
@@ -81,11 +116,31 @@ config::TagBinding BindingTo(const project::Tag& tag) {
     return {.Tag = tag.TagName, .Type = tag.RegType, .RegAddr = std::to_string(tag.RegAddr)};
 }
 
+SubjectSet SetOf(const std::vector<naming::Subject>& subjects) {
+    SubjectSet set = 0;
+    for (const naming::Subject subject : subjects)
+        set |= SetOf(subject);
+    return set;
+}
+
+RegisterIndex::RegisterIndex(const std::vector<TagFacts>& facts) : facts_(facts) {
+    byAddress_.reserve(facts.size());
+    for (std::size_t tag = 0; tag < facts.size(); ++tag)
+        byAddress_[std::to_string(facts[tag].Tag->RegAddr)].push_back(tag);
+}
+
+std::vector<std::size_t> RegisterIndex::TagsOf(const config::TagBinding& binding) const {
+    const auto found = byAddress_.find(binding.RegAddr);
+    std::vector<std::size_t> tags = found == byAddress_.end() ? std::vector<std::size_t>() : found->second;
+    std::erase_if(tags, [&](std::size_t tag) {
+        return !services::EqualNoCase(facts_[tag].Tag->RegType, binding.Type);
+    });
+    return tags;
+}
+
 std::vector<TagFacts> FactsOf(const Question& question) {
-    std::unordered_set<std::string> taken;
-    for (const BoundVariable& bound : question.Bound)
-        taken.insert(RegisterKey(bound.Binding.Type, bound.Binding.RegAddr));
-    std::map<std::string, naming::TagName> modules;
+    const TakenRegisters taken(question.Bound);
+    std::unordered_map<std::string_view, std::shared_ptr<const naming::TagName>> modules;
     std::vector<TagFacts> all;
     all.reserve(question.Tags.size());
     for (const project::Tag& tag : question.Tags) {
@@ -93,14 +148,15 @@ std::vector<TagFacts> FactsOf(const Question& question) {
         if (!tagClass)
             continue;
         all.push_back(FactsOf(tag, *tagClass));
-        auto [module, added] = modules.try_emplace(std::string(tag.ModuleName));
-        if (added)
-            module->second = naming::Parse(tag.ModuleName);
-        all.back().Module = module->second;
-        all.back().IsFree = !taken.contains(RegisterKey(tag.RegType, std::to_string(tag.RegAddr)));
+        auto& module = modules[tag.ModuleName];
+        if (module == nullptr)
+            module = std::make_shared<const naming::TagName>(naming::Parse(tag.ModuleName));
+        all.back().Module = module;
+        all.back().IsFree = !taken.Has(tag);
     }
     MarkAlike(all);
     MarkSchemeWords(all);
+    std::ranges::for_each(all, GatherSubjects);
     return all;
 }
 

@@ -59,7 +59,7 @@ std::vector<DigitPlace> DigitPlacesOf(const TagFacts& tag) {
     const std::string type = naming::Fold(tag.Tag->RegType);
     AddPlaces(tag.Name, type, places);
     if (places.empty())
-        AddPlaces(tag.Module, type + "|" + tag.Name.Folded, places);
+        AddPlaces(*tag.Module, type + "|" + tag.Name.Folded, places);
     else
         return places;
     for (DigitPlace& place : places)

@@ -1,6 +1,7 @@
 #include "suggest/Match.h"
 
 #include <algorithm>
+#include <bit>
 #include <map>
 #include <optional>
 #include <set>
@@ -24,86 +25,85 @@ bool IsFiller(Subject subject) {
            subject == Subject::Selected || subject == Subject::Range;
 }
 
-Subjects SubjectsOf(const TagFacts& tag, bool withDevice) {
-    Subjects subjects;
-    const auto add = [&subjects](const Subjects& more) {
-        for (const Subject subject : more)
-            if (!IsFiller(subject) && !Holds(subjects, subject))
-                subjects.push_back(subject);
-    };
-    for (const naming::Part& part : tag.Name.Parts)
-        if (!part.Device && !tag.Idle.contains(part.Text))
-            add(part.Means);
-    if (withDevice)
-        add(tag.Name.Device.Means);
-    return subjects;
-}
-
 // Names of what an analyser, a flow element or a hand switch has computed or commanded need not mean the
 // device.
-bool IsCarrier(const naming::Device& device) {
-    return std::ranges::all_of(device.Means, [](Subject subject) {
-        return subject == Subject::Flow || subject == Subject::Analyser || subject == Subject::Neutral;
-    });
+bool IsCarrier(const TagFacts& tag) {
+    constexpr SubjectSet carried = SetOf(Subject::Flow) | SetOf(Subject::Analyser) | SetOf(Subject::Neutral);
+    return (tag.Device & ~carried) == 0;
 }
 
-bool MayAlwaysBeSaid(Subject subject, const binding::VariableRow& row) {
-    if (subject == Subject::Gas)
-        return row.Stem != "AGA3StatusKDIO";
-    return subject == Subject::GasCalculation && row.Stage == binding::BindingStage::GasOutputs;
+SubjectSet MayAlwaysBeSaid(const binding::VariableRow& row) {
+    SubjectSet always = row.Stem != "AGA3StatusKDIO" ? SetOf(Subject::Gas) : 0;
+    if (row.Stage == binding::BindingStage::GasOutputs)
+        always |= SetOf(Subject::GasCalculation);
+    return always;
 }
 
-bool Says(const Subjects& said, const Meaning& meaning, const binding::VariableRow& row) {
-    const auto explained = [&](Subject subject) {
-        return Holds(meaning.Needs, subject) || Holds(meaning.Allows, subject) ||
-               MayAlwaysBeSaid(subject, row);
-    };
-    return std::ranges::all_of(meaning.Needs, [&](Subject need) { return Holds(said, need); }) &&
-           std::ranges::all_of(said, explained);
+// A way of saying a variable, with all that a name may say then.
+struct Wording {
+    const Meaning* Means;
+    SubjectSet Needs;
+    SubjectSet Explained;
+
+    [[nodiscard]] bool IsSaidBy(SubjectSet said) const {
+        return (Needs & ~said) == 0 && (said & ~Explained) == 0;
+    }
+};
+
+std::vector<Wording> WordingsOf(const binding::VariableRow& row) {
+    std::vector<Wording> wordings;
+    for (const Meaning* meaning : MeaningsOf(row)) {
+        const SubjectSet needs = SetOf(meaning->Needs);
+        wordings.push_back({meaning, needs, needs | SetOf(meaning->Allows) | MayAlwaysBeSaid(row)});
+    }
+    return wordings;
 }
 
 // How a name says the variable: with the letters of its device or by its words alone.
 struct Saying {
     const Meaning* Means = nullptr;
-    Subjects Said;
+    SubjectSet Said = 0;
     bool ByDevice = false;
 };
 
-const Meaning* BestMeaning(const Subjects& said, const binding::VariableRow& row,
-                           const std::vector<const Meaning*>& meanings) {
+const Meaning* BestMeaning(SubjectSet said, const std::vector<Wording>& wordings) {
     const Meaning* best = nullptr;
-    for (const Meaning* meaning : meanings)
-        if (Says(said, *meaning, row) && (best == nullptr || meaning->Needs.size() > best->Needs.size()))
-            best = meaning;
+    for (const Wording& wording : wordings)
+        if (wording.IsSaidBy(said) && (best == nullptr || wording.Means->Needs.size() > best->Needs.size()))
+            best = wording.Means;
     return best;
 }
 
 // "FY-101_STDVOL" says a volume, and by its letters alone a flow: where the words mean a variable of the
 // class by themselves, the letters of a carrier add nothing.
-bool DoWordsMeanAnything(const TagFacts& tag, const Subjects& words) {
-    if (words.empty() || !IsCarrier(tag.Name.Device))
+bool DoWordsMeanAnything(const TagFacts& tag) {
+    static const std::vector<std::pair<binding::TagClass, std::vector<Wording>>> all = [] {
+        std::vector<std::pair<binding::TagClass, std::vector<Wording>>> wordings;
+        for (const binding::VariableRow& row : binding::Catalogue())
+            wordings.emplace_back(row.Class, WordingsOf(row));
+        return wordings;
+    }();
+    if (tag.Words == 0 || !IsCarrier(tag))
         return false;
-    return std::ranges::any_of(binding::Catalogue(), [&](const binding::VariableRow& row) {
-        return row.Class == tag.Class && BestMeaning(words, row, MeaningsOf(row)) != nullptr;
+    return std::ranges::any_of(all, [&](const auto& row) {
+        return row.first == tag.Class && BestMeaning(tag.Words, row.second) != nullptr;
     });
 }
 
 std::optional<Saying> SayingOf(const TagFacts& tag, const binding::VariableRow& row,
-                               const std::vector<const Meaning*>& meanings) {
-    Subjects words = SubjectsOf(tag, false);
+                               const std::vector<Wording>& wordings) {
     const bool device = !tag.Name.Device.Letters.empty();
-    if (!device || IsCarrier(tag.Name.Device))
-        if (const Meaning* best = words.empty() ? nullptr : BestMeaning(words, row, meanings))
-            return Saying{best, std::move(words), false};
+    if (tag.Words != 0 && (!device || IsCarrier(tag)))
+        if (const Meaning* best = BestMeaning(tag.Words, wordings))
+            return Saying{best, tag.Words, false};
     if (!device)
         return std::nullopt;
-    Subjects said = SubjectsOf(tag, true);
-    const Meaning* best = BestMeaning(said, row, meanings);
+    const Meaning* best = BestMeaning(tag.WordsAndDevice, wordings);
     // An element's own letters never are a result: those are computed.
-    const bool measured = words.empty() && tag.Name.Device.Transmits && !IsInput(row);
-    if (best == nullptr || measured || DoWordsMeanAnything(tag, words))
+    const bool measured = tag.Words == 0 && tag.Name.Device.Transmits && !IsInput(row);
+    if (best == nullptr || measured || DoWordsMeanAnything(tag))
         return std::nullopt;
-    return Saying{best, std::move(said), words.empty()};
+    return Saying{best, tag.WordsAndDevice, tag.Words == 0};
 }
 
 std::string Quoted(const naming::Part& part) {
@@ -140,7 +140,8 @@ void AddWhat(const TagFacts& tag, const Saying& saying, Match& match) {
             {device.IsKks ? Evidence::KksLetters : Evidence::IsaLetters, device.Letters});
     else
         AddWords(tag, saying, match);
-    const auto extra = saying.Said.size() - std::min(saying.Said.size(), saying.Means->Needs.size());
+    const auto said = static_cast<std::size_t>(std::popcount(saying.Said));
+    const auto extra = said - std::min(said, saying.Means->Needs.size());
     for (std::size_t i = 0; i < extra; ++i)
         match.Evidence.push_back({Evidence::ExtraWord, {}});
 }
@@ -177,12 +178,12 @@ bool IsStackedElsewhere(const TagFacts& tag, const binding::VariableRow& row) {
     return tag.Name.Says(Subject::Range) && row.Stem != "GasDPKDIO";
 }
 
-std::optional<Match> MatchOf(const binding::VariableRow& row, const std::vector<const Meaning*>& meanings,
+std::optional<Match> MatchOf(const binding::VariableRow& row, const std::vector<Wording>& wordings,
                              const TagFacts& tag) {
-    if (tag.Class != row.Class || IsStackedElsewhere(tag, row))
+    if (tag.Class != row.Class)
         return std::nullopt;
-    const auto saying = SayingOf(tag, row, meanings);
-    if (!saying)
+    const auto saying = SayingOf(tag, row, wordings);
+    if (!saying || IsStackedElsewhere(tag, row))
         return std::nullopt;
     Match match;
     AddWhat(tag, *saying, match);
@@ -207,9 +208,9 @@ bool Has(const std::vector<Found>& evidence, Evidence kind) {
 
 std::vector<Match> MatchesOf(const binding::VariableRow& row, const std::vector<TagFacts>& facts) {
     std::vector<Match> matches;
-    const auto meanings = MeaningsOf(row);
+    const auto wordings = WordingsOf(row);
     for (std::size_t i = 0; i < facts.size(); ++i)
-        if (auto match = MatchOf(row, meanings, facts[i])) {
+        if (auto match = MatchOf(row, wordings, facts[i])) {
             match->Tag = i;
             matches.push_back(std::move(*match));
         }

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <set>
+#include <tuple>
 
 namespace gfc::suggest {
 
@@ -127,7 +129,7 @@ private:
     }
 
     [[nodiscard]] Reading ReadModule(std::size_t tag) const {
-        const auto& module = facts_[tag].Module;
+        const auto& module = *facts_[tag].Module;
         if (!IsRun(module.Run))
             return {};
         return {module.Run, {Evidence::RunModule, std::string(facts_[tag].Tag->ModuleName)}, true};
@@ -193,7 +195,7 @@ private:
     // Be it a run that is not asked for.
     [[nodiscard]] bool NamesARun(std::size_t tag) const {
         const auto& name = facts_[tag].Name;
-        return facts_[tag].Module.Run != 0 || (name.Run != 0 && !countsFromZero_.contains(WordOf(name)));
+        return facts_[tag].Module->Run != 0 || (name.Run != 0 && !countsFromZero_.contains(WordOf(name)));
     }
 
     [[nodiscard]] std::string WithoutNumbers(std::size_t tag) const {
@@ -221,20 +223,38 @@ private:
 
     // Both next registers of its class and module are of one run.
     void ReadNeighbours() {
-        std::map<std::pair<std::string, std::string>, std::map<int, std::size_t>> blocks;
-        for (std::size_t tag = 0; tag < facts_.size(); ++tag)
-            blocks[{std::string(facts_[tag].Tag->ModuleName), std::string(facts_[tag].Tag->RegType)}]
-                  [facts_[tag].Tag->RegAddr] = tag;
-        for (const auto& [block, registers] : blocks)
-            for (auto at = registers.begin(); at != registers.end(); ++at) {
-                if (rows_[at->second].empty() || readings_[at->second].Run != 0 || at == registers.begin() ||
-                    std::next(at) == registers.end())
-                    continue;
-                const Reading& before = readings_[std::prev(at)->second];
-                const Reading& behind = readings_[std::next(at)->second];
-                if (before.Run != 0 && before.Run == behind.Run && before.IsSure && behind.IsSure)
-                    readings_[at->second] = {before.Run, {Evidence::RunNeighbours, {}}, false};
-            }
+        const auto place = [this](std::size_t tag) {
+            const project::Tag& at = *facts_[tag].Tag;
+            return std::tuple(at.ModuleName.View(), at.RegType.View(), at.RegAddr);
+        };
+        const auto sameBlock = [&](std::size_t a, std::size_t b) {
+            return std::get<0>(place(a)) == std::get<0>(place(b)) &&
+                   std::get<1>(place(a)) == std::get<1>(place(b));
+        };
+        const std::vector<std::size_t> order = ByRegister(place);
+        for (std::size_t i = 1; i + 1 < order.size(); ++i) {
+            const std::size_t tag = order[i];
+            if (rows_[tag].empty() || readings_[tag].Run != 0 || !sameBlock(order[i - 1], tag) ||
+                !sameBlock(tag, order[i + 1]))
+                continue;
+            const Reading& before = readings_[order[i - 1]];
+            const Reading& behind = readings_[order[i + 1]];
+            if (before.Run != 0 && before.Run == behind.Run && before.IsSure && behind.IsSure)
+                readings_[tag] = {before.Run, {Evidence::RunNeighbours, {}}, false};
+        }
+    }
+
+    // Of several tags on one register the last one counts.
+    template <class Place>
+    [[nodiscard]] std::vector<std::size_t> ByRegister(Place place) const {
+        std::vector<std::size_t> order(facts_.size());
+        std::iota(order.begin(), order.end(), std::size_t(0));
+        std::ranges::stable_sort(order, {}, place);
+        std::vector<std::size_t> last;
+        for (std::size_t i = 0; i < order.size(); ++i)
+            if (i + 1 == order.size() || place(order[i]) != place(order[i + 1]))
+                last.push_back(order[i]);
+        return last;
     }
 
     const Question& question_;

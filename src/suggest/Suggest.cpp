@@ -188,8 +188,8 @@ private:
         }
         // Only now, since the runs share them.
         for (const Suggestion& suggestion : suggestions_)
-            for (std::size_t tag = 0; tag < facts_.size(); ++tag)
-                if (IsGasInput(suggestion.Variable) && IsSameRegister(*facts_[tag].Tag, suggestion.Binding))
+            if (IsGasInput(suggestion.Variable))
+                for (const std::size_t tag : registers_.TagsOf(suggestion.Binding))
                     taken_.insert(tag);
     }
 
@@ -276,8 +276,8 @@ private:
     }
 
     [[nodiscard]] bool IsThere(const config::TagBinding& binding) const {
-        return std::ranges::any_of(facts_, [&](const TagFacts& tag) {
-            return IsSameRegister(*tag.Tag, binding) && services::EqualNoCase(tag.Tag->TagName, binding.Tag);
+        return std::ranges::any_of(registers_.TagsOf(binding), [&](std::size_t tag) {
+            return services::EqualNoCase(facts_[tag].Tag->TagName, binding.Tag);
         });
     }
 
@@ -303,6 +303,7 @@ private:
 
     const Question& question_;
     std::vector<TagFacts> facts_;
+    RegisterIndex registers_{facts_};
     std::vector<Known> known_;
     std::vector<Reading> readings_;
     std::vector<Suggestion> suggestions_;
