@@ -3,7 +3,9 @@
 #include "qt/FormWindow.h"
 #include "qt/Renderer.h"
 #include "qt/Texts.h"
+#include "qt/render/ItemRole.h"
 #include "ui/ListView.h"
+#include "ui/Tree.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -11,6 +13,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QTableView>
 
 #include <algorithm>
 
@@ -18,7 +21,7 @@ namespace gfc::qt {
 
 namespace {
 
-bool Holds(const ui::ListView& list, int row, const QString& text) {
+bool RowHolds(const ui::ListView& list, int row, const QString& text) {
     const auto& cells = list.At(row);
     for (std::size_t column = 1; column < cells.size(); ++column)
         if (ToQt(cells[column]).contains(text, Qt::CaseInsensitive))
@@ -26,19 +29,39 @@ bool Holds(const ui::ListView& list, int row, const QString& text) {
     return false;
 }
 
+bool NodeHolds(const ui::Tree& tree, int node, const QString& text) {
+    return ToQt(tree.At(node).Text).contains(text, Qt::CaseInsensitive) ||
+           ToQt(tree.At(node).Note).contains(text, Qt::CaseInsensitive);
+}
+
+// The first place from that one on; goes through all of them once, past the end and on at the other one.
+int FindPlace(int count, int from, bool upwards, const std::function<bool(int place)>& holds) {
+    for (int passed = 0; passed < count; ++passed) {
+        const int at = from - 1 + (upwards ? -passed : passed);
+        const int place = (at % count + count) % count + 1;
+        if (holds(place))
+            return place;
+    }
+    return 0;
+}
+
+void OpenBranchOf(ui::Tree& tree, int node) {
+    for (int parent = tree.At(node).Parent; parent > 0; parent = tree.At(parent).Parent)
+        tree.SetExpanded(parent, true);
+}
+
 } // namespace
 
 int FindRow(const ui::ListView& list, const QString& text, int from, bool upwards) {
-    const int count = list.Count();
-    if (text.isEmpty())
-        return 0;
-    for (int passed = 0; passed < count; ++passed) {
-        const int at = from - 1 + (upwards ? -passed : passed);
-        const int row = (at % count + count) % count + 1;
-        if (list.PlaceOfRow(row) > 0 && Holds(list, row, text))
-            return row;
-    }
-    return 0;
+    return text.isEmpty() ? 0 : FindPlace(list.Count(), from, upwards, [&](int row) {
+        return list.PlaceOfRow(row) > 0 && RowHolds(list, row, text);
+    });
+}
+
+int FindNode(const ui::Tree& tree, const QString& text, int from, bool upwards) {
+    return text.isEmpty() ? 0 : FindPlace(tree.Count(), from, upwards, [&](int node) {
+        return NodeHolds(tree, node, text);
+    });
 }
 
 FindBar::FindBar(FormWindow& window)
@@ -72,29 +95,31 @@ QPushButton* FindBar::AddButton(const QString& text, const QString& keys) {
     return button;
 }
 
-ui::ListView* FindBar::List() const {
+ui::Control* FindBar::Where() const {
     if (window_.Form() == nullptr)
         return nullptr;
-    auto* list = dynamic_cast<ui::ListView*>(window_.Form()->Find(FromQt(list_)));
-    return list != nullptr && list->Usable() ? list : nullptr;
+    ui::Control* where = window_.Form()->Find(FromQt(name_));
+    return where != nullptr && where->Usable() ? where : nullptr;
 }
 
-QWidget* FindBar::WidgetOf(const ui::ListView& list) const {
-    return window_.WidgetNamed(list.Name());
+QWidget* FindBar::WidgetOf(const ui::Control& where) const {
+    return window_.WidgetNamed(where.Name());
 }
 
 void FindBar::Open() {
     if (window_.Form() == nullptr)
         return;
-    if (const auto* focused = dynamic_cast<ui::ListView*>(window_.Form()->FocusedControl()))
-        list_ = ToQt(focused->Name());
+    const ui::Control* focused = window_.Form()->FocusedControl();
+    if (dynamic_cast<const ui::ListView*>(focused) != nullptr ||
+        dynamic_cast<const ui::Tree*>(focused) != nullptr)
+        name_ = ToQt(focused->Name());
     for (const ui::Control* control : window_.Form()->Controls())
-        if (List() == nullptr && control->TheKind() == ui::Kind::ListView && control->Usable())
-            list_ = ToQt(control->Name());
-    const ui::ListView* list = List();
-    if (list == nullptr)
+        if (Where() == nullptr && control->TheKind() == ui::Kind::ListView && control->Usable())
+            name_ = ToQt(control->Name());
+    const ui::Control* where = Where();
+    if (where == nullptr)
         return;
-    const QString name = WidgetOf(*list)->accessibleName();
+    const QString name = WidgetOf(*where)->accessibleName();
     where_->setText(tr("Find in %1:").arg(name));
     text_->setAccessibleName(tr("Text to find in %1").arg(name));
     show();
@@ -105,10 +130,35 @@ void FindBar::Open() {
 }
 
 void FindBar::Close() {
-    const ui::ListView* list = List();
+    const ui::Control* where = Where();
     hide();
-    if (list != nullptr)
-        WidgetOf(*list)->setFocus(Qt::OtherFocusReason);
+    if (where != nullptr)
+        WidgetOf(*where)->setFocus(Qt::OtherFocusReason);
+}
+
+FindBar::Places FindBar::PlacesOf(ui::Control& where) const {
+    auto* tree = dynamic_cast<ui::Tree*>(&where);
+    return tree != nullptr ? PlacesOf(*tree) : PlacesOf(static_cast<ui::ListView&>(where));
+}
+
+// A list that a person has sorted is gone through as it stands there.
+FindBar::Places FindBar::PlacesOf(ui::ListView& list) const {
+    const auto* view = static_cast<QTableView*>(WidgetOf(list));
+    const QAbstractItemModel* rows = view->model();
+    const auto rowAt = [rows](int place) { return rows->index(place - 1, 0).data(ItemRole).toInt(); };
+    return {.Count = rows->rowCount(),
+            .Selected = list.SelectedRow() == 0 ? 0 : view->currentIndex().row() + 1,
+            .ItemAt = rowAt,
+            .Holds = [this, &list](int row) { return row > 0 && RowHolds(list, row, text_->text()); },
+            .NameOf = [](int row) { return tr("row %1").arg(row); }};
+}
+
+FindBar::Places FindBar::PlacesOf(ui::Tree& tree) const {
+    return {.Count = tree.Count(),
+            .Selected = tree.SelectedNode(),
+            .ItemAt = [](int node) { return node; },
+            .Holds = [this, &tree](int node) { return NodeHolds(tree, node, text_->text()); },
+            .NameOf = [&tree](int node) { return ToQt(tree.At(node).Text); }};
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {
@@ -126,47 +176,59 @@ void FindBar::keyPressEvent(QKeyEvent* event) {
 }
 
 void FindBar::Jump(bool upwards) {
-    ui::ListView* list = List();
-    if (list == nullptr || text_->text().isEmpty())
+    ui::Control* where = Where();
+    if (where == nullptr || text_->text().isEmpty())
         return Open();
-    const int selected = list->SelectedRow();
-    const int from = upwards ? selected - 1 : selected + 1;
-    const int row = FindRow(*list, text_->text(), from, upwards);
-    Tell(row, upwards ? row >= selected && selected > 0 : row <= selected);
-    if (row > 0)
-        Click(row);
+    const Places places = PlacesOf(*where);
+    const int selected = places.Selected;
+    const int place = FindPlace(places.Count, upwards ? selected - 1 : selected + 1, upwards,
+                                [&](int at) { return places.Holds(places.ItemAt(at)); });
+    if (place == 0)
+        return TellOfTyped();
+    const bool again = upwards ? place >= selected && selected > 0 : place <= selected;
+    const int item = places.ItemAt(place);
+    QString name = places.NameOf(item);
+    name.front() = name.front().toUpper();
+    Tell(again ? tr("%1, past the end of the list").arg(name) : name);
+    Click(item);
 }
 
-// The click takes the focus to the list, and may end in the window's going.
-void FindBar::Click(int row) {
-    ui::ListView* list = List();
-    Renderer* renderer = window_.RendererOf(list);
+// The click takes the focus to the list or tree, and may end in the window's going.
+void FindBar::Click(int item) {
+    ui::Control* where = Where();
+    Renderer* renderer = window_.RendererOf(where);
     const bool typing = text_->hasFocus();
     const QPointer<QLineEdit> text = text_;
-    window_.Act(*renderer, [list, row] { (void)list->PersonClicksRow(row); });
-    if (typing && text != nullptr && list == List() && window_.Form()->FocusedControl() == list)
+    window_.Act(*renderer, [where, item] {
+        if (auto* tree = dynamic_cast<ui::Tree*>(where); tree != nullptr) {
+            OpenBranchOf(*tree, item);
+            (void)tree->PersonClicks(item);
+        } else {
+            (void)static_cast<ui::ListView*>(where)->PersonClicksRow(item);
+        }
+    });
+    if (typing && text != nullptr && where == Where() && window_.Form()->FocusedControl() == where)
         text->setFocus(Qt::OtherFocusReason);
 }
 
-void FindBar::Tell(int row, bool again) {
-    if (row == 0)
-        result_->setText(tr("No row holds this text"));
-    else if (again)
-        result_->setText(tr("Row %1, past the end of the list").arg(row));
-    else
-        result_->setText(tr("Row %1").arg(row));
-    result_->setAccessibleName(result_->text());
+void FindBar::Tell(const QString& words) {
+    result_->setText(words);
+    result_->setAccessibleName(words);
 }
 
 // Nothing is clicked while the text is still being typed.
 void FindBar::TellOfTyped() {
-    const ui::ListView* list = List();
-    if (list == nullptr || text_->text().isEmpty())
-        result_->clear();
-    else if (const int row = FindRow(*list, text_->text(), std::max(1, list->SelectedRow()), false); row == 0)
-        Tell(row, false);
+    ui::Control* where = Where();
+    if (where == nullptr || text_->text().isEmpty())
+        return Tell({});
+    const Places places = PlacesOf(*where);
+    const int place = FindPlace(places.Count, std::max(1, places.Selected), false,
+                                [&](int at) { return places.Holds(places.ItemAt(at)); });
+    const bool isTree = where->TheKind() == ui::Kind::Tree;
+    if (place == 0)
+        Tell(isTree ? tr("No node holds this text") : tr("No row holds this text"));
     else
-        result_->setText(tr("Enter goes to row %1").arg(row));
+        Tell(tr("Enter goes to %1").arg(places.NameOf(places.ItemAt(place))));
 }
 
 } // namespace gfc::qt

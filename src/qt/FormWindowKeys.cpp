@@ -36,7 +36,7 @@ void FormWindow::SetUpKeys() {
 void FormWindow::SetUpFinding() {
     const auto& controls = form_->Controls();
     const bool anyList = std::any_of(controls.begin(), controls.end(), [](const ui::Control* control) {
-        return control->TheKind() == ui::Kind::ListView;
+        return control->TheKind() == ui::Kind::ListView || control->TheKind() == ui::Kind::Tree;
     });
     if (!anyList)
         return;

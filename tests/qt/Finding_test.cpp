@@ -90,6 +90,34 @@ TEST_F(Finding, ends_with_escape_in_the_list) {
     EXPECT_EQ(Hands.Focused("Probe"), "rows");
 }
 
+TEST_F(Finding, looks_through_the_tree_that_has_the_focus_closed_branches_too) {
+    Form->tree.Clear();
+    const int plant = Form->tree.Add(0, "", "Plant");
+    const int north = Form->tree.Add(plant, "", "North");
+    const int run = Form->tree.Add(north, "", "Run 1");
+    const int south = Form->tree.Add(plant, "", "South");
+    Form->tree.Add(south, "", "Run 1");
+    Hands.Focus("Probe", "tree");
+    Form->Log.clear();
+    Find("run");
+    EXPECT_EQ(Result(), "Enter goes to Run 1");
+    KeyboardDriver::Stroke(Qt::Key_Return);
+    EXPECT_EQ(Form->tree.SelectedNode(), run);
+    EXPECT_TRUE(Form->tree.At(north).Expanded);
+    EXPECT_EQ(QApplication::focusWidget(), &Widget<QLineEdit>("layoutFindText")) << "to go on typing";
+    KeyboardDriver::Stroke(Qt::Key_Return);
+    EXPECT_EQ(Form->tree.SelectedNode(), 5);
+    KeyboardDriver::Stroke(Qt::Key_F3);
+    EXPECT_EQ(Form->tree.SelectedNode(), run);
+    EXPECT_EQ(Result(), "Run 1, past the end of the list");
+    Form->tree.SetText(run, "Run 2");
+    Write("x");
+    EXPECT_EQ(Result(), "No node holds this text");
+    KeyboardDriver::Stroke(Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Hands.Focused("Probe"), "tree");
+}
+
 TEST_F(Finding, asks_first_for_what_to_look) {
     KeyboardDriver::Stroke(Qt::Key_F3);
     EXPECT_TRUE(IsOpen());
