@@ -57,6 +57,10 @@ void EachCommonText(config::StationConfig& station, const Visit& visit) {
             continue;
         visit("Common." + std::to_string(static_cast<int>(row.Section)) + "." + std::string(row.Key), *place);
     }
+    // Some stand in the sections of the runs alone.
+    for (const config::RunRow& row : config::RunRows())
+        if (const auto* copy = std::get_if<config::CommonCopy>(&row.Field))
+            visit("EachRun." + std::string(row.Name), station.*copy->Value);
 }
 
 void EachRunText(config::RunArrays& runs, const Visit& visit) {

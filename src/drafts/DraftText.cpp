@@ -75,9 +75,7 @@ public:
         for (std::size_t i = 0; i < dialog.Fields.size(); ++i)
             Add(lead + "Field" + std::to_string(i), dialog.Fields[i]);
     }
-    [[nodiscard]] std::string Closed() const {
-        return bytes_ + std::string(Closing) + MarkOf(bytes_) + "\n";
-    }
+    [[nodiscard]] std::string Closed() const { return bytes_ + std::string(Closing) + MarkOf(bytes_) + "\n"; }
 
 private:
     std::string bytes_{Opening};

@@ -44,6 +44,7 @@ TEST_P(HostileLibrary, leaves_the_program_alive) {
         std::string Folder;
         std::string ExecutableFolder() override { return Folder; }
         std::string ProfileFolder() override { return "/etc/profiles"; }
+        std::string OwnFolder() override { return {}; }
         std::string UserName() override { return {}; }
     } paths;
     paths.Folder = Folder.Path();

@@ -108,7 +108,8 @@ TEST(DraftText, tells_a_damaged_block_from_a_whole_one_and_loses_no_byte) {
 }
 
 TEST(DraftText, of_bytes_that_are_none_is_one_broken_block) {
-    for (const char* bytes : {"x", "draft\t2\nend\t0\n", "\n\n", "draft\t1\n", "[General]\r\nStation=North\r\n"}) {
+    for (const char* bytes :
+         {"x", "draft\t2\nend\t0\n", "\n\n", "draft\t1\n", "[General]\r\nStation=North\r\n"}) {
         const auto read = DraftsIn(bytes);
         ASSERT_EQ(read.size(), 1U) << bytes;
         EXPECT_FALSE(read[0].TheDraft) << bytes;

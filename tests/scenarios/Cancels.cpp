@@ -196,7 +196,7 @@ Scenario CancelledAndGoneOnWith() {
             [](FakeProgram& program) {
                 const std::string file = program.ConfigFile("North");
                 EXPECT_EQ(program.Program.Ini.ReadKey("FlowRuns", "Run3", file), "Yes");
-                EXPECT_EQ(program.Program.Ini.ReadKey("Run3", "AGA8StatusKDIORegAddr", file).size(), 4U);
+                EXPECT_NE(program.Program.Ini.ReadKey("Run3", "AGA8StatusKDIORegAddr", file), "");
                 EXPECT_EQ(program.Files.Content.size(), 1U) << "the draft has gone";
             }};
 }

@@ -1,7 +1,7 @@
 #include "scenarios/Moves.h"
 #include "scenarios/Scenario.h"
-#include "support/Room.h"
 #include "support/ProjectFiles.h"
+#include "support/Room.h"
 
 #include <gtest/gtest.h>
 

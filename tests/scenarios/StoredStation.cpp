@@ -2,6 +2,7 @@
 
 #include "scenarios/Moves.h"
 #include "support/InJobs.h"
+#include "support/ProjectFiles.h"
 #include "support/TestFolders.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +26,7 @@ void ExpectFiles(const StoredStation& stored, const Outside& outside) {
         stored.Changes(expected);
     auto left = stored.Leaves;
     left.push_back(Outside::File());
-    for (const auto& [path, bytes] : outside.Program->Files.Content)
+    for (const auto& [path, bytes] : ProjectFiles(outside.Program->Files))
         EXPECT_EQ(std::ranges::count(left, path), 1) << path << " is left behind";
     for (const auto& path : left)
         EXPECT_TRUE(outside.Program->Files.Content.contains(path)) << path;

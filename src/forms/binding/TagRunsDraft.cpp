@@ -5,8 +5,7 @@
 
 namespace gfc::forms {
 
-void TagRuns::FollowPass(const drafts::OpenDialog* leftIn,
-                         std::function<void(drafts::OpenDialog)> onChange) {
+void TagRuns::FollowPass(const drafts::OpenDialog* leftIn, std::function<void(drafts::OpenDialog)> onChange) {
     if (leftIn != nullptr)
         leftIn_ = *leftIn;
     onChange_ = std::move(onChange);

@@ -210,9 +210,8 @@ bool WizardPass::ShowTags(const PassStep& step, const TheRun& run) {
     session_.Cancelled = false;
     auto& tags = program_.Forms.Get<TagRuns>();
     if (draft_ != nullptr)
-        tags.FollowPass(draft_->LeftIn(step), [this, step](drafts::OpenDialog dialog) {
-            draft_->Note(step, std::move(dialog));
-        });
+        tags.FollowPass(draft_->LeftIn(step),
+                        [this, step](drafts::OpenDialog dialog) { draft_->Note(step, std::move(dialog)); });
     tags.ShowModal();
     return Goes(step);
 }

@@ -31,7 +31,7 @@ FrDrafts::FrDrafts(Program& program) : ToolForm(program, "FrDrafts", title, help
 
 void FrDrafts::Load() {
     ListView1.AddColumns(
-        {{"Station", 22}, {"Stands at", 46}, {"User ID", 12}, {"Begun (UTC)", 20}, {"Kept (UTC)", 20}, {"Remark"}});
+        {{"Station"}, {"Stands at"}, {"User ID"}, {"Begun (UTC)"}, {"Kept (UTC)"}, {"Remark"}});
     for (const std::string& station : StationNames(program_))
         Combo1.AddEntry(station);
     Read();
@@ -62,9 +62,8 @@ void FrDrafts::AddRow(const drafts::KeptDraft& kept) {
     if (!kept.TheDraft)
         return ListView1.AddRow({kept.Station, "", "", "", "", RemarkOn(kept)});
     const drafts::Draft& draft = *kept.TheDraft;
-    ListView1.AddRow({kept.Station, draft.StandsAt, draft.Station.UserId,
-                      services::ReadableTime(draft.Begun), services::ReadableTime(draft.Kept),
-                      RemarkOn(kept)});
+    ListView1.AddRow({kept.Station, draft.StandsAt, draft.Station.UserId, services::ReadableTime(draft.Begun),
+                      services::ReadableTime(draft.Kept), RemarkOn(kept)});
 }
 
 std::string FrDrafts::RemarkOn(const drafts::KeptDraft& kept) {
@@ -92,8 +91,7 @@ const drafts::KeptDraft* FrDrafts::Selected() const {
 void FrDrafts::SelectDraft() {
     const drafts::KeptDraft* kept = Selected();
     const auto& stations = Combo1.Entries();
-    const auto found =
-        kept == nullptr ? stations.end() : std::ranges::find(stations, kept->Station);
+    const auto found = kept == nullptr ? stations.end() : std::ranges::find(stations, kept->Station);
     Combo1.SetListIndex(found == stations.end() ? ui::DropDownList::None
                                                 : static_cast<int>(found - stations.begin()));
     OfferCommands();
@@ -130,15 +128,15 @@ void FrDrafts::GoOn() {
 
 void FrDrafts::Delete() {
     const drafts::KeptDraft kept = *Selected();
-    const std::string from =
-        kept.TheDraft ? "\r\nBegun " + services::ReadableTime(kept.TheDraft->Begun) + " UTC. " +
-                            kept.TheDraft->StandsAt
-                      : std::string();
-    const auto answer = program_.Screen.Ask({.Title = title,
-                                             .Text = "Delete this draft? What was entered is lost then." + from,
-                                             .TheIcon = ui::Icon::Question,
-                                             .TheButtons = ui::Buttons::YesNo,
-                                             .AtStake = kept.Station});
+    const std::string from = kept.TheDraft ? "\r\nBegun " + services::ReadableTime(kept.TheDraft->Begun) +
+                                                 " UTC. " + kept.TheDraft->StandsAt
+                                           : std::string();
+    const auto answer =
+        program_.Screen.Ask({.Title = title,
+                             .Text = "Delete this draft? What was entered is lost then." + from,
+                             .TheIcon = ui::Icon::Question,
+                             .TheButtons = ui::Buttons::YesNo,
+                             .AtStake = kept.Station});
     if (answer != ui::Answer::Yes || program_.Screen.Ended())
         return;
     if (!store_.Remove(kept))

@@ -70,8 +70,8 @@ bool MayLackTags(Program& program, const std::vector<std::string>& gone) {
 bool Fits(Program& program) {
     const auto& station = program.Session.Station;
     const GateChoices choices{station.FlagAGA7, config::SourceIndex(station.GasDensitySource)};
-    const bool outside = config::IsGasModel(station.GasDensitySource) &&
-                         station.AGA8CalInput == config::CompositionMeasured;
+    const bool outside =
+        config::IsGasModel(station.GasDensitySource) && station.AGA8CalInput == config::CompositionMeasured;
     return SourceVerdict(program, choices) == 0 && (!outside || CompositionVerdict(program, choices) == 0);
 }
 
@@ -102,6 +102,8 @@ bool Prepare(Program& program, drafts::Draft& draft) {
     project::BuildAvailableLists(session.Inventory, names, draft.Station.FlagAGA7);
     const auto gone = drafts::LetGoOfMissingTags(draft, session.Inventory);
     drafts::TakeOffOffer(draft, session.Inventory);
+    // Its pages choose units and the like as they load, which must not touch what was chosen.
+    program.Forms.Get<WizardFC>().EnsureLoaded();
     TakeStation(session.Station, draft);
     return MayLackTags(program, gone) && Fits(program);
 }
@@ -118,8 +120,9 @@ void TakeUp(Program& program, drafts::Draft draft) {
                                 .TheIcon = ui::Icon::Exclamation});
         ClearSession(program);
     } else if (Prepare(program, draft)) {
-        program.Forms.Touch<WizardFC>().GoOn(std::move(draft));
+        program.Forms.Get<WizardFC>().GoOn(std::move(draft));
     } else {
+        program.Forms.Unload<WizardFC>();
         ClearSession(program);
     }
     // Nobody drives dialogs any more.

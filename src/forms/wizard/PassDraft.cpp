@@ -19,9 +19,8 @@ std::string Now(Program& program) {
 std::string FreeId(drafts::DraftStore& store, const drafts::Draft& draft) {
     const auto all = store.All().value_or(std::vector<drafts::KeptDraft>());
     const auto isTaken = [&](const std::string& id) {
-        return std::ranges::any_of(all, [&](const drafts::KeptDraft& kept) {
-            return kept.TheDraft && kept.TheDraft->Id == id;
-        });
+        return std::ranges::any_of(
+            all, [&](const drafts::KeptDraft& kept) { return kept.TheDraft && kept.TheDraft->Id == id; });
     };
     const std::string lead = draft.Begun + " " + draft.Station.CurrentStation + " ";
     int number = 1;

@@ -76,9 +76,8 @@ void WizardFC::SayWhatIsKept() {
     if (!draft_ || program_.Screen.Ended() || !program_.Forms.IsLoaded<GFCPrincipal>())
         return;
     const std::string trouble = draft_->TakeTrouble();
-    const std::string text = trouble.empty() && draft_->IsKept()
-                                 ? "What was entered is kept: menu Tools, Drafts..."
-                                 : trouble;
+    const std::string text =
+        trouble.empty() && draft_->IsKept() ? "What was entered is kept: menu Tools, Drafts..." : trouble;
     if (!text.empty())
         program_.Forms.Get<GFCPrincipal>().StatusBar1.SetPanelText(1, text);
 }

@@ -117,8 +117,8 @@ const PassChoices Plain{0, 0};
 constexpr std::size_t Inputs = 1; // of the first run
 constexpr std::size_t Outputs = 2;
 
-// What a person sees in the window of tags; of the rows neither numbers nor order, as what went back to a list
-// stands at its end.
+// What a person sees in the window of tags; of the rows neither numbers nor order, as what went back to a
+// list stands at its end.
 std::vector<std::string> SightOf(forms::TagRuns& tags) {
     std::vector<std::string> sight;
     for (const ui::ListView* list : {&tags.ListViewRuns, &tags.ListLong, &tags.ListAnalogDig})
@@ -135,7 +135,9 @@ std::vector<std::string> SightOf(forms::TagRuns& tags) {
 
 // One act of a person on that window, by chance.
 void ActByChance(Driver& d, forms::TagRuns& tags, std::mt19937& chance) {
-    const auto below = [&chance](int count) { return static_cast<int>(chance() % static_cast<unsigned>(count)); };
+    const auto below = [&chance](int count) {
+        return static_cast<int>(chance() % static_cast<unsigned>(count));
+    };
     const int variable = 2 + 7 * below((tags.TreeAGA.Count() - 1) / 7);
     const bool bound = tags.TreeAGA.At(variable).Image == "Config";
     d.ClickNode("TagRuns", "TreeAGA", tags.TreeAGA.FullPath(variable));
@@ -216,8 +218,7 @@ TEST(Draft, is_left_by_a_cancel_and_shown_with_where_it_stands) {
         })
         .OpenRow(Window, "ListView1", 1);
     left.First.ThePass.Until(next.TheStory, Outputs, Outputs);
-    next.TheStory
-        .Check([&](Driver&) { EXPECT_EQ(next.Tags().TreeAGA.At(2).Image, "Config"); })
+    next.TheStory.Check([&](Driver&) { EXPECT_EQ(next.Tags().TreeAGA.At(2).Image, "Config"); })
         .Click("TagRuns", "Command2")
         .Box("Gas Flow Computer", "", Icon::Question, Answer::Yes)
         .Check([&](Driver& d) {
@@ -342,14 +343,11 @@ TEST(Draft, does_not_go_on_without_its_working_module) {
         if (tag.ModuleName == "VF0")
             tag.ModuleName = "VF9";
     NextStart next(left.First.Files.Content, "North", std::move(tags));
-    next.OpenDrafts()
-        .Click(Window, "Command3")
-        .Box("Drafts", "", Icon::Exclamation)
-        .Check([&](Driver& d) {
-            EXPECT_THAT(next.Screen.BoxesShown.back().Text, HasSubstr("working module VF0"));
-            EXPECT_TRUE(d.IsShown(Main));
-            EXPECT_EQ(next.Kept().size(), 1U);
-        });
+    next.OpenDrafts().Click(Window, "Command3").Box("Drafts", "", Icon::Exclamation).Check([&](Driver& d) {
+        EXPECT_THAT(next.Screen.BoxesShown.back().Text, HasSubstr("working module VF0"));
+        EXPECT_TRUE(d.IsShown(Main));
+        EXPECT_EQ(next.Kept().size(), 1U);
+    });
     next.Play();
 }
 
