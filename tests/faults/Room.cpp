@@ -59,7 +59,9 @@ void Restore(const fs::path& folder, const Content& content) {
 bool IsLeftover(const std::string& name) {
     const std::string last = name.substr(name.find_last_of('/') + 1);
     // One without a number belongs to a person.
-    const bool numbered = last.find(".ini-") != std::string::npos || last.find(".log-") != std::string::npos;
+    const bool numbered = last.find(".ini-") != std::string::npos ||
+                          last.find(".log-") != std::string::npos ||
+                          last.find(".drafts-") != std::string::npos;
     return (last.starts_with(".gfc-save-") && numbered) || last.starts_with(".gfc-undo-") ||
            last.ends_with(".undo") || last.starts_with("tmpTags_") || last.ends_with(".KPJ-journal") ||
            last.ends_with(".io-workshop-new") || last.ends_with(".io-workshop-new-journal");
