@@ -28,8 +28,9 @@ enum class Kind {
     DoneAndTold,  // done, and told as if it were not
     Half,         // half of it done, and told
     RefusedSince, // and whatever comes behind it
-    Dies,         // the process is no more before it ...
-    DiesAfter     // ... or behind it: whatever it would do then leaves no trace
+    Dies,         // the process is no more before it, behind it or halfway: whatever it would do then
+    DiesAfter,    // leaves no trace
+    DiesHalfway
 };
 
 struct FaultKind {
@@ -51,6 +52,7 @@ constexpr FaultKind Faults[] = {
     {"gone_disk", Kind::RefusedSince, ERROR_GEN_FAILURE},
     {"killed", Kind::Dies, ERROR_GEN_FAILURE},
     {"killed_behind", Kind::DiesAfter, ERROR_GEN_FAILURE},
+    {"killed_halfway", Kind::DiesHalfway, ERROR_GEN_FAILURE},
 };
 
 // The one trial that is going on; calls are counted while it is.
@@ -72,6 +74,7 @@ Fate Next() {
     case Kind::DoneAndTold:
         return Fate::DoneAndTold;
     case Kind::Half:
+    case Kind::DiesHalfway:
         return Fate::Half;
     case Kind::DiesAfter:
         return Fate::Done;
