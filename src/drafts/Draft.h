@@ -3,7 +3,6 @@
 #include "binding/BindingStage.h"
 #include "config/VarINIFile.h"
 
-#include <compare>
 #include <map>
 #include <string>
 #include <string_view>
@@ -27,7 +26,11 @@ inline constexpr std::size_t Dialogs = 7;
 struct PassStep {
     int Run = 0; // 1 to 5; 0 for what is common to all
     Dialog What = Dialog::CommonInputs;
-    auto operator<=>(const PassStep&) const = default;
+
+    bool operator==(const PassStep&) const = default;
+    bool operator<(const PassStep& other) const {
+        return Run != other.Run ? Run < other.Run : What < other.What;
+    }
 };
 
 // What stood in a dialog of bindings when the pass was left within it.

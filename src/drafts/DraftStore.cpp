@@ -21,7 +21,7 @@ bool IsOf(const KeptDraft& kept, const std::string& id) {
 
 } // namespace
 
-DraftStore::DraftStore(platform::Machine& machine, std::string projectFile)
+DraftStore::DraftStore(platform::Machine& machine, const std::string& projectFile)
     : files_(machine.Files), file_(FileOf(machine.Paths, projectFile)) {}
 
 std::optional<std::vector<KeptDraft>> DraftStore::All() {

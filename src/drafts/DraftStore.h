@@ -12,7 +12,7 @@ namespace gfc::drafts {
 class DraftStore {
 public:
     // projectFile is the full path of the project.
-    DraftStore(platform::Machine& machine, std::string projectFile);
+    DraftStore(platform::Machine& machine, const std::string& projectFile);
 
     // Nothing if the file is there and cannot be read (Reason); no drafts where there is no file.
     [[nodiscard]] std::optional<std::vector<KeptDraft>> All();

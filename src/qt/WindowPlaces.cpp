@@ -1,6 +1,7 @@
 #include "qt/WindowPlaces.h"
 
 #include "qt/FormWindow.h"
+#include "qt/render/KeptProperties.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -8,6 +9,8 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStandardPaths>
+#include <QTableView>
+#include <QTreeView>
 
 namespace gfc::qt {
 
@@ -23,6 +26,33 @@ QString KeyOf(const QWidget& window, QLatin1StringView what) {
 
 QString KeyOf(const QWidget& window, const QSplitter& splitter) {
     return window.objectName() + QLatin1Char('/') + splitter.objectName();
+}
+
+QString KeyOf(const QWidget& window, const QWidget& view, QLatin1StringView what) {
+    return KeyOf(window, what) + QLatin1Char('/') + view.objectName();
+}
+
+constexpr QLatin1StringView Columns("columns");
+constexpr QLatin1StringView Node("node");
+constexpr int LeastWidth = 8; // pixels
+constexpr int MostWidth = 4000;
+
+// "120 Station Name" for each column.
+QStringList ListOf(const QVariantMap& widths) {
+    QStringList list;
+    for (const auto& [heading, width] : widths.asKeyValueRange())
+        list << QString::number(width.toInt()) + QLatin1Char(' ') + heading;
+    return list;
+}
+
+QVariantMap WidthsIn(const QStringList& list) {
+    QVariantMap widths;
+    for (const QString& each : list) {
+        const int width = each.section(QLatin1Char(' '), 0, 0).toInt();
+        if (width >= LeastWidth && width <= MostWidth)
+            widths[each.section(QLatin1Char(' '), 1)] = width;
+    }
+    return widths;
 }
 
 bool CanBeSized(const QWidget& window) {
@@ -62,6 +92,13 @@ void WindowPlaces::GiveBack(FormWindow& window) const {
     const QSettings kept(file_, QSettings::IniFormat);
     for (QSplitter* splitter : window.findChildren<QSplitter*>())
         splitter->restoreState(kept.value(KeyOf(window, *splitter)).toByteArray());
+    for (QTableView* table : window.findChildren<QTableView*>())
+        if (const auto widths = WidthsIn(kept.value(KeyOf(window, *table, Columns)).toStringList());
+            !widths.isEmpty())
+            table->setProperty(WidthsOfPerson, widths);
+    for (QTreeView* tree : window.findChildren<QTreeView*>())
+        if (tree->property(KeepsNode).toBool())
+            tree->setProperty(PathToChoose, kept.value(KeyOf(window, *tree, Node)).toString());
     const QRect room = window.screen()->availableGeometry();
     const QSize size = kept.value(KeyOf(window, Size)).toSize().boundedTo(room.size());
     if (!size.isEmpty()) {
@@ -80,6 +117,12 @@ void WindowPlaces::Keep(const FormWindow& window) const {
         kept.setValue(KeyOf(window, Size), window.size());
     for (const QSplitter* splitter : window.findChildren<QSplitter*>())
         kept.setValue(KeyOf(window, *splitter), splitter->saveState());
+    for (const QTableView* table : window.findChildren<QTableView*>())
+        if (const auto widths = table->property(WidthsOfPerson).toMap(); !widths.isEmpty())
+            kept.setValue(KeyOf(window, *table, Columns), ListOf(widths));
+    for (const QTreeView* tree : window.findChildren<QTreeView*>())
+        if (const QString path = tree->property(SelectedPath).toString(); !path.isEmpty())
+            kept.setValue(KeyOf(window, *tree, Node), path);
 }
 
 } // namespace gfc::qt

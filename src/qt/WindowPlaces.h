@@ -7,8 +7,9 @@ namespace gfc::qt {
 
 class FormWindow;
 
-// Keeps how large a person made each window and where its splitters stand, in a file of the user's own, and
-// gives that back at the next start. A file that cannot be read or written, or that holds nonsense, leaves
+// Keeps how large a person made each window and the columns of its tables, where its splitters stand, and
+// which node was selected last in a tree whose design asks for that, in a file of the user's own, and gives
+// that back at the next start. A file that cannot be read or written, or that holds nonsense, leaves
 // the windows as they are designed.
 class WindowPlaces : public QObject {
 public:

@@ -16,6 +16,10 @@ public:
     // painted: it must be quick. What makes a row red must stand in it in words as well.
     std::function<bool(int row)> IsMarked;
 
+    // A person may have a window show the rows in another order, by a click on a heading. Rows are counted as
+    // before. To be decided before the columns are added.
+    bool SortsByHeading = false;
+
     bool PersonOpensRow(int row) {
         if (row < 1 || row > Count() || !PersonActs())
             return false;

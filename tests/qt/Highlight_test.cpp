@@ -15,6 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
@@ -387,7 +388,13 @@ protected:
         return node.isValid() ? PathOf(node.parent()) + "\\" + node.data().toString().toStdString() : "";
     }
     std::string Between() {
-        switch (Steps->Hands.Draw(6)) {
+        switch (Steps->Hands.Draw(7)) {
+        case 6: {
+            auto* header = FindIn<QTableView>(FindWindow("GFCPrincipal"), "ListView1")->horizontalHeader();
+            header->setSortIndicator(Steps->Hands.Draw(7) - 1,
+                                     Steps->Hands.OneIn(2) ? Qt::AscendingOrder : Qt::DescendingOrder);
+            return "the table is sorted";
+        }
         case 0:
             (void)Form->SSTab1.PersonSelects(Steps->Hands.Draw(3));
             return "a page of the station";

@@ -75,7 +75,7 @@ void GFCPrincipal::ClearLists() {
         list->ClearColumns();
         list->SetVisible(false);
     }
-    listShowsStations_ = false;
+    listShowsStations_ = ListView1.SortsByHeading = false;
 }
 
 void GFCPrincipal::BuildTree() {
@@ -184,6 +184,7 @@ void GFCPrincipal::AddRunNode(int parent, const std::string& station, int run, b
 
 // One row per station, in step with the tree's nodes.
 void GFCPrincipal::FillStationTable() {
+    ListView1.SortsByHeading = true;
     ListView1.AddColumns({{"N\xC2\xB0", 4},
                           {"Configured as FC"},
                           {"Station Name"},

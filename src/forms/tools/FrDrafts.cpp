@@ -40,14 +40,15 @@ void FrDrafts::Load() {
 void FrDrafts::Read() {
     ListView1.ClearRows();
     auto all = store_.All();
-    drafts_ = all ? *std::move(all) : std::vector<drafts::KeptDraft>();
+    const bool isRead = all.has_value();
+    drafts_ = std::move(all).value_or(std::vector<drafts::KeptDraft>());
     // What a person was at last stands first.
     std::ranges::stable_sort(drafts_, std::greater<>(), [](const drafts::KeptDraft& kept) {
         return kept.TheDraft ? kept.TheDraft->Kept : std::string();
     });
     for (const drafts::KeptDraft& kept : drafts_)
         AddRow(kept);
-    if (!all)
+    if (!isRead)
         Label1.SetCaption("The drafts cannot be read. " + store_.Reason());
     else if (drafts_.empty())
         Label1.SetCaption("No drafts. A pass of the wizard that is not brought to its end leaves one.");

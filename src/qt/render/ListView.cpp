@@ -1,5 +1,6 @@
 #include "ui/ListView.h"
 
+#include "qt/render/KeptProperties.h"
 #include "qt/render/Renderers.h"
 #include "qt/render/RowsModel.h"
 #include "qt/render/ViewRenderer.h"
@@ -25,6 +26,7 @@ public:
         : ViewRenderer(window, control, widget), openable_(dynamic_cast<ui::OpenableList*>(&control)),
           checkable_(dynamic_cast<ui::CheckableList*>(&control)), model_(control, checkable_ != nullptr) {
         SetUpView();
+        RefreshSorting();
         // The list may have been filled before its window came to be.
         SetWidths();
         control.SetRowsObserver(this);
@@ -39,6 +41,9 @@ public:
 
     // The row as text, its cells parted as spreadsheets take them.
     bool eventFilter(QObject* watched, QEvent* event) override {
+        // Widths of an earlier start have come.
+        if (watched == &widget_ && event->type() == QEvent::DynamicPropertyChange && !settingWidths_)
+            SetWidths();
         if (watched != &widget_ || event->type() != QEvent::KeyPress ||
             !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
             return ViewRenderer::eventFilter(watched, event);
@@ -61,10 +66,16 @@ private:
         widget_.setSelectionBehavior(QAbstractItemView::SelectRows);
         widget_.setShowGrid(false);
         widget_.setWordWrap(false);
+        // Names of one plant begin and end in what parts them.
+        widget_.setTextElideMode(Qt::ElideMiddle);
         widget_.setTabKeyNavigation(false);
         widget_.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
         widget_.horizontalHeader()->setHighlightSections(false);
         widget_.horizontalHeader()->setSectionsClickable(false);
+        widget_.horizontalHeader()->setSortIndicatorClearable(true);
+        widget_.horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+        QObject::connect(widget_.horizontalHeader(), &QHeaderView::sectionResized, this,
+                         [this](int column, int, int width) { NoteWidth(column, width); });
         widget_.horizontalHeader()->setStretchLastSection(true);
         widget_.horizontalHeader()->setResizeContentsPrecision(measuredRows);
         QHeaderView& rows = *widget_.verticalHeader();
@@ -105,11 +116,41 @@ private:
     }
 
     bool TakeOwnKey(QKeyEvent& key) override {
+        if (SortByKey(key))
+            return true;
         if (checkable_ == nullptr || key.key() != Qt::Key_Space)
             return false;
         if (const int row = Selected(); row > 0)
             MarkItem(row);
         return true;
+    }
+
+    // The keyboard's click on a heading: Ctrl and the number of the column.
+    bool SortByKey(const QKeyEvent& key) {
+        const int column = key.key() - Qt::Key_1;
+        if (key.modifiers() != Qt::ControlModifier || !widget_.isSortingEnabled() || column < 0 ||
+            column >= std::min(9, model_.columnCount()))
+            return false;
+        QHeaderView& header = *widget_.horizontalHeader();
+        const bool same = header.sortIndicatorSection() == column;
+        const bool up = same && header.sortIndicatorOrder() == Qt::AscendingOrder;
+        if (same && !up)
+            header.setSortIndicator(-1, Qt::AscendingOrder);
+        else
+            header.setSortIndicator(column, up ? Qt::DescendingOrder : Qt::AscendingOrder);
+        return true;
+    }
+
+    // A list that shows something else now may be sorted, or not any more; the order that was asked for is
+    // remembered.
+    void RefreshSorting() {
+        const bool sorts = openable_ != nullptr && openable_->SortsByHeading;
+        QHeaderView& header = *widget_.horizontalHeader();
+        if (widget_.isSortingEnabled() == sorts)
+            return;
+        widget_.setSortingEnabled(sorts);
+        header.setSectionsClickable(sorts);
+        header.setSortIndicatorShown(sorts);
     }
 
     void MarkItem(int row) {
@@ -130,6 +171,7 @@ private:
 
     void RowsReset() override {
         const FormWindow::Writing writing(window_);
+        RefreshSorting();
         model_.Reset();
         SetWidths();
         RefreshContent();
@@ -139,6 +181,7 @@ private:
         model_.Added(first, last);
         if (first <= measuredRows)
             SetWidths();
+        RefreshContent();
     }
     void RowsRemoved(int first, int last) override {
         const FormWindow::Writing writing(window_);
@@ -152,9 +195,28 @@ private:
     }
 
     void SetWidths() {
+        settingWidths_ = true;
         const auto& columns = control_.Columns();
-        for (int i = 0; i < static_cast<int>(columns.size()); ++i)
-            widget_.setColumnWidth(i, WidthOf(i, columns[static_cast<std::size_t>(i)].Width));
+        const QVariantMap made = widget_.property(WidthsOfPerson).toMap();
+        for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+            const auto& column = columns[static_cast<std::size_t>(i)];
+            const int width = made.value(ToQt(column.Heading)).toInt();
+            widget_.setColumnWidth(i, width > 0 ? width : WidthOf(i, column.Width));
+        }
+        settingWidths_ = false;
+    }
+
+    // By the heading, since other columns may stand there at another time. The last column takes what is
+    // left.
+    void NoteWidth(int column, int width) {
+        if (settingWidths_ || window_.IsWriting() || QGuiApplication::mouseButtons() == Qt::NoButton ||
+            column + 1 >= model_.columnCount())
+            return;
+        settingWidths_ = true;
+        QVariantMap made = widget_.property(WidthsOfPerson).toMap();
+        made[model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString()] = width;
+        widget_.setProperty(WidthsOfPerson, made);
+        settingWidths_ = false;
     }
 
     // Some room to the next column, and no heading cut, however few characters are asked for.
@@ -168,6 +230,7 @@ private:
     ui::OpenableList* openable_;   // null for a table whose rows lead nowhere
     ui::CheckableList* checkable_; // null for one whose rows cannot be marked
     RowsModel model_;
+    bool settingWidths_ = false;
 };
 
 } // namespace

@@ -2,11 +2,14 @@
 
 #include "qt/Texts.h"
 #include "qt/render/ItemRole.h"
+#include "qt/render/NaturalOrder.h"
 #include "ui/CheckableList.h"
 
 #include <QColor>
 #include <QGuiApplication>
 #include <QPalette>
+
+#include <algorithm>
 
 namespace gfc::qt {
 
@@ -60,12 +63,66 @@ Qt::CheckState RowsModel::MarkOf(int row) const {
 }
 
 int RowsModel::RowOf(const QModelIndex& at) const {
-    return list_ == nullptr || !at.isValid() ? 0 : list_->RowAtPlace(at.row() + 1);
+    if (list_ == nullptr || !at.isValid())
+        return 0;
+    if (!IsSorted())
+        return list_->RowAtPlace(at.row() + 1);
+    const auto place = static_cast<std::size_t>(at.row());
+    return place < rowAt_.size() && rowAt_[place] <= list_->Count() ? rowAt_[place] : 0;
 }
 
 QModelIndex RowsModel::IndexOf(int row, int column) const {
-    const int place = list_ == nullptr ? 0 : list_->PlaceOfRow(row);
-    return place == 0 || place > rows_ ? QModelIndex() : index(place - 1, column);
+    if (list_ == nullptr || row < 1)
+        return {};
+    const auto at = static_cast<std::size_t>(row);
+    const int place = !IsSorted() ? list_->PlaceOfRow(row) - 1 : at < placeOf_.size() ? placeOf_[at] : -1;
+    return place < 0 || place >= rows_ ? QModelIndex() : index(place, column);
+}
+
+// What was selected stays selected, wherever it stands then.
+void RowsModel::sort(int column, Qt::SortOrder order) {
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const QModelIndexList before = persistentIndexList();
+    std::vector<int> rows;
+    for (const QModelIndex& at : before)
+        rows.push_back(RowOf(at));
+    sortColumn_ = column;
+    sortOrder_ = order;
+    PutInOrder();
+    QModelIndexList after;
+    for (qsizetype i = 0; i < before.size(); ++i)
+        after << IndexOf(rows[static_cast<std::size_t>(i)], before[i].column());
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+bool RowsModel::CanBeSorted() const {
+    const auto* openable = dynamic_cast<const ui::OpenableList*>(list_);
+    return openable != nullptr && openable->SortsByHeading && sortColumn_ >= 0 && sortColumn_ < columns_;
+}
+
+void RowsModel::PutInOrder() {
+    rowAt_.clear();
+    placeOf_.clear();
+    if (!CanBeSorted())
+        return;
+    struct Line {
+        QString Text;
+        int Row;
+    };
+    std::vector<Line> lines;
+    for (int place = 1; place <= rows_; ++place)
+        if (const int row = list_->RowAtPlace(place); row > 0)
+            lines.push_back({ToQt(list_->Cell(row, sortColumn_)), row});
+    const bool up = sortOrder_ == Qt::AscendingOrder;
+    std::ranges::stable_sort(lines, [up](const Line& left, const Line& right) {
+        return up ? CompareNaturally(left.Text, right.Text) < 0 : CompareNaturally(right.Text, left.Text) < 0;
+    });
+    placeOf_.assign(static_cast<std::size_t>(list_->Count()) + 1, -1);
+    for (const Line& line : lines) {
+        placeOf_[static_cast<std::size_t>(line.Row)] = static_cast<int>(rowAt_.size());
+        rowAt_.push_back(line.Row);
+    }
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -82,11 +139,12 @@ void RowsModel::Reset() {
     beginResetModel();
     rows_ = list_ == nullptr ? 0 : list_->ShownCount();
     columns_ = list_ == nullptr ? 0 : static_cast<int>(list_->Columns().size());
+    PutInOrder();
     endResetModel();
 }
 
 void RowsModel::Added(int first, int last) {
-    if (!list_->ShowsAllRows())
+    if (!list_->ShowsAllRows() || CanBeSorted())
         return Reset();
     beginInsertRows({}, first - 1, last - 1);
     rows_ += last - first + 1;
@@ -94,7 +152,7 @@ void RowsModel::Added(int first, int last) {
 }
 
 void RowsModel::Removed(int first, int last) {
-    if (!list_->ShowsAllRows())
+    if (!list_->ShowsAllRows() || CanBeSorted())
         return Reset();
     beginRemoveRows({}, first - 1, last - 1);
     rows_ -= last - first + 1;
@@ -102,8 +160,8 @@ void RowsModel::Removed(int first, int last) {
 }
 
 void RowsModel::Altered(int first, int last) {
-    // Of a list that is filtered all of it may be another row's.
-    if (list_ != nullptr && !list_->ShowsAllRows())
+    // Of a list that is filtered or sorted all of it may be another row's.
+    if (list_ != nullptr && (!list_->ShowsAllRows() || IsSorted()))
         first = 1, last = rows_;
     if (rows_ > 0 && columns_ > 0)
         Q_EMIT dataChanged(index(first - 1, 0), index(last - 1, columns_ - 1));

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+#include <vector>
+
 namespace gfc::qt {
 
 // A list's rows as the table view reads them: straight from the control, nothing is copied. The control tells
@@ -20,6 +22,9 @@ public:
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    // Shows the rows in the order of a column's texts, where the list lets itself be sorted; -1 for its own
+    // order. It stays in force until another is asked for.
+    void sort(int column, Qt::SortOrder order) override;
 
     // Rows are counted from 1, as in the control; 0 and the invalid index stand for each other. A row that
     // the list does not show has none.
@@ -38,8 +43,17 @@ private:
     [[nodiscard]] QVariant ColourOf(int row) const;
     [[nodiscard]] Qt::CheckState MarkOf(int row) const;
 
+    [[nodiscard]] bool IsSorted() const { return !rowAt_.empty(); }
+    // An order is asked for, and the list lets itself be sorted.
+    [[nodiscard]] bool CanBeSorted() const;
+    void PutInOrder();
+
     const ui::ListView* list_;
     bool marks_;
+    int sortColumn_ = -1;
+    Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
+    std::vector<int> rowAt_;   // the row at each place; empty for the list's own order
+    std::vector<int> placeOf_; // the other way round, from 0; -1 for a row that is not shown
     int rows_ = 0;
     int columns_ = 0;
 };

@@ -1,10 +1,13 @@
 #include "ui/Tree.h"
 
+#include "qt/Texts.h"
+#include "qt/render/KeptProperties.h"
 #include "qt/render/Renderers.h"
 #include "qt/render/TreeModel.h"
 #include "qt/render/ViewRenderer.h"
 
 #include <QHeaderView>
+#include <QTimer>
 #include <QTreeView>
 
 #include <set>
@@ -20,6 +23,8 @@ public:
         widget.setModel(&model_);
         widget.setHeaderHidden(true);
         widget.setUniformRowHeights(true);
+        // Names of one plant begin and end in what parts them.
+        widget.setTextElideMode(Qt::ElideMiddle);
         FollowPerson();
         SetUpNotes();
         control.SetTreeObserver(this);
@@ -38,7 +43,26 @@ public:
         model_.Release();
     }
 
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == &widget_ && event->type() == QEvent::DynamicPropertyChange &&
+            static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() == PathToChoose)
+            QTimer::singleShot(0, this, [this] { ChooseKeptNode(); });
+        return ViewRenderer::eventFilter(watched, event);
+    }
+
 private:
+    // As a click on it, once the window shows; not where a person was faster, or the node has gone.
+    void ChooseKeptNode() {
+        if (window_.Form() == nullptr || control_.SelectedNode() != 0)
+            return;
+        const int node = control_.FindPath(FromQt(widget_.property(PathToChoose).toString()));
+        if (node == 0)
+            return;
+        for (int parent = control_.At(node).Parent; parent > 0; parent = control_.At(parent).Parent)
+            control_.SetExpanded(parent, true);
+        Click(node);
+    }
+
     // The nodes take what they need, and their notes the rest.
     void SetUpNotes() {
         if (!control_.HasNotes())
@@ -115,6 +139,8 @@ private:
         const FormWindow::Writing writing(window_);
         model_.Altered(std::exchange(pictured_, control_.SelectedNode()));
         model_.Altered(pictured_);
+        if (pictured_ > 0 && widget_.property(KeepsNode).toBool())
+            widget_.setProperty(SelectedPath, ToQt(control_.FullPath(pictured_)));
         RefreshContent();
     }
     void ScrollTo(int node) override {

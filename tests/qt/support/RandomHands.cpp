@@ -4,7 +4,7 @@
 #include "qt/support/WindowLooks.h"
 #include "ui/DropDownList.h"
 #include "ui/Form.h"
-#include "ui/ListView.h"
+#include "ui/OpenableList.h"
 #include "ui/Tree.h"
 
 #include <QApplication>
@@ -156,10 +156,21 @@ AssertionResult Highlights(const QAbstractItemView& view, const QModelIndex& sel
     return failure << " with the keys on " << current.row();
 }
 
+// Where the selected row stands. In a table that a person may sort, by the number that stands in it.
+QModelIndex PlaceOfSelected(const ui::ListView& list, const QAbstractItemModel& rows) {
+    const int selected = list.SelectedRow();
+    const auto* openable = dynamic_cast<const ui::OpenableList*>(&list);
+    if (selected == 0 || openable == nullptr || !openable->SortsByHeading)
+        return rows.index(list.PlaceOfRow(selected) - 1, 0);
+    for (int place = 0; place < rows.rowCount(); ++place)
+        if (rows.index(place, 0).data().toString().toStdString() == list.Cell(selected, 0))
+            return rows.index(place, 0);
+    return {};
+}
+
 AssertionResult OfList(const ui::ListView& list, QWidget& window) {
     const auto* view = FindIn<QTableView>(&window, list.Name());
-    return Highlights(*view, view->model()->index(list.PlaceOfRow(list.SelectedRow()) - 1, 0),
-                      list.Name().c_str());
+    return Highlights(*view, PlaceOfSelected(list, *view->model()), list.Name().c_str());
 }
 
 AssertionResult OfTree(const ui::Tree& tree, QWidget& window) {
