@@ -248,9 +248,30 @@ TEST_F(ProjectWindowTest, downloads_what_the_stations_are_to_load) {
 
 TEST_F(ProjectWindowTest, says_that_no_project_is_open_and_what_to_do) {
     window_.show();
+    ASSERT_TRUE(Find<QWidget>("StartPage")->isVisible());
+    for (const char* name : {"StartSample", "StartNew", "StartOpen"}) {
+        EXPECT_TRUE(Find<QAbstractButton>(name)->isEnabled());
+    }
+    EXPECT_FALSE(Find<QAction>("Configurator")->isEnabled());
     window_.ImportTable(Folder / "none.csv");
     EXPECT_EQ(window_.windowTitle(), QStringLiteral("I/O Workshop"));
     EXPECT_FALSE(Find<QAction>("RemoveTag")->isEnabled());
+}
+
+TEST_F(ProjectWindowTest, the_start_page_is_used_by_keys_alone_and_gives_way_to_the_project) {
+    window_.show();
+    int asked = 0;
+    auto* sample = Find<QAction>("Sample");
+    sample->disconnect();
+    QObject::connect(sample, &QAction::triggered, &window_, [&] {
+        ++asked;
+        window_.MakeSampleIn(Folder / "sample");
+    });
+    auto* page = Find<QWidget>("StartPage");
+    QTest::keyClick(page, Qt::Key_Return);
+    EXPECT_EQ(asked, 1);
+    EXPECT_FALSE(page->isVisible());
+    EXPECT_TRUE(Find<QAction>("Configurator")->isEnabled());
 }
 
 } // namespace gfc::workshop

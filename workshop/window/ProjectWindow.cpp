@@ -10,17 +10,22 @@
 #include "workshop/window/FilesDialog.h"
 #include "workshop/window/FilteredTable.h"
 #include "workshop/window/ImportDialog.h"
+#include "workshop/window/StartPage.h"
 #include "workshop/window/Told.h"
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QProcess>
 #include <QSettings>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
 
@@ -53,10 +58,22 @@ bool AskedYes(QWidget* parent, const QString& text) {
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
+// Empty where the configurator does not stand beside this program.
+QString Configurator() {
+#ifdef _WIN32
+    const QString name = QStringLiteral("/gfc-configurator.exe");
+#else
+    const QString name = QStringLiteral("/gfc-configurator");
+#endif
+    const QString program = QCoreApplication::applicationDirPath() + name;
+    return QFileInfo::exists(program) ? program : QString();
+}
+
 } // namespace
 
 ProjectWindow::ProjectWindow()
-    : stations_(new FilteredTable(
+    : pages_(new QStackedWidget), start_(new StartPage),
+      stations_(new FilteredTable(
           tr("stations"), {tr("Station"), tr("Type"), tr("IP Address"), tr("Serial Number"), tr("Tags")})),
       tags_(new FilteredTable(tr("tags"), {tr("Tag"), tr("Class"), tr("Register"), tr("Module"),
                                            tr("Module Type"), tr("Description")})) {
@@ -67,8 +84,11 @@ ProjectWindow::ProjectWindow()
     parts->addWidget(tags_);
     parts->setStretchFactor(1, 1);
     parts->setSizes({360, 640});
-    setCentralWidget(parts);
+    pages_->addWidget(start_);
+    pages_->addWidget(parts);
+    setCentralWidget(pages_);
     MakeMenus();
+    FillStartPage();
     connect(stations_, &FilteredTable::CurrentChanged, this, &ProjectWindow::ShowTags);
     connect(tags_, &FilteredTable::CurrentChanged, this, &ProjectWindow::Enable);
     connect(tags_, &FilteredTable::Activated, this, &ProjectWindow::ShowUses);
@@ -96,6 +116,8 @@ void ProjectWindow::MakeMenus() {
     connect(recent_, &QMenu::aboutToShow, this, &ProjectWindow::ShowRecent);
     Add(project, "Sample", tr("Make a &sample..."), {}, &ProjectWindow::AskForSample);
     project->addSeparator();
+    ofProject_ += Add(project, "Configurator", tr("Start the con&figurator"),
+                      QKeySequence(Qt::CTRL | Qt::Key_G), &ProjectWindow::StartConfigurator);
     ofProject_ += Add(project, "Close", tr("&Close"), QKeySequence::Close, &ProjectWindow::CloseProject);
     QAction* quit = project->addAction(tr("&Quit"));
     quit->setShortcut(QKeySequence::Quit);
@@ -124,6 +146,17 @@ void ProjectWindow::MakeMenus() {
     Add(help, "About", tr("&About"), {}, &ProjectWindow::ShowAbout);
 }
 
+void ProjectWindow::FillStartPage() {
+    const auto offer = [this](const char* name, const QString& text, const QString& explanation) {
+        start_->Offer(findChild<QAction*>(QLatin1String(name)), text, explanation);
+    };
+    offer("Sample", tr("Make a &sample..."),
+          tr("A project of eight stations with their tags, to try everything on."));
+    offer("New", tr("&New project..."),
+          tr("An empty one. Its stations and tags come from a table of your own: Tags > Import a table."));
+    offer("Open", tr("&Open a project..."), tr("One that was made here before."));
+}
+
 void ProjectWindow::ShowRecent() {
     recent_->clear();
     for (const QString& path : QSettings().value(RecentKey()).toStringList()) {
@@ -144,7 +177,9 @@ bool ProjectWindow::OpenProject(const fs::path& file) {
     });
     if (opened) {
         Refresh();
-        Say(tr("Opened %1. The configurator works on it from its next start.").arg(Shown(file)));
+        Say(tr("Opened %1. The configurator works on it from its next start: Project > Start the "
+               "configurator.")
+                .arg(Shown(file)));
     }
     return opened;
 }
@@ -187,6 +222,7 @@ void ProjectWindow::ShowStations() {
     Say(file_.empty() ? tr("No project is open: make one, open one, or make the sample by the menu Project.")
                       : Shown(file_));
     stations_->Show(std::move(rows));
+    pages_->setCurrentIndex(file_.empty() ? 0 : 1);
 }
 
 void ProjectWindow::ShowTags() {
@@ -377,6 +413,14 @@ void ProjectWindow::RemoveTag() {
 
 void ProjectWindow::ShowFiles() {
     FilesDialog(file_, this).exec();
+}
+
+void ProjectWindow::StartConfigurator() {
+    const QString program = Configurator();
+    if (program.isEmpty() || !QProcess::startDetached(program, {})) {
+        QMessageBox::warning(this, tr("I/O Workshop"),
+                             tr("The configurator could not be started. Start it from the desktop's menu."));
+    }
 }
 
 void ProjectWindow::ShowAbout() {

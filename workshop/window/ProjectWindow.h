@@ -11,10 +11,12 @@
 
 class QAction;
 class QMenu;
+class QStackedWidget;
 
 namespace gfc::workshop {
 
 class FilteredTable;
+class StartPage;
 
 /// One project: its stations, the tags of the chosen one, and all that io-workshop does with them, by the
 /// same store and rules. The project that it shows is the open one, which the configurator works on.
@@ -40,6 +42,7 @@ protected:
 
 private:
     void MakeMenus();
+    void FillStartPage();
     QAction* Add(QMenu* menu, const char* name, const QString& text, const QKeySequence& keys,
                  void (ProjectWindow::*does)());
     void ShowRecent();
@@ -58,6 +61,7 @@ private:
     void RemoveTag();
     void ShowUses();
     void ShowFiles();
+    void StartConfigurator();
     void ShowAbout();
     void Find();
 
@@ -70,6 +74,8 @@ private:
     bool Change(const std::function<std::string(Project&)>& change);
 
     std::filesystem::path file_; ///< empty for none
+    QStackedWidget* pages_;      ///< the start page, and the tables
+    StartPage* start_;
     FilteredTable* stations_;
     FilteredTable* tags_;
     QMenu* recent_ = nullptr;
