@@ -76,6 +76,30 @@ void CompareTheProject(Story& story) {
     story.SeeEnabled(compare, "Command7", false).Click(compare, "Command10");
 }
 
+// What a copy to all that have no configuration would be, and what the station's own tags are called now;
+// nothing is written.
+void LookAtSeveral(Story& story, const std::string& station) {
+    const std::string window = "FrPlanStations";
+    story.ClickNode("GFCPrincipal", "TreeGFC", "All Stations\\" + station)
+        .Menu("GFCPrincipal", "copySeveral")
+        .Click(window, "Command2");
+    WaitFor(story, window, "Timer1");
+    story.ClickRow(window, "ListView1", 3)
+        .Check([=](Driver& d) {
+            EXPECT_GT(d.Rows(window, "ListView2"), 0);
+            EXPECT_FALSE(d.Cell(window, "ListView1", 3, 3).empty());
+        })
+        .Click(window, "Command9")
+        .Menu("GFCPrincipal", "bindAnew");
+    WaitFor(story, window, "Timer1");
+    story
+        .Check([=](Driver& d) {
+            EXPECT_GT(d.Rows(window, "ListView2"), 0);
+            EXPECT_EQ(d.Cell(window, "ListView2", 1, 2), d.Cell(window, "ListView2", 1, 3));
+        })
+        .Click(window, "Command9");
+}
+
 void MakeTheReport(Story& story, const QString& file) {
     story.Menu("GFCPrincipal", "report").Click(report, "Command5").ChooseFile(file.toStdString());
     WaitFor(story, report, "Timer1");
@@ -131,6 +155,7 @@ void TellRecord(Story& story, const QDir& folder, const QString& station) {
     EditAsAnother(story, station.toStdString());
     LookAtTheHistory(story);
     CompareTheProject(story);
+    LookAtSeveral(story, station.toStdString());
     MakeTheReport(story, paper);
     Verify(story, paper, project, 0);
     Tamper(story, file);

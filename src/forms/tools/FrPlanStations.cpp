@@ -118,8 +118,10 @@ void FrPlanStations::ListStations() {
         if (!IsCopy() && services::EqualNoCase(station.Name, selected))
             Choose(items_.size() - 1, true);
     }
+    // The one that is looked up first is the one that a person looks at.
+    const auto chosen = std::ranges::find_if(items_, &Item::IsChosen);
     if (!items_.empty())
-        ListView1.SelectRow(1);
+        ListView1.SelectRow(chosen == items_.end() ? 1 : static_cast<int>(chosen - items_.begin()) + 1);
 }
 
 std::string FrPlanStations::StatusOf(const Item& item) const {
