@@ -134,7 +134,10 @@ Finding OfHistoryThen(const report::Report& report, const ProjectFiles& project,
 
 Finding OfStation(const report::StationPages& station, const ProjectFiles& project,
                   platform::Machine& machine) {
-    const auto file = machine.Files.Read(project.FileOf(station.Name));
+    const std::string path = project.FileOf(station.Name);
+    const auto file = machine.Files.Read(path);
+    if (!file && machine.Files.Exists(path))
+        return {station.Name, false, "has a file that cannot be read", {}};
     const auto reported = services::ToCodePage(station.File);
     if (!reported || (!station.FileHash.empty() && record::Sha256(*reported) != station.FileHash))
         return {station.Name, false, "the report does not carry the file whose hash it shows", {}};

@@ -10,11 +10,17 @@ std::string OrDash(const std::string& text) {
     return text.empty() ? "-" : text;
 }
 
+// What stands in the place of a hash.
+std::string HashOrNone(const StationPages& station) {
+    if (!station.FileHash.empty())
+        return station.FileHash;
+    return station.Unread.empty() ? "not configured" : "cannot be read";
+}
+
 Part StationsTable(const Report& report) {
     Part part{Part::Kind::Table, {}, {{}, {"Station", "File", "SHA-256 of the file", "Entry"}, {}, {}}};
     for (const StationPages& station : report.Stations)
-        part.Table.Rows.push_back({station.Name, station.FileName,
-                                   station.FileHash.empty() ? "not configured" : station.FileHash,
+        part.Table.Rows.push_back({station.Name, station.FileName, HashOrNone(station),
                                    station.Entry == 0 ? "-" : std::to_string(station.Entry)});
     return part;
 }
@@ -42,7 +48,8 @@ Parts CoverOf(const Report& report) {
 Parts PartsOf(const StationPages& station) {
     Parts parts = {{Part::Kind::Heading, station.Name}};
     if (station.FileHash.empty()) {
-        parts.push_back({Part::Kind::Line, "This station has no configuration."});
+        parts.push_back({Part::Kind::Line,
+                         station.Unread.empty() ? "This station has no configuration." : station.Unread});
         return parts;
     }
     parts.push_back({Part::Kind::Line, station.FileName});
@@ -63,7 +70,7 @@ Parts SignaturesOf() {
 }
 
 std::string FooterOf(const StationPages& station) {
-    return station.Name + "  " + (station.FileHash.empty() ? "not configured" : station.FileHash);
+    return station.Name + "  " + HashOrNone(station);
 }
 
 std::string FooterOf(const Report& report) {

@@ -1,6 +1,7 @@
 #include "report/MakeReport.h"
 
 #include "audit/Check.h"
+#include "audit/OneFile.h"
 #include "audit/StationPages.h"
 #include "record/Sha256.h"
 #include "services/CodePage.h"
@@ -87,9 +88,11 @@ void AddConfiguration(const Sources& sources, const Request& request, const std:
     pages.File = services::FromCodePage(bytes);
     pages.Entry = past.EntryOf(pages.FileHash);
     pages.Tables = audit::PagesOf({path, project.ProjectName, pages.Name, bytes}, tags, sources.Machine);
-    pages.Tables.push_back(FindingsTable(
-        audit::CheckFile(sources.Machine.Files, {path, project.ProjectFile, project.ProjectName, pages.Name},
-                         sources.Library == nullptr ? nullptr : &tags)));
+    // The very bytes of the hash, whatever is written meanwhile.
+    audit::OneFile file(path, bytes);
+    pages.Tables.push_back(
+        FindingsTable(audit::CheckFile(file, {path, project.ProjectFile, project.ProjectName, pages.Name},
+                                       sources.Library == nullptr ? nullptr : &tags)));
     if (request.Since)
         pages.Tables.push_back(past.ChangesSince(*request.Since));
 }
@@ -97,8 +100,12 @@ void AddConfiguration(const Sources& sources, const Request& request, const std:
 StationPages PagesOf(const Sources& sources, const Request& request, const std::string& station) {
     const std::string path = sources.Project.ConfigFileOf(station);
     StationPages pages{station, NameOfFile(path), {}, 0, {}, {}};
-    if (const auto bytes = sources.Machine.Files.Read(path))
+    const auto bytes = sources.Machine.Files.Read(path);
+    const std::string reason = sources.Machine.Files.LastFailure(); // before the next call
+    if (bytes)
         AddConfiguration(sources, request, *bytes, pages);
+    else if (sources.Machine.Files.Exists(path))
+        pages.Unread = "The configuration of this station cannot be read: " + reason + ".";
     return pages;
 }
 

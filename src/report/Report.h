@@ -22,6 +22,7 @@ struct StationPages {
     std::int64_t Entry = 0; // the entry of the history that left this file; 0 for none
     std::string File;       // its bytes, each as the character of that number
     std::vector<SummaryTable> Tables;
+    std::string Unread = {}; // why the file, which is there, cannot be read; FileHash is empty then
 
     bool operator==(const StationPages&) const = default;
 };

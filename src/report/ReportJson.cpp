@@ -20,8 +20,11 @@ Json JsonOf(const StationPages& station) {
     Json tables = Json::array();
     for (const SummaryTable& table : station.Tables)
         tables.push_back(JsonOf(table));
-    return {{"name", station.Name},   {"file", station.FileName}, {"sha256", station.FileHash},
-            {"entry", station.Entry}, {"content", station.File},  {"tables", std::move(tables)}};
+    Json json = {{"name", station.Name},   {"file", station.FileName}, {"sha256", station.FileHash},
+                 {"entry", station.Entry}, {"content", station.File},  {"tables", std::move(tables)}};
+    if (!station.Unread.empty())
+        json["unread"] = station.Unread;
+    return json;
 }
 
 Json JsonOf(const Report& report, bool withTime) {
@@ -57,6 +60,7 @@ StationPages StationOf(const Json& json) {
                          json.at("entry"), json.at("content"), {}};
     for (const Json& table : json.at("tables"))
         station.Tables.push_back(TableOf(table));
+    station.Unread = json.value("unread", "");
     return station;
 }
 

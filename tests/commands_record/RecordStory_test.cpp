@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
 #include <thread>
 
 namespace gfc::commands {
@@ -99,6 +100,17 @@ TEST_F(RecordStory, AReportWhoseTextWasChangedIsFound) {
     const Outcome ran = Run("verify ~a.html");
     EXPECT_EQ(ran.Status, 1);
     EXPECT_THAT(ran.Output, HasSubstr("WRONG the text of the report"));
+}
+
+// In the place of the file stands a link to one that is there and that nobody can read from its beginning.
+TEST_F(RecordStory, AFileThatCannotBeReadIsNotTakenForNone) {
+    ASSERT_EQ(Run("report North -o ~a.html").Status, 0);
+    std::filesystem::remove(Folder.Path(File));
+    std::filesystem::create_symlink("/proc/self/mem", Folder.Path(File));
+    ASSERT_EQ(Run("report North -o ~b.html").Status, 0);
+    EXPECT_THAT(Folder.Get("b.html"), HasSubstr("The configuration of this station cannot be read: "));
+    EXPECT_THAT(Folder.Get("b.html"), testing::Not(HasSubstr("has no configuration")));
+    EXPECT_THAT(Run("verify ~a.html").Output, HasSubstr("has a file that cannot be read"));
 }
 
 TEST_F(RecordStory, TheSameStateGivesTheSameReportButForTheTime) {
