@@ -127,6 +127,28 @@ void TypeWhatIsImplausible(test::Story& story, const QString& station) {
         .Box("Close mechanical parameters", "", ui::Icon::None, ui::Answer::Yes);
 }
 
+// A pass is left in the tags of its first run, goes on from there, and is let go of in the end.
+void LeaveAPass(test::Story& story, const QString& station) {
+    const moves::Choices choices{.Standard = 1, .Source = 1};
+    const std::string window = "FrDrafts";
+    moves::OpenWizard(story, station.toStdString());
+    moves::SelectRuns(story, {1, 2});
+    moves::WalkPages(story, choices);
+    moves::PassUntil(story, choices, 1, 1);
+    story.Click("TagRuns", "Command6").Box("Automatic Tags assignments", "", ui::Icon::Information);
+    moves::CancelWindow(story, "TagRuns");
+    story.Menu("GFCPrincipal", "drafts")
+        .SeeText(window, "Label1", "1 draft")
+        .Click(window, "Command3")
+        .Box("Drafts", "", ui::Icon::Question, ui::Answer::Yes)
+        .Click("Step", "Command1");
+    moves::CancelWindow(story, "TagRuns");
+    story.Menu("GFCPrincipal", "drafts")
+        .Click(window, "Command2")
+        .Box("Drafts", "", ui::Icon::Question, ui::Answer::Yes)
+        .Click(window, "Command4");
+}
+
 void Tell(test::Story& story, const QDir& folder) {
     moves::StartUp(story);
     ConfigureStation(story, single, {}, {1});
@@ -136,6 +158,7 @@ void Tell(test::Story& story, const QDir& folder) {
     for (const QString& station : {single, large, skid, delivery})
         ReadSummaries(story, station, 1);
     LookAtTheConfigurator(story, large);
+    LeaveAPass(story, large);
     TypeWhatIsImplausible(story, single);
     EditWithATagRenamed(story, single);
     tour::TellRuns(story, folder, large);
