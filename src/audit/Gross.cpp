@@ -3,6 +3,7 @@
 #include "audit/Figures.h"
 #include "audit/ValueTable.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -85,6 +86,18 @@ std::string Percent(double fraction) {
 }
 
 } // namespace
+
+std::string GrossRangeText(std::string_view key, const config::StationConfig& station) {
+    const auto range = std::ranges::find(Ranges, key, &GrossRange::Key);
+    if (range == Ranges.end())
+        return {};
+    const double unit = range->IsCalorific ? ScaleOf(station.SystemUnits).MegajoulesPerM3 : 1;
+    const std::string figures = Figure(range->Least / unit) + " to " + Figure(range->Most / unit);
+    return "By the standard: " +
+           (range->IsCalorific
+                ? WithUnit(figures, config::Quantity::HeatingValue, station) + " (volume at 0 degrees C)"
+                : figures);
+}
 
 std::string Contradiction(const GrossGas& gas) {
     constexpr double leastNitrogen = -0.01, mostNitrogen = 0.5; // the first for the roundings of all values

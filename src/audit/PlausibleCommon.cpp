@@ -1,5 +1,7 @@
 #include "audit/Figures.h"
 #include "audit/Plausible.h"
+#include "audit/PlausibleBases.h"
+#include "audit/Ranges.h"
 #include "audit/ValueTable.h"
 #include "config/Vocabulary.h"
 
@@ -104,42 +106,49 @@ bool UsesFixedAtmosphere(const config::StationConfig& station) {
 }
 
 void CheckAtmosphere(const config::StationConfig& station, Sink& sink) {
-    constexpr double least = 55, most = 110; // kPa: from the highest stations to the deepest high
+    const UsualRange& range = UsualRangeOf("AtmPress");
     const auto value = NumberOf(station.AtmPress);
     if (!value || !UsesFixedAtmosphere(station))
         return;
     const double kPa = *value * ScaleOf(station.SystemUnits).Kilopascals;
-    if (IsBelow(kPa, least) || IsAbove(kPa, most))
+    if (IsBelow(kPa, range.Least) || IsAbove(kPa, range.Most))
         sink.Add(RuleId::AtmosphericPressure, {"AtmPress", station.AtmPress},
                  {WithUnit(station.AtmPress, Quantity::AbsolutePressure, station), Figure(kPa)});
 }
 
-void CheckRange(RuleId rule, std::string_view key, const std::string& text, double least, double most,
-                Sink& sink) {
+void CheckRange(RuleId rule, std::string_view key, const std::string& text, Sink& sink) {
+    const UsualRange& range = UsualRangeOf(key);
     const auto value = NumberOf(text);
-    if (value && *value > 0 && (IsBelow(*value, least) || IsAbove(*value, most)))
-        sink.Add(rule, {key, text}, {text, Figure(least) + " to " + Figure(most)});
+    if (value && *value > 0 && (IsBelow(*value, range.Least) || IsAbove(*value, range.Most)))
+        sink.Add(rule, {key, text}, {text, Figure(range.Least) + " to " + Figure(range.Most)});
 }
 
 void CheckMeterFactor(const std::string& text, Sink& sink) {
-    constexpr double least = 0.001, most = 1'000'000; // pulses for one unit of volume
-    CheckRange(RuleId::MeterFactor, "meterKFactor", text, least, most, sink);
+    CheckRange(RuleId::MeterFactor, "meterKFactor", text, sink);
     if (NumberOf(text) == 1.0)
         sink.Add(RuleId::MeterFactorDefault, {"meterKFactor", text});
 }
 
 void CheckStandardDensity(const config::StationConfig& station, const std::string& text, Sink& sink) {
-    constexpr double least = 0.6, most = 2.0; // kg/m3
+    const UsualRange& usual = UsualRangeOf("GasDensityStandard");
     const double unit = ScaleOf(station.SystemUnits).KilogramsPerM3;
     const auto value = NumberOf(text);
-    if (!value || *value == 0 || !(IsBelow(*value * unit, least) || IsAbove(*value * unit, most)))
+    if (!value || *value == 0 || !(IsBelow(*value * unit, usual.Least) || IsAbove(*value * unit, usual.Most)))
         return;
-    const std::string range = Figure(least / unit) + " to " + Figure(most / unit);
+    const std::string range = Figure(usual.Least / unit) + " to " + Figure(usual.Most / unit);
     sink.Add(RuleId::StandardDensity, {"GasDensityStandard", text},
              {WithUnit(text, Quantity::Density, station), WithUnit(range, Quantity::Density, station)});
 }
 
 } // namespace
+
+std::string UsualBasesText(std::string_view key, const config::StationConfig& station) {
+    const auto row = std::ranges::find(BaseRows, key, &BaseRow::Key);
+    if (row == BaseRows.end())
+        return {};
+    const auto own = static_cast<std::size_t>(config::UnitsIndex(station.SystemUnits));
+    return "Usual: " + ListOf(UsualBases[own].*row->Usual, row->Unit, station);
+}
 
 void CheckCommonValues(const config::StationConfig& station, Sink& sink) {
     for (const BaseRow& row : BaseRows)
@@ -148,13 +157,13 @@ void CheckCommonValues(const config::StationConfig& station, Sink& sink) {
     const bool hasPlate = station.FlowAlgorithm == config::algorithm::AGA3 ||
                           station.FlowAlgorithm == config::algorithm::SYT6143;
     if (hasPlate)
-        CheckRange(RuleId::Viscosity, "FlowingViscosity", station.FlowingViscosity, 0.005, 0.05, sink);
+        CheckRange(RuleId::Viscosity, "FlowingViscosity", station.FlowingViscosity, sink);
     if (config::IsOrificeAlgorithm(station.FlowAlgorithm))
-        CheckRange(RuleId::Isentropic, "IsentropicCoeff", station.IsentropicCoeff, 1.01, 5.0 / 3, sink);
+        CheckRange(RuleId::Isentropic, "IsentropicCoeff", station.IsentropicCoeff, sink);
 }
 
 void CheckRunValues(const config::StationConfig& station, const config::RunIO& io, Sink& sink) {
-    CheckRange(RuleId::CalibrationFactor, "CalibrationFactor", io.CalibrationFactor, 0.9, 1.1, sink);
+    CheckRange(RuleId::CalibrationFactor, "CalibrationFactor", io.CalibrationFactor, sink);
     if (station.FlowAlgorithm == config::algorithm::AGA7)
         CheckMeterFactor(io.meterKFactor, sink);
     if (station.GasDensitySource == config::source::Measured)

@@ -1,5 +1,6 @@
 #include "audit/Figures.h"
 #include "audit/Plausible.h"
+#include "audit/Ranges.h"
 #include "audit/ValueTable.h"
 #include "config/AccelabarSizes.h"
 #include "config/Vocabulary.h"
@@ -16,25 +17,18 @@ using config::Quantity;
 using config::RunMechanical;
 using config::StationConfig;
 
-// The limits of a standard, in mm, and the rules that hold them.
-struct OrificeLimits {
+// The rules that hold the limits of a standard.
+struct OrificeRules {
     std::string_view Algorithm;
-    double Bore;
-    bool BoreIsPast; // the limit itself is too small
-    double LeastPipe;
-    double MostPipe;
     RuleId BoreRule;
     RuleId PipeRule;
     RuleId BetaRule;
 };
 
-// 1.687 in is the bore of a 2 inch pipe with the thickest wall of the standard's table.
 // clang-format off
-constexpr std::array<OrificeLimits, 2> Limits = {{
-    {config::algorithm::AGA3,    0.45 * 25.4, true,  1.687 * 25.4, 60 * 25.4,
-     RuleId::BoreSmallAGA3, RuleId::PipeAGA3, RuleId::BetaAGA3},
-    {config::algorithm::SYT6143, 12.5,        false, 50,           1000,
-     RuleId::BoreSmallISO5167, RuleId::PipeISO5167, RuleId::BetaISO5167},
+constexpr std::array<OrificeRules, 2> RulesOfStandards = {{
+    {config::algorithm::AGA3,    RuleId::BoreSmallAGA3,    RuleId::PipeAGA3,    RuleId::BetaAGA3},
+    {config::algorithm::SYT6143, RuleId::BoreSmallISO5167, RuleId::PipeISO5167, RuleId::BetaISO5167},
 }};
 // clang-format on
 
@@ -51,9 +45,9 @@ struct Diameters {
 
 class OrificeCheck {
 public:
-    OrificeCheck(const StationConfig& station, const OrificeLimits& limits, const Diameters& diameters,
-                 Sink& sink)
-        : station_(station), limits_(limits), diameters_(diameters), sink_(sink),
+    OrificeCheck(const StationConfig& station, const OrificeLimits& limits, const OrificeRules& rules,
+                 const Diameters& diameters, Sink& sink)
+        : station_(station), limits_(limits), rules_(rules), diameters_(diameters), sink_(sink),
           unit_(ScaleOf(station.SystemUnits).Millimetres) {}
 
     void Check() {
@@ -80,9 +74,9 @@ private:
     }
     void CheckEach() {
         if (IsGiven(diameters_.Bore) && IsSmall(*diameters_.Bore * unit_))
-            sink_.Add(limits_.BoreRule, {"OrificeDia", diameters_.BoreText}, {BoreText()});
+            sink_.Add(rules_.BoreRule, {"OrificeDia", diameters_.BoreText}, {BoreText()});
         if (IsGiven(diameters_.Pipe) && IsOutOfReach(*diameters_.Pipe * unit_))
-            sink_.Add(limits_.PipeRule, {"InternalPipeDia", diameters_.PipeText}, {PipeText()});
+            sink_.Add(rules_.PipeRule, {"InternalPipeDia", diameters_.PipeText}, {PipeText()});
     }
     void CheckRatio() {
         if (!IsGiven(diameters_.Bore) || !IsGiven(diameters_.Pipe))
@@ -92,7 +86,7 @@ private:
             sink_.Add(RuleId::BoreNotBelowPipe, {"OrificeDia", diameters_.BoreText},
                       {BoreText(), PipeText()});
         else if (IsBelow(beta, LeastBeta) || IsAbove(beta, MostBeta))
-            sink_.Add(limits_.BetaRule, {"OrificeDia", diameters_.BoreText}, {Figure(beta)});
+            sink_.Add(rules_.BetaRule, {"OrificeDia", diameters_.BoreText}, {Figure(beta)});
     }
     [[nodiscard]] bool IsSmall(double bore) const {
         return limits_.BoreIsPast ? !IsAbove(bore, limits_.Bore) : IsBelow(bore, limits_.Bore);
@@ -103,6 +97,7 @@ private:
 
     const StationConfig& station_;
     const OrificeLimits& limits_;
+    const OrificeRules& rules_;
     const Diameters& diameters_;
     Sink& sink_;
     double unit_; // mm
@@ -110,12 +105,12 @@ private:
 
 void CheckTemperature(const StationConfig& station, std::string_view key, const std::string& text,
                       Sink& sink) {
-    constexpr double least = 0, most = 50; // degrees C
+    const UsualRange& range = UsualRangeOf(key);
     const auto value = NumberOf(text);
     if (!value)
         return;
     const double celsius = Celsius(*value, ScaleOf(station.SystemUnits));
-    if (IsBelow(celsius, least) || IsAbove(celsius, most))
+    if (IsBelow(celsius, range.Least) || IsAbove(celsius, range.Most))
         sink.Add(RuleId::ReferenceTemperature, {key, text}, {WithUnit(text, Quantity::Temperature, station)});
 }
 
@@ -129,7 +124,7 @@ void CheckOneTemperature(const StationConfig& station, const RunMechanical& mech
 }
 
 void CheckExpansion(const StationConfig& station, std::string_view key, const std::string& text, Sink& sink) {
-    constexpr double least = 0.5e-6, most = 40e-6; // per degree C: from Invar to zinc
+    const auto [itsKey, itsUnit, least, most] = UsualRangeOf(key);
     const double unit = ScaleOf(station.SystemUnits).PerCelsius;
     const auto value = NumberOf(text);
     if (!value || !(IsBelow(*value * unit / least, 1) || IsAbove(*value * unit / most, 1)))
@@ -139,11 +134,11 @@ void CheckExpansion(const StationConfig& station, std::string_view key, const st
              {text, WithUnit(range, Quantity::ExpansionCoefficient, station)});
 }
 
-void CheckPlate(const StationConfig& station, const OrificeLimits& limits, const RunMechanical& mechanical,
+void CheckPlate(const StationConfig& station, const OrificeRules& rules, const RunMechanical& mechanical,
                 Sink& sink) {
     if (!services::EqualNoCase(mechanical.ExtMechParam, config::Yes)) {
         const Diameters diameters{mechanical.OrificeDia, mechanical.InternalPipeDia};
-        OrificeCheck(station, limits, diameters, sink).Check();
+        OrificeCheck(station, *OrificeLimitsOf(rules.Algorithm), rules, diameters, sink).Check();
         CheckTemperature(station, "OrificeDiaRefTemp", mechanical.OrificeDiaRefTemp, sink);
         CheckTemperature(station, "InternalPipeDiaRefTemp", mechanical.InternalPipeDiaRefTemp, sink);
         CheckOneTemperature(station, mechanical, sink);
@@ -185,9 +180,9 @@ void CheckAccelabar(const RunMechanical& mechanical, Sink& sink) {
 void CheckMechanicalValues(const StationConfig& station, const RunMechanical& mechanical, Sink& sink) {
     if (station.FlowAlgorithm == config::algorithm::Accelabar)
         return CheckAccelabar(mechanical, sink);
-    const auto limits = std::ranges::find(Limits, station.FlowAlgorithm, &OrificeLimits::Algorithm);
-    if (limits != Limits.end())
-        CheckPlate(station, *limits, mechanical, sink);
+    const auto rules = std::ranges::find(RulesOfStandards, station.FlowAlgorithm, &OrificeRules::Algorithm);
+    if (rules != RulesOfStandards.end())
+        CheckPlate(station, *rules, mechanical, sink);
 }
 
 } // namespace gfc::audit

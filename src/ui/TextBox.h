@@ -38,6 +38,8 @@ public:
         std::string Why; // it was not taken, in words; empty for one that was
     };
     std::function<Pasted(const std::string& text)> OnPaste;
+    // What is expected of the text, for a tip; asked when it is to be shown, empty for nothing.
+    std::function<std::string()> HintOf;
     // The focus has gone to another control of the form; the handler may take it back.
     std::function<void()> OnLostFocus;
     // A person has changed the text.

@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -72,6 +73,17 @@ TEST_F(Fields, say_beside_them_why_a_key_was_refused_until_the_next_one) {
     QTest::keyClicks(&field, "1");
     EXPECT_EQ(field.accessibleDescription(), "");
     EXPECT_EQ(Form->number.Text(), "1");
+}
+
+TEST_F(Fields, say_in_their_tip_what_is_expected_when_it_is_asked_for) {
+    auto& field = Widget<QLineEdit>("number");
+    std::string unit = "in";
+    Form->number.HintOf = [&unit] { return "Usual: 1 to 2 " + unit; };
+    unit = "mm";
+    QHelpEvent asks(QEvent::ToolTip, {5, 5}, field.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&field, &asks);
+    EXPECT_TRUE(QToolTip::text().startsWith("Usual: 1 to 2 mm")) << QToolTip::text().toStdString();
+    QToolTip::hideText();
 }
 
 TEST_F(Fields, take_a_pasted_text_as_a_whole_where_the_form_judges_it_so) {

@@ -39,6 +39,10 @@ TagRuns::TagRuns(Program& program) : ProgramForm(program, "TagRuns"), suggestion
     FilterKeys(Text1);
     FilterKeys(kfactor);
     FilterKeys(phostd);
+    const auto station = [this] { return session_.Station; };
+    TellExpected(Text1, "CalibrationFactor", station);
+    TellExpected(kfactor, "meterKFactor", station);
+    TellExpected(phostd, "GasDensityStandard", station);
     notes_.Follow({&Text1, &kfactor, &phostd});
 }
 

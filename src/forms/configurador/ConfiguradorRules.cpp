@@ -44,6 +44,12 @@ void Configurador::BindRules() {
     CheckShapeOnLeaving(program_.Screen, Text2);
     FilterKeys(pressure.txtAtmPress);
     FilterKeys(traces.Number);
+    const auto station = [this] { return Entered(); };
+    TellExpected(Text1, "StandardT", station);
+    TellExpected(Text2, "StandardP", station);
+    TellExpected(Text3, "IsentropicCoeff", station);
+    TellExpected(Text4, "FlowingViscosity", station);
+    TellExpected(pressure.txtAtmPress, "AtmPress", station);
     notes_.Follow({&Text1, &Text2, &Text3, &Text4, &pressure.txtAtmPress});
     notes_.FollowChoices({&pressure.OptAbsPress.OnClick, &pressure.OptGagePress.OnClick,
                           &pressure.OptAtmPressFixed.OnClick, &pressure.OptAtmPressExt.OnClick,

@@ -58,6 +58,13 @@ FrParMec::FrParMec(Program& program) : ProgramForm(program, "FrParMec", "Mechani
     for (auto* field :
          {&txtDiaPipe, &txtTempRefPipe, &txtPipeThermal, &txtDiaOrif, &txtTempRefOrif, &txtOrificeThermal})
         MakeNumeric(program.Screen, *field);
+    const auto station = [this] { return session_.Station; };
+    TellExpected(txtDiaPipe, "InternalPipeDia", station);
+    TellExpected(txtTempRefPipe, "InternalPipeDiaRefTemp", station);
+    TellExpected(txtPipeThermal, "PipeThermalExpCoeff", station);
+    TellExpected(txtDiaOrif, "OrificeDia", station);
+    TellExpected(txtTempRefOrif, "OrificeDiaRefTemp", station);
+    TellExpected(txtOrificeThermal, "OrificeThermalExpCoeff", station);
     notes_.Follow(
         {&txtDiaPipe, &txtTempRefPipe, &txtPipeThermal, &txtDiaOrif, &txtTempRefOrif, &txtOrificeThermal});
     cbMatOrif.OnClick = [this] { OrificeMaterialChosen(); };

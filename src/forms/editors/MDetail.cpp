@@ -1,6 +1,7 @@
 #include "forms/editors/MDetail.h"
 
 #include "config/ConfigReader.h"
+#include "config/RunLayout.h"
 #include "services/Funciones_III.h"
 
 #include <algorithm>
@@ -9,11 +10,22 @@ namespace gfc::forms {
 
 namespace {
 constexpr int helpContext = 4000;
+
+// Under which its fixed value is stored.
+std::string KeyOf(config::GasSlot component) {
+    for (const config::RunRow& row : config::RunRows())
+        if (const auto* value = std::get_if<config::GasValue>(&row.Field);
+            value != nullptr && value->Slot == component && row.Name.starts_with("GC_"))
+            return std::string(row.Name);
+    return {};
 }
+
+} // namespace
 
 MDetail::MDetail(Program& program) : ProgramForm(program, "MDetail", "Gas Composition") {
     for (const auto& row : ComponentRows) {
         FilterKeys(Text[row.Number]);
+        TellExpected(Text[row.Number], KeyOf(row.Slot), [this] { return session_.Station; });
         notes_.Follow({&Text[row.Number]});
         Text[row.Number].OnLostFocus = [this, &row] { CheckLeft(row); };
     }

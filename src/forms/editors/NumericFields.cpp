@@ -1,9 +1,11 @@
 #include "forms/editors/NumericFields.h"
 
+#include "audit/Ranges.h"
 #include "services/Funciones_III.h"
 #include "services/TypedNumber.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace gfc::forms {
 
@@ -46,6 +48,12 @@ bool CheckRange(ui::Screen& screen, const CheckedFields& fields, std::int32_t ma
 
 void RefuseRange(ui::Screen& screen, const CheckedFields& fields, std::string_view range) {
     Refuse(screen, fields, services::RangeMessage(range));
+}
+
+void TellExpected(ui::TextBox& field, std::string key, std::function<config::StationConfig()> station) {
+    field.HintOf = [key = std::move(key), station = std::move(station)] {
+        return audit::ExpectedText(key, station());
+    };
 }
 
 void FilterKeys(ui::TextBox& field) {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "config/VarINIFile.h"
 #include "ui/Screen.h"
 #include "ui/TextBox.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -35,6 +37,10 @@ bool CheckRange(ui::Screen& screen, const CheckedFields& fields, std::int32_t ma
                 std::string_view range);
 // The box of a failed range check, for a field with a test of its own.
 void RefuseRange(ui::Screen& screen, const CheckedFields& fields, std::string_view range);
+
+// The field's tip says what is expected of the key's value: range and unit, by the tables that judge it.
+// station gives the choices and units as they are when the tip is asked for.
+void TellExpected(ui::TextBox& field, std::string key, std::function<config::StationConfig()> station);
 
 // The field takes digits, the point and Backspace only. A decimal comma becomes the point, and what is
 // refused is told beside the field.

@@ -16,6 +16,7 @@ using Slot = config::GasSlot;
 
 struct Property {
     Slot Value;
+    const char* Key; // of its fixed value
     const char* Design;
     bool IsFraction; // from 0 to 1
 };
@@ -23,10 +24,10 @@ struct Property {
 // Deliberate: the H2 content has no range, while the relative density has that of a fraction.
 // clang-format off
 constexpr std::array<Property, 4> properties{{
-    {Slot::VolCalorificValue, "",      false}, // by unit system
-    {Slot::RelativeDensity,   "0.581", true},
-    {Slot::XCO2,              "0.006", true},
-    {Slot::XH2,               "0.000", false},
+    {Slot::VolCalorificValue, "VolCalorificValue", "",      false}, // by unit system
+    {Slot::RelativeDensity,   "RelativeDensity",   "0.581", true},
+    {Slot::XCO2,              "XCO2",              "0.006", true},
+    {Slot::XH2,               "XH2",               "0.000", false},
 }};
 
 struct CalorificUnit {
@@ -58,6 +59,7 @@ const Property& PropertyOf(int item) {
 frSGERG88::frSGERG88(Program& program) : ProgramForm(program, "frSGERG88", "Gas Composition") {
     for (int item = 0; item < Text1.Size(); ++item) {
         FilterKeys(Text1[item]);
+        TellExpected(Text1[item], PropertyOf(item).Key, [this] { return session_.Station; });
         notes_.Follow({&Text1[item]});
         Text1[item].OnLostFocus = [this, item] { CheckLeft(item); };
     }

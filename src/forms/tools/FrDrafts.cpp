@@ -112,7 +112,7 @@ void FrDrafts::OfferCommands() {
         Label3.SetCaption("The draft was begun for " + kept->Station +
                           ". Tags that this station lacks will have to be bound anew.");
     else
-        Label3.SetCaption(kept == nullptr ? std::string() : ListView1.Cell(ListView1.SelectedRow(), 1));
+        Label3.SetCaption({});
 }
 
 // The window goes first: the pass hides what stands before it.

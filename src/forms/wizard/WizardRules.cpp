@@ -32,6 +32,12 @@ void WizardFC::BindRules() {
     // Deliberately not alike: the standard pressure takes any key, the atmospheric pressure any shape.
     CheckShapeOnLeaving(program_.Screen, TextDensityStandardP);
     FilterKeys(pressure.txtAtmPress);
+    const auto station = [this] { return Entered(); };
+    TellExpected(TextDensityStandardTemp, "StandardT", station);
+    TellExpected(TextDensityStandardP, "StandardP", station);
+    TellExpected(Text1, "FlowingViscosity", station);
+    TellExpected(Text2, "IsentropicCoeff", station);
+    TellExpected(pressure.txtAtmPress, "AtmPress", station);
     notes_.Follow({&Text1, &Text2, &TextDensityStandardTemp, &TextDensityStandardP, &pressure.txtAtmPress});
     notes_.FollowChoices({&pressure.OptAbsPress.OnClick, &pressure.OptGagePress.OnClick,
                           &pressure.OptAtmPressFixed.OnClick, &pressure.OptAtmPressExt.OnClick,

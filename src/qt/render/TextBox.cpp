@@ -5,6 +5,7 @@
 #include "qt/render/WidgetRenderer.h"
 #include "ui/Form.h"
 
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QToolTip>
 
@@ -17,6 +18,7 @@ public:
     TextBoxRenderer(FormWindow& window, ui::TextBox& control, QLineEdit& widget)
         : WidgetRenderer(window, control, widget),
           keys_(widget, [this](char32_t key) { return Press(key); }) {
+        widget.installEventFilter(this);
         keys_.TakePasted = [this](const QString& text) { return Paste(text); };
         keys_.EnterIsForTheField = control.Owner().DefaultButton() == nullptr;
         QObject::connect(&widget, &QLineEdit::textEdited, this, [this] { Edit(); });
@@ -24,7 +26,22 @@ public:
         QObject::connect(&widget, &QLineEdit::cursorPositionChanged, this, [this] { NoteSelection(); });
     }
 
+    // What is expected, above what the tip says of the key that leads here.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched != &widget_ || event->type() != QEvent::ToolTip || window_.Form() == nullptr)
+            return QObject::eventFilter(watched, event);
+        const QString hint = Hint();
+        if (hint.isEmpty())
+            return false;
+        const QString key = widget_.toolTip();
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           key.isEmpty() ? hint : hint + QLatin1Char('\n') + key, &widget_);
+        return true;
+    }
+
 private:
+    [[nodiscard]] QString Hint() const { return control_.HintOf ? ToQt(control_.HintOf()) : QString(); }
+
     // A key may end the form's life, or move the focus: the character is for the field only if it still has
     // it.
     std::optional<char32_t> Press(char32_t key) {

@@ -1,0 +1,56 @@
+#include "audit/Plausible.h"
+#include "audit/Ranges.h"
+#include "config/RunLayout.h"
+#include "config/Vocabulary.h"
+
+#include <gtest/gtest.h>
+
+namespace gfc::audit {
+namespace {
+
+config::StationConfig StationIn(std::string_view units, std::string_view algorithm = config::algorithm::AGA3,
+                                std::string_view source = config::source::AGA8) {
+    config::StationConfig station;
+    station.SystemUnits = units;
+    station.FlowAlgorithm = algorithm;
+    station.GasDensitySource = source;
+    return station;
+}
+
+TEST(ExpectedText, has_range_and_unit_of_the_stations_unit_system) {
+    const auto us = StationIn(config::units::US);
+    EXPECT_EQ(ExpectedText("OrificeDiaRefTemp", us), "Usual: 32 to 122 \xC2\xBA"
+                                                     "F");
+    EXPECT_EQ(ExpectedText("InternalPipeDia", us), "By the standard: 1.687 to 60 in");
+    EXPECT_EQ(ExpectedText("OrificeDia", us), "By the standard: above 0.45 in, and 0.1 to 0.75 of the pipe");
+    const auto metric = StationIn(config::units::Metric, config::algorithm::SYT6143);
+    EXPECT_EQ(ExpectedText("InternalPipeDia", metric), "By the standard: 50 to 1000 mm");
+    EXPECT_EQ(ExpectedText("CalibrationFactor", metric), "Usual: 0.9 to 1.1");
+}
+
+TEST(ExpectedText, knows_the_components_by_the_standard_of_the_source) {
+    const auto aga8 = StationIn(config::units::US);
+    const auto iso = StationIn(config::units::US, config::algorithm::AGA3, config::source::ISO12213_2);
+    EXPECT_EQ(ExpectedText("GC_C1", aga8), "Mole fraction. By the standard: 0.45 to 1");
+    EXPECT_NE(ExpectedText("GC_C1", aga8), ExpectedText("GC_C1", iso));
+    EXPECT_EQ(ExpectedText("RelativeDensity", aga8), "By the standard: 0.55 to 0.8");
+    EXPECT_EQ(ExpectedText("AccelabarK", aga8), "Above 0");
+    EXPECT_EQ(ExpectedText("UserID", aga8), "");
+}
+
+// The tip and the judgement are of one table: what lies within is not found, what lies beyond is.
+TEST(ExpectedText, is_what_the_values_are_judged_by) {
+    const auto station = StationIn(config::units::Metric);
+    for (const auto& [text, found] : {std::pair{"50", false}, {"51", true}, {"0", false}}) {
+        config::RunMechanical mechanical;
+        mechanical.OrificeDiaRefTemp = text;
+        Findings findings;
+        Sink sink(findings);
+        CheckMechanicalValues(station, mechanical, sink);
+        EXPECT_EQ(!findings.empty(), found) << text;
+    }
+    EXPECT_EQ(ExpectedText("OrificeDiaRefTemp", station).substr(0, 14), "Usual: 0 to 50");
+}
+
+} // namespace
+} // namespace gfc::audit
