@@ -13,7 +13,7 @@ windows_preset() {
 }
 
 # Of the form "core": the layers whose tests are about Windows more than about forms.
-windows_layers=(services platform naming config project binding suggest audit record)
+windows_layers=(services platform naming config project binding suggest audit record drafts plan)
 
 windows_parts() {
     echo libraries
