@@ -41,7 +41,7 @@ constexpr std::array<Row, 19> Rows = {{
     {"check",     "check of a full file, five runs with chromatograph, against 100,000 tags",
                   "one pass over the records", 2},
     {"audit",     "look over 10 stations of 2,000 tags and five runs each",
-                  "asking the stand-in's library for the tags, and reading the files", 1.3},
+                  "asking the stand-in's library for the tags, and reading the files", 1.3, Floor, 100},
     {"audit_at_hand", "the same, from a library that has its records at hand",
                   "copying the records, and reading the files", 0},
     {"import",    "preview of a foreign table of 6,000 rows", "its rows read alone", 3, Floor, 100},

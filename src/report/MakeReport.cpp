@@ -1,6 +1,7 @@
 #include "report/MakeReport.h"
 
 #include "audit/Check.h"
+#include "audit/Comparison.h"
 #include "audit/OneFile.h"
 #include "audit/StationPages.h"
 #include "record/Sha256.h"
@@ -22,6 +23,12 @@ SummaryTable FindingsTable(const audit::StationReport& checked) {
     if (table.Rows.empty())
         table.Line = "Nothing was found.";
     return table;
+}
+
+// "Orifice Plate Internal Dia. (OrificeDia)"
+std::string NameOf(const std::string& key) {
+    const std::string caption = audit::CaptionOf(key);
+    return caption == key ? key : caption + " (" + key + ")";
 }
 
 // What the record says of one station.
@@ -60,7 +67,7 @@ private:
             table.Rows.push_back(head);
         for (const config::KeyChange& change : changes) {
             auto row = head;
-            row.push_back("[" + change.Section + "] " + change.Key);
+            row.push_back("[" + change.Section + "] " + NameOf(change.Key));
             row.push_back(change.Old.value_or("(none)"));
             row.push_back(change.New.value_or("(none)"));
             table.Rows.push_back(std::move(row));

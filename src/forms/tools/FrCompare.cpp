@@ -100,6 +100,7 @@ void FrCompare::Clear(Mode mode) {
     rows_.clear();
     seen_.clear();
     trouble_.clear();
+    unread_.clear();
     how_.clear();
     MakeColumns();
 }
@@ -140,7 +141,12 @@ void FrCompare::CompareSince(const std::string& station) {
     const auto entries = program_.Recorder.Entries(record_, station);
     if (entries.empty())
         return;
-    const auto now = program_.Machine.Files.Read(session_.Project.ConfigFileOf(station));
+    const std::string path = session_.Project.ConfigFileOf(station);
+    const auto now = program_.Machine.Files.Read(path);
+    if (!now && program_.Machine.Files.Exists(path)) {
+        unread_ += (unread_.empty() ? "" : ", ") + station;
+        return;
+    }
     const config::RecordEntry* then = config::EntryAt(entries, since_);
     const auto before =
         then == nullptr ? config::FileState() : program_.Recorder.Generation(record_, then->Number);
@@ -218,7 +224,8 @@ void FrCompare::ShowState() {
     if (text.empty() && mode_ == Mode::SinceADay)
         text = how_ + ": " + std::to_string(next_) + " of " +
                Counted(stations_.size(), "station", "stations") + "; " + Counted(differ, "value", "values") +
-               " changed since " + services::ReadableTime(since_);
+               " changed since " + services::ReadableTime(since_) +
+               (unread_.empty() ? "" : "; cannot be read: " + unread_);
     else if (text.empty())
         text = differ == 0 ? "Both are equal: " + Counted(rows_.size(), "value", "values")
                            : std::to_string(differ) + " of " + Counted(rows_.size(), "value", "values") +

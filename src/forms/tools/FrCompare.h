@@ -95,6 +95,7 @@ private:
     std::vector<std::size_t> shown_;          // which of them stand in the list
     std::map<std::string, std::string> seen_; // the bytes of the left side, by station
     std::string trouble_;                     // why there is nothing to compare
+    std::string unread_;                      // stations whose files are there and cannot be read
     std::vector<std::string> stations_;
     std::size_t next_ = 0; // of them, to be compared since a day
     std::string since_;

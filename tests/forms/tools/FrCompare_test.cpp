@@ -180,6 +180,25 @@ TEST_F(CompareWindow, tells_what_changed_in_the_whole_project_since_a_day) {
     PlayToTheEnd();
 }
 
+TEST_F(CompareWindow, takes_no_file_that_it_cannot_read_for_an_empty_one) {
+    TheStory.Do("lock it", [&](Driver&) { Files.Unreadable.insert(North); })
+        .Menu(Main, "compare")
+        .Click(window, "Command2")
+        .Tick(window, "Timer1")
+        .Tick(window, "Timer1")
+        .Check([&](Driver& d) {
+            EXPECT_EQ(Form().ListView1.Count(), 1);
+            EXPECT_EQ(Form().ListView1.Cell(1, 1), "South");
+            EXPECT_THAT(d.Text(window, "Label4"), HasSubstr("; cannot be read: North"));
+        })
+        .Do("let go of it", [&](Driver&) { Files.Unreadable.clear(); })
+        .Click(window, "Command2")
+        .Tick(window, "Timer1")
+        .Tick(window, "Timer1")
+        .Check([&](Driver& d) { EXPECT_THAT(d.Text(window, "Label4"), Not(HasSubstr("cannot be read"))); });
+    PlayToTheEnd();
+}
+
 TEST_F(CompareWindow, gives_out_what_it_lists) {
     Open()
         .Click(window, "Command8")
