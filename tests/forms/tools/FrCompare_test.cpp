@@ -187,8 +187,9 @@ TEST_F(CompareWindow, takes_no_file_that_it_cannot_read_for_an_empty_one) {
         .Tick(window, "Timer1")
         .Tick(window, "Timer1")
         .Check([&](Driver& d) {
-            EXPECT_EQ(Form().ListView1.Count(), 1);
+            EXPECT_EQ(Form().ListView1.Count(), 2);
             EXPECT_EQ(Form().ListView1.Cell(1, 1), "South");
+            EXPECT_EQ(Form().ListView1.Cell(2, 1), "South");
             EXPECT_THAT(d.Text(window, "Label4"), HasSubstr("; cannot be read: North"));
         })
         .Do("let go of it", [&](Driver&) { Files.Unreadable.clear(); })
