@@ -2,6 +2,7 @@
 
 #include "audit/Subject.h"
 #include "binding/Catalogue.h"
+#include "binding/ExpectedTags.h"
 
 #include <string>
 #include <string_view>
@@ -33,9 +34,17 @@ void About(const Bound& bound, Sink& sink);
 // A finding about the variable.
 Finding& Add(Sink& sink, RuleId rule, const Bound& bound, std::initializer_list<std::string_view> words);
 
+// What the check of a file asks a station's tags for, of the runs that are on and of those that are off.
+struct ExpectedOfFile {
+    explicit ExpectedOfFile(const Subject& subject);
+    binding::ExpectedTags On;
+    binding::ExpectedTags Off;
+};
+
 // The rules about bindings; all are those of the subject. The first looks at the station's tags, the others
 // at the file alone.
-void CheckTags(const Subject& subject, const std::vector<Bound>& all, project::TagList tags, Sink& sink);
+void CheckTags(const Subject& subject, const std::vector<Bound>& all, ExpectedOfFile expected,
+               project::TagList tags, Sink& sink);
 void CheckDirections(const std::vector<Bound>& all, Sink& sink);
 void CheckSharedTags(std::vector<Bound> all, Sink& sink);
 void CheckTagNames(const std::vector<Bound>& all, const config::StationConfig& station, Sink& sink);

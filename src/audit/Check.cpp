@@ -52,7 +52,7 @@ public:
         report_.TagsMark = tags ? project::MarkOf(*tags) : 0;
         if (subject_ && tags) {
             Sink sink(report_.Findings);
-            CheckTags(*subject_, bindings_, *std::move(tags), sink);
+            CheckTags(*subject_, bindings_, *std::move(expected_), *std::move(tags), sink);
         }
         std::ranges::move(ofBindings_, std::back_inserter(report_.Findings));
         SortBySeverity(report_.Findings);
@@ -63,6 +63,7 @@ private:
     void CheckBytes(const Whose& whose, std::string bytes) {
         subject_ = std::make_unique<Subject>(whose, std::move(bytes));
         bindings_ = BindingsOf(*subject_);
+        expected_.emplace(*subject_);
         CheckContent();
         CheckBindings();
     }
@@ -84,6 +85,7 @@ private:
     StationReport report_;
     std::unique_ptr<Subject> subject_; // null for a file that cannot be read
     std::vector<Bound> bindings_;
+    std::optional<ExpectedOfFile> expected_;
     Findings ofBindings_; // they stand behind those of the tags
 };
 

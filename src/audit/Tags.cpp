@@ -58,16 +58,10 @@ void TellAll(const ExpectedTags& expected, bool areOn, Sink& sink) {
         }
 }
 
-// What the check of a file says, of the runs that are on and of those that are off.
-void CheckExpected(const Subject& subject, const project::TagInventory& inventory, Sink& sink) {
-    for (const bool areOn : {true, false}) {
-        ExpectedTags expected;
-        config::StationConfig station;
-        const auto build = areOn ? binding::BuildExpectedTags : binding::BuildExpectedTagsOfRunsOff;
-        build(subject.Ini(), subject.Of().File, station, expected);
-        if (!binding::CheckExpectedTags(expected, inventory))
-            TellAll(expected, areOn, sink);
-    }
+// What the check of a file says.
+void CheckExpected(ExpectedTags& expected, bool areOn, const project::TagInventory& inventory, Sink& sink) {
+    if (!binding::CheckExpectedTags(expected, inventory))
+        TellAll(expected, areOn, sink);
 }
 
 bool IsCalorific(const Bound& bound) {
@@ -158,11 +152,20 @@ void CheckModuleOf(const Bound& bound, const project::Tag& tag, const Modules& m
 
 } // namespace
 
-void CheckTags(const Subject& subject, const std::vector<Bound>& all, project::TagList tags, Sink& sink) {
+ExpectedOfFile::ExpectedOfFile(const Subject& subject) {
+    config::StationConfig station;
+    binding::BuildExpectedTags(subject.Ini(), subject.Of().File, station, On);
+    config::StationConfig again;
+    binding::BuildExpectedTagsOfRunsOff(subject.Ini(), subject.Of().File, again, Off);
+}
+
+void CheckTags(const Subject& subject, const std::vector<Bound>& all, ExpectedOfFile expected,
+               project::TagList tags, Sink& sink) {
     const TagIndex index(all, tags);
     project::TagInventory inventory;
     project::BuildInventory(std::move(tags), inventory);
-    CheckExpected(subject, inventory, sink);
+    CheckExpected(expected.On, true, inventory, sink);
+    CheckExpected(expected.Off, false, inventory, sink);
     CheckModules(subject, inventory, sink);
     for (const Bound& bound : all) {
         CheckPassedOver(bound, index, sink);
