@@ -1,6 +1,7 @@
 #include "forms/tools/BringBack.h"
 
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/Agreement.h"
 #include "forms/program/CommandRecord.h"
 #include "forms/tools/EntryText.h"
 #include "platform/Machine.h"
@@ -13,16 +14,10 @@ void Tell(Program& program, const std::string& title, const std::string& text, u
     program.Screen.Ask({.Title = title, .Text = text, .TheIcon = icon});
 }
 
-bool IsAgreed(Program& program, const config::RecordEntry& entry, bool replaces, const std::string& title) {
-    const auto answer = program.Screen.Ask(
-        {.Title = title,
-         .Text = "Bring back the configuration that this entry left?\r\n" + TextOf(entry) + "\r\n\r\n" +
-                 (replaces ? "It takes the place of the present configuration, which stays in the history."
-                           : "The station has no configuration now."),
-         .TheIcon = ui::Icon::Question,
-         .TheButtons = ui::Buttons::YesNo,
-         .AtStake = entry.Station});
-    return answer == ui::Answer::Yes && !program.Screen.Ended();
+std::string QuestionOf(const config::RecordEntry& entry, bool replaces) {
+    return "Bring back the configuration that this entry left?\r\n" + TextOf(entry) + "\r\n\r\n" +
+           (replaces ? "It takes the place of the present configuration, which stays in the history."
+                     : "The station has no configuration now.");
 }
 
 // What a person does next works on the file that stands now.
@@ -65,7 +60,7 @@ bool BringBack(Program& program, const std::string& record, const config::Record
              ui::Icon::Information);
         return false;
     }
-    if (!IsAgreed(program, entry, now.has_value(), title))
+    if (!IsAgreed(program, title, QuestionOf(entry, now.has_value()), entry.Station))
         return false;
     bool stored = false;
     RunRecorded(program, config::command::BringBack, [&] {

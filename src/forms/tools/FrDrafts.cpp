@@ -1,5 +1,6 @@
 #include "forms/tools/FrDrafts.h"
 
+#include "forms/program/Agreement.h"
 #include "forms/tools/ToolStations.h"
 #include "forms/wizard/GoOnWithDraft.h"
 #include "forms/wizard/PassDraft.h"
@@ -132,13 +133,7 @@ void FrDrafts::Delete() {
     const std::string from = kept.TheDraft ? "\r\nBegun " + services::ReadableTime(kept.TheDraft->Begun) +
                                                  " UTC. " + kept.TheDraft->StandsAt
                                            : std::string();
-    const auto answer =
-        program_.Screen.Ask({.Title = title,
-                             .Text = "Delete this draft? What was entered is lost then." + from,
-                             .TheIcon = ui::Icon::Question,
-                             .TheButtons = ui::Buttons::YesNo,
-                             .AtStake = kept.Station});
-    if (answer != ui::Answer::Yes || program_.Screen.Ended())
+    if (!IsAgreed(program_, title, "Delete this draft? What was entered is lost then." + from, kept.Station))
         return;
     if (!store_.Remove(kept))
         Tell("The draft was not deleted. " + store_.Reason(), ui::Icon::Exclamation);

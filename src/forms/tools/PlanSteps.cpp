@@ -1,5 +1,6 @@
 // What the window for several stations does between two events of a person: looking tags up, and writing.
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/Agreement.h"
 #include "forms/tools/FrPlanStations.h"
 #include "platform/Machine.h"
 #include "suggest/Known.h"
@@ -82,12 +83,8 @@ void FrPlanStations::PlanNext(Item& item) {
 bool FrPlanStations::MayReplace(const Item& item) {
     if (!item.Plan.ReplacesOther(*item.Source))
         return true;
-    return program_.Screen.Ask(
-               {.Title = "Copy to several stations",
-                .Text = "The station has a configuration, which will be replaced.\r\nProceed?",
-                .TheIcon = ui::Icon::Question,
-                .TheButtons = ui::Buttons::YesNo,
-                .AtStake = item.Station}) == ui::Answer::Yes;
+    return IsAgreed(program_, "Copy to several stations",
+                    "The station has a configuration, which will be replaced.\r\nProceed?", item.Station);
 }
 
 void FrPlanStations::Write(bool incompleteToo) {

@@ -3,6 +3,7 @@
 #include "audit/Check.h"
 #include "audit/OneFile.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/Agreement.h"
 #include "forms/program/CommandRecord.h"
 #include "forms/tools/ToolForm.h"
 #include "platform/Machine.h"
@@ -76,16 +77,6 @@ std::string Question(const std::string& station, const std::vector<TakenValue>& 
                              : "The check then finds what it does not find now:\r\n" + Lines(findings));
 }
 
-bool IsAgreed(Program& program, const std::string& station, const std::string& question,
-              const std::string& title) {
-    return program.Screen.Ask({.Title = title,
-                               .Text = question,
-                               .TheIcon = ui::Icon::Question,
-                               .TheButtons = ui::Buttons::YesNo,
-                               .AtStake = station}) == ui::Answer::Yes &&
-           !program.Screen.Ended();
-}
-
 // Another program may have written it since it was compared, or while the question stood.
 bool IsAsSeen(Program& program, const std::string& file, const std::string& seen, const std::string& title) {
     if (program.Machine.Files.Read(file) == seen)
@@ -110,7 +101,7 @@ bool TakeOver(Program& program, const std::string& station, const std::string& s
     const std::string file = program.Session.Project.ConfigFileOf(station);
     const std::string then = With(seen, values);
     const auto findings = NewFindings(program, station, seen, then);
-    if (program.Screen.Ended() || !IsAgreed(program, station, Question(station, values, findings), title))
+    if (program.Screen.Ended() || !IsAgreed(program, title, Question(station, values, findings), station))
         return false;
     if (!IsAsSeen(program, file, seen, title))
         return true;

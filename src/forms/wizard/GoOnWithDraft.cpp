@@ -3,6 +3,7 @@
 #include "config/Vocabulary.h"
 #include "drafts/GoOn.h"
 #include "forms/main_window/GFCPrincipal.h"
+#include "forms/program/Agreement.h"
 #include "forms/program/CommandRecord.h"
 #include "forms/station/CapacityGates.h"
 #include "forms/station/StationCommands.h"
@@ -19,13 +20,8 @@ namespace {
 constexpr const char* title = "Drafts";
 constexpr std::size_t namesInABox = 10;
 
-bool IsAgreed(Program& program, const std::string& text) {
-    const auto answer = program.Screen.Ask({.Title = title,
-                                            .Text = text,
-                                            .TheIcon = ui::Icon::Question,
-                                            .TheButtons = ui::Buttons::YesNo,
-                                            .AtStake = program.Session.Station.CurrentStation});
-    return answer == ui::Answer::Yes && !program.Screen.Ended();
+bool MayGoOn(Program& program, const std::string& text) {
+    return IsAgreed(program, title, text + "\r\n\r\nGo on?", program.Session.Station.CurrentStation);
 }
 
 // The wizard has asked this of the person who began.
@@ -33,11 +29,11 @@ bool MayReplaceFile(Program& program, const drafts::Draft& draft, const std::str
     const std::string mark = FileMarkOf(program, station);
     if (mark.empty())
         return true;
-    return IsAgreed(program, std::string(mark == draft.FileMark
-                                             ? "The station has a configuration."
-                                             : "The station has got another configuration since the draft "
-                                               "was begun.") +
-                                 "\r\nIt will be deleted when the pass is finished.\r\n\r\nGo on?");
+    return MayGoOn(program, std::string(mark == draft.FileMark
+                                            ? "The station has a configuration."
+                                            : "The station has got another configuration since the draft "
+                                              "was begun.") +
+                                "\r\nIt will be deleted when the pass is finished.");
 }
 
 bool IsCandidate(const std::vector<project::Candidate>& candidates, const std::string& module) {
@@ -62,8 +58,7 @@ bool MayLackTags(Program& program, const std::vector<std::string>& gone) {
         text += gone[i] + "\r\n";
     if (gone.size() > namesInABox)
         text += "and " + std::to_string(gone.size() - namesInABox) + " more\r\n";
-    return IsAgreed(program,
-                    text + "\r\nThe dialogs that they were bound in will be shown again.\r\n\r\nGo on?");
+    return MayGoOn(program, text + "\r\nThe dialogs that they were bound in will be shown again.");
 }
 
 // By the gates that the choices went through on the wizard's pages.
