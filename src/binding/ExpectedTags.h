@@ -1,5 +1,6 @@
 #pragma once
 
+#include "binding/Catalogue.h"
 #include "config/FileIni.h"
 #include "config/VarINIFile.h"
 #include "project/TagInventory.h"
@@ -40,6 +41,9 @@ struct ExpectedTags {
     ExpectedTag WorkingAnalog;
     ExpectedTag WorkingLong;
 };
+
+// The one of a class.
+[[nodiscard]] std::vector<ExpectedTag>& ListOf(TagClass tagClass, ExpectedTags& expected);
 
 // Reads the file, which need not have been loaded, and lists every binding that its options call for; a key
 // that it lacks gives an empty text. FlowAlgorithm, GasDensitySource and AGA8CalInput of the station become

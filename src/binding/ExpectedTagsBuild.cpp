@@ -46,20 +46,6 @@ private:
     RunTexts run_;
 };
 
-std::vector<ExpectedTag>& ListOf(TagClass tagClass, ExpectedTags& expected) {
-    switch (tagClass) {
-    case TagClass::Float:
-        return expected.ExpectedFloat;
-    case TagClass::Long:
-        return expected.ExpectedLong;
-    case TagClass::Analog:
-        return expected.ExpectedAnalog;
-    case TagClass::Digital:
-        break;
-    }
-    return expected.ExpectedDigital;
-}
-
 void Add(const VariableRow& row, const std::string& section, config::TagBinding binding,
          ExpectedTags& expected) {
     ExpectedTag entry;
@@ -145,6 +131,20 @@ void Clear(ExpectedTags& expected) {
 }
 
 } // namespace
+
+std::vector<ExpectedTag>& ListOf(TagClass tagClass, ExpectedTags& expected) {
+    switch (tagClass) {
+    case TagClass::Float:
+        return expected.ExpectedFloat;
+    case TagClass::Long:
+        return expected.ExpectedLong;
+    case TagClass::Analog:
+        return expected.ExpectedAnalog;
+    case TagClass::Digital:
+        break;
+    }
+    return expected.ExpectedDigital;
+}
 
 void BuildExpectedTags(const config::FileIni& ini, const std::string& file, config::StationConfig& station,
                        ExpectedTags& expected) {

@@ -15,22 +15,8 @@ using binding::ExpectedTag;
 using binding::ExpectedTags;
 using binding::TagClass;
 
-std::vector<ExpectedTag>& ListFor(TagClass tagClass, ExpectedTags& expected) {
-    switch (tagClass) {
-    case TagClass::Float:
-        return expected.ExpectedFloat;
-    case TagClass::Long:
-        return expected.ExpectedLong;
-    case TagClass::Analog:
-        return expected.ExpectedAnalog;
-    case TagClass::Digital:
-        break;
-    }
-    return expected.ExpectedDigital;
-}
-
 void Expect(ExpectedTags& expected, TagClass tagClass, const config::TagBinding& bound) {
-    auto& entry = ListFor(tagClass, expected).emplace_back();
+    auto& entry = binding::ListOf(tagClass, expected).emplace_back();
     entry.RegAddr = bound.RegAddr;
     entry.Tag = bound.Tag;
     entry.Type = bound.Type;
