@@ -1,6 +1,5 @@
 #include "audit/Figures.h"
 #include "audit/Plausible.h"
-#include "audit/PlausibleBases.h"
 #include "audit/Ranges.h"
 #include "audit/ValueTable.h"
 #include "config/Vocabulary.h"

@@ -32,7 +32,6 @@ constexpr std::array<OrificeRules, 2> RulesOfStandards = {{
 }};
 // clang-format on
 
-constexpr double LeastBeta = 0.1, MostBeta = 0.75;
 constexpr double LargestInMetres = 2; // m: no pipe is wider, and none is as narrow as that in mm
 
 // Bore and pipe of a run, as far as they are numbers.

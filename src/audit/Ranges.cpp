@@ -3,7 +3,7 @@
 #include "audit/Figures.h"
 #include "audit/GasTables.h"
 #include "audit/Gross.h"
-#include "audit/PlausibleBases.h"
+#include "audit/Plausible.h"
 #include "audit/ValueTable.h"
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
@@ -78,8 +78,8 @@ std::string DiameterText(std::string_view key, const StationConfig& station) {
         return "By the standard: " + WithUnit(Between(figure(limits->LeastPipe), figure(limits->MostPipe)),
                                               Quantity::Length, station);
     return (limits->BoreIsPast ? "By the standard: above " : "By the standard: at least ") +
-           WithUnit(Figure(figure(limits->Bore)), Quantity::Length, station) +
-           ", and 0.1 to 0.75 of the pipe";
+           WithUnit(Figure(figure(limits->Bore)), Quantity::Length, station) + ", and " +
+           Between(LeastBeta, MostBeta) + " of the pipe";
 }
 
 // Some are bounded together with others only.

@@ -29,6 +29,9 @@ struct OrificeLimits {
     double MostPipe;
 };
 
+// Of the bore's diameter to the pipe's, by either standard.
+inline constexpr double LeastBeta = 0.1, MostBeta = 0.75;
+
 // Null for an algorithm without a plate.
 [[nodiscard]] const OrificeLimits* OrificeLimitsOf(std::string_view algorithm);
 
