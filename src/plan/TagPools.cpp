@@ -50,6 +50,7 @@ const project::Tag* TagPools::Named(binding::TagClass tagClass, const std::strin
     const auto tags = AllNamed(pool, text);
     if (tags.size() == 1)
         return tags.front();
+    // The last of them in the list stands for all.
     if (tags.size() > 1)
         reason = std::to_string(tags.size()) + " tags bear the name; say which, as " +
                  Line::TextOf(suggest::BindingTo(*std::ranges::max(tags, std::less<>()))) + ".";

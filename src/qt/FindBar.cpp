@@ -52,18 +52,6 @@ void OpenBranchOf(ui::Tree& tree, int node) {
 
 } // namespace
 
-int FindRow(const ui::ListView& list, const QString& text, int from, bool upwards) {
-    return text.isEmpty() ? 0 : FindPlace(list.Count(), from, upwards, [&](int row) {
-        return list.PlaceOfRow(row) > 0 && RowHolds(list, row, text);
-    });
-}
-
-int FindNode(const ui::Tree& tree, const QString& text, int from, bool upwards) {
-    return text.isEmpty() ? 0 : FindPlace(tree.Count(), from, upwards, [&](int node) {
-        return NodeHolds(tree, node, text);
-    });
-}
-
 FindBar::FindBar(FormWindow& window)
     : QWidget(&window), window_(window), where_(new QLabel(this)), text_(new QLineEdit(this)),
       result_(new QLabel(this)) {

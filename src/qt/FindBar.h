@@ -19,17 +19,9 @@ namespace gfc::qt {
 
 class FormWindow;
 
-// The first row from that one on, counted from 1, that holds the text in a column other than that of its own
-// number; upper and lower case are the same. Goes through all rows once, downwards or upwards, past the end
-// and on at the other one. 0 if there is none, or if the text is empty.
-[[nodiscard]] int FindRow(const ui::ListView& list, const QString& text, int from, bool upwards);
-
-// The same for the nodes of a tree, those of closed branches included: the first whose text or note holds it.
-[[nodiscard]] int FindNode(const ui::Tree& tree, const QString& text, int from, bool upwards);
-
 // A bar at the foot of a window in which a person looks for rows of its lists, in the order in which they are
 // seen, and for nodes of its trees: Enter or F3 goes to the next one, with Shift to the one before, exactly
-// as a click on it would; Escape closes it.
+// as a click on it would; Escape closes it. The number of a row is not looked at, nor the case of letters.
 class FindBar : public QWidget {
 public:
     explicit FindBar(FormWindow& window);

@@ -6,21 +6,10 @@
 
 namespace gfc::record {
 
-BackgroundRecorder::BackgroundRecorder(config::Recorder& recorder)
-    : recorder_(recorder), worker_([this] { Work(); }) {}
-
-BackgroundRecorder::~BackgroundRecorder() {
-    {
-        const std::lock_guard lock(mutex_);
-        ending_ = true;
-    }
-    something_.notify_one();
-    worker_.join();
-}
-
 namespace {
 
 // What has piled up for a record goes in at once: each list by itself would wait for the disk some times.
+// None is empty.
 std::vector<std::vector<config::FileChange>> Together(std::vector<std::vector<config::FileChange>> handed) {
     std::vector<std::vector<config::FileChange>> lists;
     for (auto& changes : handed)
@@ -32,6 +21,18 @@ std::vector<std::vector<config::FileChange>> Together(std::vector<std::vector<co
 }
 
 } // namespace
+
+BackgroundRecorder::BackgroundRecorder(config::Recorder& recorder)
+    : recorder_(recorder), worker_([this] { Work(); }) {}
+
+BackgroundRecorder::~BackgroundRecorder() {
+    {
+        const std::lock_guard lock(mutex_);
+        ending_ = true;
+    }
+    something_.notify_one();
+    worker_.join();
+}
 
 // Takes all that waits at once, and ends only when nothing does.
 void BackgroundRecorder::Work() {

@@ -1,4 +1,3 @@
-#include "qt/FindBar.h"
 #include "qt/WindowFixture.h"
 #include "qt/support/KeyboardDriver.h"
 
@@ -72,11 +71,17 @@ TEST_F(Finding, says_in_words_that_there_is_no_such_row) {
 TEST_F(Finding, does_not_look_at_the_number_of_a_row) {
     Form->rows.ClearRows();
     Form->rows.AddRows({{"7", "first"}, {"8", "tag 7"}});
-    EXPECT_EQ(qt::FindRow(Form->rows, "7", 1, false), 2);
-    EXPECT_EQ(qt::FindRow(Form->rows, "8", 1, false), 0);
-    EXPECT_EQ(qt::FindRow(Form->rows, "", 1, false), 0);
+    Find("7");
+    EXPECT_EQ(Result(), "Enter goes to row 2");
+    Find("8");
+    EXPECT_EQ(Result(), "No row holds this text");
+    KeyboardDriver::Stroke(Qt::Key_Backspace);
+    EXPECT_EQ(Result(), "") << "nothing is looked for";
     Form->rows.ClearRows();
-    EXPECT_EQ(qt::FindRow(Form->rows, "7", 1, false), 0);
+    Find("7");
+    EXPECT_EQ(Result(), "No row holds this text");
+    KeyboardDriver::Stroke(Qt::Key_Return);
+    EXPECT_THAT(Form->Log, IsEmpty());
 }
 
 TEST_F(Finding, ends_with_escape_in_the_list) {

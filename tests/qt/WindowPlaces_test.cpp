@@ -10,26 +10,34 @@
 #include <QFile>
 #include <QTableView>
 
+#include <functional>
 #include <optional>
 
 namespace gfc::test {
 namespace {
 
-// One start of the program: the window as it shows, and as a person makes it.
-QSize SizeOfProbe(const QString& file, std::optional<QSize> made = std::nullopt) {
+// One start of the program, with what a person does in the window of the probe.
+void StartOfProbe(const QString& file, const std::function<void(QWidget& window)>& act) {
     const qt::WindowPlaces places(file);
     qt::QtScreen screen;
     screen.AddDesign({"Probe", SetUpProbe});
     auto form = std::make_shared<ProbeForm>(screen);
     form->Show();
     Settle();
-    QWidget& window = *screen.WindowOf(*form);
-    const QSize shown = window.size();
-    if (made)
-        window.resize(*made);
+    act(*screen.WindowOf(*form));
     Settle();
     form->Unload();
     Settle();
+}
+
+// The window as it shows, and as a person makes it.
+QSize SizeOfProbe(const QString& file, std::optional<QSize> made = std::nullopt) {
+    QSize shown;
+    StartOfProbe(file, [&](QWidget& window) {
+        shown = window.size();
+        if (made)
+            window.resize(*made);
+    });
     return shown;
 }
 
@@ -85,20 +93,15 @@ TEST(WindowPlaces, choose_the_last_node_at_the_next_start_as_a_click_does) {
 
 // The table of the probe with a column that a person has widened; gives the width at the beginning.
 int WidthOfFirstColumn(const QString& file, std::optional<int> made) {
-    const qt::WindowPlaces places(file);
-    qt::QtScreen screen;
-    screen.AddDesign({"Probe", SetUpProbe});
-    auto form = std::make_shared<ProbeForm>(screen);
-    form->Show();
-    Settle();
-    auto& table = *screen.WindowOf(*form)->findChild<QTableView*>("rows");
-    const int width = table.columnWidth(0);
-    if (made) {
-        const QString heading = table.model()->headerData(0, Qt::Horizontal).toString();
-        table.setProperty(qt::WidthsOfPerson, QVariantMap{{heading, *made}});
-    }
-    form->Unload();
-    Settle();
+    int width = 0;
+    StartOfProbe(file, [&](QWidget& window) {
+        auto& table = *window.findChild<QTableView*>("rows");
+        width = table.columnWidth(0);
+        if (made) {
+            const QString heading = table.model()->headerData(0, Qt::Horizontal).toString();
+            table.setProperty(qt::WidthsOfPerson, QVariantMap{{heading, *made}});
+        }
+    });
     return width;
 }
 

@@ -104,7 +104,10 @@ private:
         const bool onBox = checkable_ != nullptr && at.column() == 0 && left;
         const bool twice = event.type() == QEvent::MouseButtonDblClick && left;
         // What draws the box would keep a press on it to itself, and the view would not know of it.
-        onBox&& row > 0 ? Click(row) : ViewRenderer::TakePress(event);
+        if (onBox && row > 0)
+            Click(row);
+        else
+            ViewRenderer::TakePress(event);
         if (event.button() == Qt::RightButton)
             return AskForMenu();
         if (row == 0 || window_.Form() == nullptr || Selected() != row)
