@@ -2,9 +2,10 @@
 
 #include "config/Vocabulary.h"
 
+#include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 
 namespace gfc::audit {
 
@@ -46,12 +47,18 @@ double Celsius(double temperature, const Scale& scale) {
 }
 
 std::string Figure(double value) {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.6g", value);
-    std::string figure(text.data());
-    // The C library writes the point of the machine's language.
-    if (const auto comma = figure.find(','); comma != std::string::npos)
-        figure[comma] = '.';
+    constexpr int digits = 6;
+    constexpr int mostDecimals = 20;
+    const int leading = value == 0 ? 0 : static_cast<int>(std::floor(std::log10(std::abs(value))));
+    const int decimals = std::clamp(digits - 1 - leading, 0, mostDecimals);
+    std::array<char, 400> text{}; // room for any double
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+    std::string figure(text.data(), end.ptr);
+    if (figure.find('.') != std::string::npos)
+        figure.erase(figure.find_last_not_of('0') + 1);
+    if (figure.ends_with('.'))
+        figure.pop_back();
     return figure;
 }
 

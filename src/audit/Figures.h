@@ -24,7 +24,8 @@ struct Scale {
 [[nodiscard]] const Scale& ScaleOf(std::string_view systemUnits);
 [[nodiscard]] double Celsius(double temperature, const Scale& scale);
 
-// Six digits at most, without zeros at the end, and a point whatever the machine's language.
+// Of at least six digits that say something, without zeros at the end and without a power of ten: the fields
+// take none. The point is one whatever the machine's language.
 [[nodiscard]] std::string Figure(double value);
 // "2.9 in"
 [[nodiscard]] std::string WithUnit(std::string_view value, config::Quantity quantity,

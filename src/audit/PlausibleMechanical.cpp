@@ -148,26 +148,14 @@ void CheckPlate(const StationConfig& station, const OrificeRules& rules, const R
         CheckExpansion(station, "PipeThermalExpCoeff", mechanical.PipeThermalExpCoeff, sink);
 }
 
-struct AccelabarColumn {
-    std::string_view Key;
-    std::string RunMechanical::*Text;
-    const char* config::AccelabarSize::*Constant;
-};
-
-constexpr std::array<AccelabarColumn, 3> Columns = {{
-    {"AccelabarY", &RunMechanical::AccelabarY, &config::AccelabarSize::Y},
-    {"AccelabarK", &RunMechanical::AccelabarK, &config::AccelabarSize::K},
-    {"AccelabarThroatDia", &RunMechanical::AccelabarThroatDia, &config::AccelabarSize::ThroatDia},
-}};
-
 // The same number in another form is the same.
 void CheckAccelabar(const RunMechanical& mechanical, Sink& sink) {
     const auto size =
         std::ranges::find(config::AccelabarSizes, mechanical.AccelabarSize, &config::AccelabarSize::Size);
     if (size == config::AccelabarSizes.end())
         return;
-    for (const AccelabarColumn& column : Columns) {
-        const std::string& text = mechanical.*column.Text;
+    for (const config::AccelabarCoefficient& column : config::AccelabarCoefficients) {
+        const std::string& text = mechanical.*column.Value;
         const std::string_view constant = (*size).*column.Constant;
         if (NumberOf(text) && NumberOf(text) != NumberOf(constant))
             sink.Add(RuleId::AccelabarRow, {column.Key, text}, {column.Key, size->Size, text, constant});

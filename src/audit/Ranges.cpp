@@ -5,6 +5,7 @@
 #include "audit/Gross.h"
 #include "audit/Plausible.h"
 #include "audit/ValueTable.h"
+#include "config/AccelabarSizes.h"
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 
@@ -104,6 +105,20 @@ std::string HardText(std::string_view key) {
     return row->IsPositive ? "Above 0" : std::string();
 }
 
+// A meter of another size has its own; those of the table say of which order they are.
+std::string AccelabarText(std::string_view key) {
+    const auto its =
+        std::ranges::find(config::AccelabarCoefficients, key, &config::AccelabarCoefficient::Key);
+    if (its == config::AccelabarCoefficients.end())
+        return {};
+    const auto constant = [its](const config::AccelabarSize& size) {
+        return NumberOf(size.*its->Constant).value_or(0);
+    };
+    const auto [least, most] = std::ranges::minmax(config::AccelabarSizes, {}, constant);
+    return HardText(key) + ". Of the listed sizes: " + Between(constant(least), constant(most)) +
+           (its->IsInInches ? " in" : "");
+}
+
 } // namespace
 
 const UsualRange& UsualRangeOf(std::string_view key) {
@@ -126,6 +141,8 @@ std::string ExpectedText(std::string_view key, const StationConfig& station) {
         return gross;
     if (std::string bases = UsualBasesText(key, station); !bases.empty())
         return bases;
+    if (std::string accelabar = AccelabarText(key); !accelabar.empty())
+        return accelabar;
     return HardText(key);
 }
 

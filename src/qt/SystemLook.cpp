@@ -1,8 +1,12 @@
 #include "qt/SystemLook.h"
 
+#include "qt/OutlinedStyle.h"
+
 #include <QApplication>
 #include <QSettings>
 #include <QStyleFactory>
+
+#include <memory>
 
 namespace gfc::qt {
 namespace {
@@ -27,13 +31,19 @@ void PrepareSystemLook() {
 #endif
 }
 
+// The application takes the style over.
+void TakeOwnLook() {
+    auto* plain = QStyleFactory::create(QStringLiteral("Fusion"));
+    QApplication::setStyle(std::make_unique<OutlinedStyle>(plain).release());
+}
+
 // Windows' own style as the toolkit has it is light; the toolkit's own one follows the dark setting.
 void TakeSystemLook() {
 #ifdef _WIN32
     if (!IsDark())
         return;
 #endif
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    TakeOwnLook();
 }
 
 } // namespace gfc::qt

@@ -7,4 +7,7 @@ namespace gfc::qt {
 void PrepareSystemLook();
 void TakeSystemLook();
 
+// The toolkit's own look on every machine, as the windows have it that are painted in memory.
+void TakeOwnLook();
+
 } // namespace gfc::qt

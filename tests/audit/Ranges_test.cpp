@@ -1,3 +1,4 @@
+#include "audit/Figures.h"
 #include "audit/Plausible.h"
 #include "audit/Ranges.h"
 #include "config/RunLayout.h"
@@ -17,6 +18,20 @@ config::StationConfig StationIn(std::string_view units, std::string_view algorit
     return station;
 }
 
+TEST(Figure, has_six_digits_and_no_power_of_ten) {
+    for (const auto& [value, text] : {std::pair{0.0, "0"},
+                                      {1.0, "1"},
+                                      {2.90039, "2.90039"},
+                                      {0.0374567891, "0.0374568"},
+                                      {5e-7, "0.0000005"},
+                                      {40e-6, "0.00004"},
+                                      {1e6, "1000000"},
+                                      {1234567.8, "1234568"},
+                                      {99.9999999, "100"},
+                                      {-0.5, "-0.5"}})
+        EXPECT_EQ(Figure(value), text);
+}
+
 TEST(ExpectedText, has_range_and_unit_of_the_stations_unit_system) {
     const auto us = StationIn(config::units::US);
     EXPECT_EQ(ExpectedText("OrificeDiaRefTemp", us), "Usual: 32 to 122 \xC2\xBA"
@@ -34,8 +49,16 @@ TEST(ExpectedText, knows_the_components_by_the_standard_of_the_source) {
     EXPECT_EQ(ExpectedText("GC_C1", aga8), "Mole fraction. By the standard: 0.45 to 1");
     EXPECT_NE(ExpectedText("GC_C1", aga8), ExpectedText("GC_C1", iso));
     EXPECT_EQ(ExpectedText("RelativeDensity", aga8), "By the standard: 0.55 to 0.8");
-    EXPECT_EQ(ExpectedText("AccelabarK", aga8), "Above 0");
+    EXPECT_EQ(ExpectedText("meterKFactor", aga8), "Usual: 0.001 to 1000000");
     EXPECT_EQ(ExpectedText("UserID", aga8), "");
+}
+
+// In inches whatever the station's units.
+TEST(ExpectedText, says_what_the_listed_sizes_of_an_accelabar_have) {
+    const auto metric = StationIn(config::units::Metric, config::algorithm::Accelabar);
+    EXPECT_EQ(ExpectedText("AccelabarY", metric), "Above 0. Of the listed sizes: 0.5891 to 0.7432");
+    EXPECT_EQ(ExpectedText("AccelabarK", metric), "Above 0. Of the listed sizes: 0.6566 to 0.7455");
+    EXPECT_EQ(ExpectedText("AccelabarThroatDia", metric), "Above 0. Of the listed sizes: 1.289 to 5.056 in");
 }
 
 // The tip and the judgement are of one table: what lies within is not found, what lies beyond is.

@@ -3,7 +3,6 @@
 #include "support/NamedEnd.h"
 
 #include <QApplication>
-#include <QStyleFactory>
 #include <gtest/gtest.h>
 
 int main(int argc, char* argv[]) {
@@ -14,7 +13,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     // Windows in memory look alike on every machine, those on a screen as the program's own.
     if (QApplication::platformName() == QStringLiteral("offscreen"))
-        QApplication::setStyle(QStyleFactory::create("Fusion"));
+        gfc::qt::TakeOwnLook();
     else
         gfc::qt::TakeSystemLook();
     QApplication::setQuitOnLastWindowClosed(false);

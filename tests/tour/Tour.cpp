@@ -19,7 +19,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QStyleFactory>
 #include <QTextStream>
 #include <gtest/gtest.h>
 
@@ -237,7 +236,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     // Windows in memory look alike on every machine, those on a screen as the program's own.
     if (QApplication::platformName() == QStringLiteral("offscreen"))
-        QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        qt::TakeOwnLook();
     else
         qt::TakeSystemLook();
     QApplication::setQuitOnLastWindowClosed(false);

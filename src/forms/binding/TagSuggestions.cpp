@@ -116,7 +116,11 @@ void TagSuggestions::RememberElsewhere() const {
 std::vector<BoundVariable> TagSuggestions::InEffectElsewhere() const {
     const auto& all = Elsewhere();
     const auto runs = HoldsAllRuns() ? ActiveRuns() : std::vector{RunHere()};
-    const auto isHeld = [&runs](int run) { return run == 0 || std::ranges::find(runs, run) != runs.end(); };
+    // The wizard writes the file anew, without the runs that it does not hold.
+    const bool anew = program_.Session.EditMode == EditMode::Wizard;
+    const auto isHeld = [&](int run) {
+        return anew || run == 0 || std::ranges::find(runs, run) != runs.end();
+    };
     std::vector<BoundVariable> inEffect;
     for (std::size_t i = 0; i < all.size(); ++i)
         if (i >= fromFile_ || !isHeld(all[i].Variable.Run))

@@ -13,21 +13,19 @@ namespace {
 using Form = FrAccelabar;
 using Record = config::RunMechanical;
 
-using MeterSize = config::AccelabarSize;
 constexpr auto& sizes = config::AccelabarSizes;
 
 struct Coefficient {
     ui::TextBox Form::*Field; // for "Other"
     ui::Label Form::*Label;   // for a size of the table
-    std::string Record::*Member;
-    const char* MeterSize::*Constant;
+    config::AccelabarCoefficient Its;
 };
 
 // clang-format off
 constexpr std::array<Coefficient, 3> coefficients{{
-    {&Form::Text1, &Form::lbAccelabarY, &Record::AccelabarY,         &MeterSize::Y},
-    {&Form::Text2, &Form::lbAccelabarK, &Record::AccelabarK,         &MeterSize::K},
-    {&Form::Text3, &Form::lbDiameter,   &Record::AccelabarThroatDia, &MeterSize::ThroatDia},
+    {&Form::Text1, &Form::lbAccelabarY, config::AccelabarCoefficients[0]},
+    {&Form::Text2, &Form::lbAccelabarK, config::AccelabarCoefficients[1]},
+    {&Form::Text3, &Form::lbDiameter,   config::AccelabarCoefficients[2]},
 }};
 // clang-format on
 
@@ -37,8 +35,11 @@ constexpr int helpContext = 7400;
 } // namespace
 
 FrAccelabar::FrAccelabar(Program& program) : ProgramForm(program, "FrAccelabar", "Accelabar Parameters") {
-    for (const auto& coefficient : coefficients)
+    for (const auto& coefficient : coefficients) {
         MakeNumeric(program.Screen, this->*coefficient.Field);
+        TellExpected(this->*coefficient.Field, std::string(coefficient.Its.Key),
+                     [this] { return session_.Station; });
+    }
     Combo1.OnClick = [this] { SizeChosen(); };
     Check1.OnClick = [this] { CopyEnabled(); };
     for (int run = 0; run < SourceRuns::Size(); ++run)
@@ -68,7 +69,7 @@ void FrAccelabar::ShowRecord() {
     if (Combo1.ListIndex() != other)
         return;
     for (const auto& coefficient : coefficients)
-        (this->*coefficient.Field).SetText(record.*coefficient.Member);
+        (this->*coefficient.Field).SetText(record.*coefficient.Its.Value);
 }
 
 void FrAccelabar::SizeChosen() {
@@ -81,7 +82,7 @@ void FrAccelabar::SizeChosen() {
         return;
     const auto& size = sizes.at(static_cast<std::size_t>(chosen));
     for (const auto& coefficient : coefficients)
-        (this->*coefficient.Label).SetCaption(size.*coefficient.Constant);
+        (this->*coefficient.Label).SetCaption(size.*coefficient.Its.Constant);
 }
 
 void FrAccelabar::ShowFields(bool shown) {
@@ -111,7 +112,7 @@ bool FrAccelabar::StoreOther() {
         }
     }
     for (const auto& coefficient : coefficients)
-        session_.EditedMechanical.*coefficient.Member = (this->*coefficient.Field).Text();
+        session_.EditedMechanical.*coefficient.Its.Value = (this->*coefficient.Field).Text();
     return true;
 }
 
@@ -120,7 +121,7 @@ void FrAccelabar::StoreConstants() {
     if (Combo1.ListIndex() == ui::DropDownList::None)
         return;
     for (const auto& coefficient : coefficients)
-        session_.EditedMechanical.*coefficient.Member = (this->*coefficient.Label).Caption();
+        session_.EditedMechanical.*coefficient.Its.Value = (this->*coefficient.Label).Caption();
 }
 
 void FrAccelabar::SetDefaults() {

@@ -16,8 +16,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
+
+namespace gfc::audit {
+struct StationReport;
+}
 
 namespace gfc::forms {
 
@@ -90,9 +95,9 @@ public:
     // Once the record has done what it was handed, says in the status bar if that could not be written; of
     // the same trouble once only.
     void WatchRecord();
-    // Whether the check found errors in the station's file, held against tags of that mark. The station bears
-    // a mark in the tree until the file is another one, or the tags are as far as the program learns of it.
-    void MarkChecked(const std::string& station, bool hasErrors, std::size_t tagsMark);
+    // What a check found in the station's file. It counts as open, and errors mark the station in the tree,
+    // until the file is another one, or the tags are as far as the program learns of it.
+    void MarkChecked(const audit::StationReport& report);
     // The library has answered for the station's tags.
     void TagsAnswered(const std::string& station, const project::TagList& tags);
     // Selects the node of the station, or of its run (1 to 5), as a click does; nothing happens where there
@@ -141,14 +146,16 @@ private:
     void AddStation(int root, const project::Station& station, std::size_t index);
     void AddStationChildren(int stationNode, const std::string& station, std::size_t index,
                             const RunFlags& flags);
-    [[nodiscard]] const char* ConfiguredImage(const std::string& station);
+    [[nodiscard]] const char* ConfiguredImage(const std::string& station) const;
+    void ForgetWhatChanged();
     void AddRunNode(int parent, const std::string& station, int run, bool enabled);
     void HidePanes();
     void ShowStations(const std::string& statusText);
     void OpenStationRow(int row);
-    void ShowMark(const std::string& station, bool hasErrors);
-    // The project, how much of it is configured, and where the last check found errors.
+    void ShowMark(const std::string& station);
+    // The project, how much of it is configured, and what checks found that is still open.
     void ShowOverview();
+    [[nodiscard]] std::string OpenFindings() const;
     void PlacePane(ui::TabbedPane& shown, ui::TabbedPane& hidden);
     void LoadRun(int run);
     void ShowCommon(const std::string& station);
@@ -157,12 +164,15 @@ private:
     SummaryTabs summary_{*this, program_};
     bool listShowsStations_ = false;
     std::string toldTrouble_; // of the record
-    // What the last check found errors in, as it was then.
-    struct Faulty {
-        std::string File; // its bytes
+    // Of a station in which a check found errors or warnings.
+    struct Checked {
+        std::string File; // its bytes at that time
         std::size_t TagsMark = 0;
+        std::size_t Errors = 0;
+        std::size_t Warnings = 0;
     };
-    std::map<std::string, Faulty> faulty_; // by station
+    std::map<std::string, Checked> open_; // by station
+    std::set<std::string> changedSince_;  // those of whose findings nobody knows any more
     int exitCode_ = 0;
 };
 

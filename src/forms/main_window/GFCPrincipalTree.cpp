@@ -1,3 +1,4 @@
+#include "audit/Check.h"
 #include "config/ConfigReader.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
@@ -13,6 +14,11 @@ namespace gfc::forms {
 namespace {
 
 constexpr const char* NoConfigImage = "StationNoConfig";
+
+// "1 station", "2 stations"
+std::string Counted(std::size_t count, const char* one) {
+    return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
+}
 
 std::string YesOrNo(bool yes) {
     return yes ? "Yes" : "No";
@@ -84,6 +90,7 @@ void GFCPrincipal::BuildTree() {
     ListView3.SetVisible(false);
     const int root =
         TreeGFC.Add(0, "Stations", std::string(node::AllStations), ImageList1.Image(1), "CarpetaOpen");
+    ForgetWhatChanged();
     const auto& stations = session_.Project.Stations;
     for (std::size_t i = 0; i < stations.size(); ++i)
         AddStation(root, stations[i], i);
@@ -96,11 +103,24 @@ void GFCPrincipal::ShowOverview() {
     const auto& nodes = TreeGFC.At(1).Children;
     const auto configured = std::ranges::count_if(
         nodes, [this](int station) { return TreeGFC.At(station).Image != NoConfigImage; });
-    std::string text = session_.Project.ProjectName + ": " + std::to_string(configured) + " of " +
-                       std::to_string(nodes.size()) + " stations configured";
-    if (!faulty_.empty())
-        text += ", " + std::to_string(faulty_.size()) + " with errors at the last check";
-    StatusBar1.SetPanelText(2, text);
+    StatusBar1.SetPanelText(2, session_.Project.ProjectName + ": " + std::to_string(configured) + " of " +
+                                   Counted(nodes.size(), "station") + " configured" + OpenFindings());
+}
+
+std::string GFCPrincipal::OpenFindings() const {
+    std::size_t errors = 0;
+    std::size_t warnings = 0;
+    for (const auto& [station, checked] : open_) {
+        errors += checked.Errors;
+        warnings += checked.Warnings;
+    }
+    std::string text;
+    if (!open_.empty())
+        text = "; open findings: " + Counted(errors, "error") + ", " + Counted(warnings, "warning") + " in " +
+               Counted(open_.size(), "station");
+    if (!changedSince_.empty())
+        text += "; changed since the check: " + Counted(changedSince_.size(), "station");
+    return text;
 }
 
 // A summary that shows in the same list has no rows that lead anywhere.
@@ -121,37 +141,54 @@ void GFCPrincipal::AddStation(int root, const project::Station& station, std::si
         AddStationChildren(added, station.Name, index, flags);
 }
 
-// A station with errors bears a mark as long as its file is the one that was checked.
-const char* GFCPrincipal::ConfiguredImage(const std::string& station) {
-    const auto checked = faulty_.find(station);
-    if (checked == faulty_.end())
-        return "StationConfig";
-    if (program_.Machine.Files.Read(session_.Project.ConfigFileOf(station)) == checked->second.File)
-        return "StationErrors";
-    faulty_.erase(checked);
-    return "StationConfig";
+const char* GFCPrincipal::ConfiguredImage(const std::string& station) const {
+    const auto checked = open_.find(station);
+    return checked != open_.end() && checked->second.Errors > 0 ? "StationErrors" : "StationConfig";
 }
 
-void GFCPrincipal::MarkChecked(const std::string& station, bool hasErrors, std::size_t tagsMark) {
-    auto bytes = program_.Machine.Files.Read(session_.Project.ConfigFileOf(station));
-    faulty_.erase(station);
-    if (hasErrors && bytes)
-        faulty_.emplace(station, Faulty{*std::move(bytes), tagsMark});
-    ShowMark(station, hasErrors);
+// A station whose file has gone has nothing open.
+void GFCPrincipal::ForgetWhatChanged() {
+    auto& files = program_.Machine.Files;
+    std::erase_if(open_, [&](const auto& entry) {
+        const auto bytes = files.Read(session_.Project.ConfigFileOf(entry.first));
+        const bool changed = bytes != entry.second.File;
+        if (changed)
+            changedSince_.insert(entry.first);
+        return changed;
+    });
+    std::erase_if(changedSince_, [&](const std::string& station) {
+        return !files.Exists(session_.Project.ConfigFileOf(station));
+    });
+}
+
+void GFCPrincipal::MarkChecked(const audit::StationReport& report) {
+    open_.erase(report.Station);
+    changedSince_.erase(report.Station);
+    Checked checked{{},
+                    report.TagsMark,
+                    audit::CountOf(report.Findings, audit::Severity::Error),
+                    audit::CountOf(report.Findings, audit::Severity::Warning)};
+    auto bytes = program_.Machine.Files.Read(session_.Project.ConfigFileOf(report.Station));
+    if (bytes && checked.Errors + checked.Warnings > 0) {
+        checked.File = *std::move(bytes);
+        open_.emplace(report.Station, std::move(checked));
+    }
+    ShowMark(report.Station);
 }
 
 void GFCPrincipal::TagsAnswered(const std::string& station, const project::TagList& tags) {
-    const auto checked = faulty_.find(station);
-    if (checked == faulty_.end() || project::MarkOf(tags) == checked->second.TagsMark)
+    const auto checked = open_.find(station);
+    if (checked == open_.end() || project::MarkOf(tags) == checked->second.TagsMark)
         return;
-    faulty_.erase(checked);
-    ShowMark(station, false);
+    open_.erase(checked);
+    changedSince_.insert(station);
+    ShowMark(station);
 }
 
-void GFCPrincipal::ShowMark(const std::string& station, bool hasErrors) {
+void GFCPrincipal::ShowMark(const std::string& station) {
     const int found = TreeGFC.FindPath(node::StationPath(station));
     if (found > 0 && TreeGFC.At(found).Image != NoConfigImage)
-        TreeGFC.SetImage(found, hasErrors ? "StationErrors" : "StationConfig");
+        TreeGFC.SetImage(found, ConfiguredImage(station));
     ShowOverview();
 }
 

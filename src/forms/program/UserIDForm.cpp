@@ -2,15 +2,35 @@
 
 #include "services/Funciones_III.h"
 
+#include <algorithm>
+
 namespace gfc::forms {
 
 namespace {
 constexpr const char* caption = "Gas Flow Computer, V1.6.1";
 constexpr char32_t enter = 13;
+constexpr char32_t firstPrintable = 32;
+constexpr const char* idsOnly = "A user ID has digits and points only.";
+
+std::string WithoutBlanksAround(const std::string& text) {
+    constexpr const char* blanks = " \t\r\n";
+    const auto begin = text.find_first_not_of(blanks);
+    return begin == std::string::npos ? std::string()
+                                      : text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
+}
 } // namespace
 
 UserIDForm::UserIDForm(Program& program) : ProgramForm(program, "UserIDForm", caption) {
     Text1.OnKeyPress = [this](char32_t key) { return KeyTaken(key); };
+    // No number, so that a comma is not taken for a point here.
+    Text1.OnRefused = [](char32_t key) {
+        return ui::TextBox::Instead{0, key < firstPrintable ? std::string() : idsOnly};
+    };
+    Text1.OnPaste = [](const std::string& text) {
+        const std::string id = WithoutBlanksAround(text);
+        const bool fits = std::ranges::all_of(id, services::KeyAllowed);
+        return fits ? ui::TextBox::Pasted{id, {}} : ui::TextBox::Pasted{{}, idsOnly};
+    };
     Command1.OnClick = [this] { Accept(); };
     Command2.OnClick = [this] { Cancel(); };
 }

@@ -71,9 +71,7 @@ void FrCheckStations::End(const std::string& how) {
     ShowProgress(how);
     if (program_.Forms.IsLoaded<GFCPrincipal>())
         for (const auto& report : reports_)
-            program_.Forms.Get<GFCPrincipal>().MarkChecked(
-                report->Station, audit::CountOf(report->Findings, audit::Severity::Error) > 0,
-                report->TagsMark);
+            program_.Forms.Get<GFCPrincipal>().MarkChecked(*report);
 }
 
 void FrCheckStations::ShowProgress(const std::string& lead) {

@@ -123,8 +123,7 @@ void FrPlanStations::WriteNext(Item& item) {
         item.Note = CountText(report);
         item.IsEdited = false;
         if (program_.Forms.IsLoaded<GFCPrincipal>())
-            program_.Forms.Get<GFCPrincipal>().MarkChecked(
-                item.Station, audit::CountOf(report.Findings, audit::Severity::Error) > 0, report.TagsMark);
+            program_.Forms.Get<GFCPrincipal>().MarkChecked(report);
     }
     ShowItem(static_cast<std::size_t>(&item - items_.data()));
     if (program_.Forms.IsLoaded<GFCPrincipal>())

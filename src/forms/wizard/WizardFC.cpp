@@ -162,6 +162,8 @@ void WizardFC::ShowClosingPage() {
     lbInfo.SetCaption(PageInfo[Closing]);
     lbStep.SetVisible(false);
     wizard.SetTab(Closing);
+    // The other button of the page throws all away.
+    Command1.SetFocus();
 }
 
 bool WizardFC::KeyDown(ui::Key key) {

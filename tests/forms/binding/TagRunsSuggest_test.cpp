@@ -298,6 +298,22 @@ TEST_F(NotesWorld, SayThatATagIsSharedWithAnotherRun) {
     Open(BindingStage::RunInputs);
 }
 
+// Which the wizard writes anew, and the other flows do not.
+TEST_F(NotesWorld, TellOfARunThatThePassLacksWhereItStaysInTheFile) {
+    Hand.WriteKey("FlowRuns", "Run3", "Yes", ConfigFile("North"));
+    Hand.WriteKey("Run3", "GasPressKDIOTag", "R1_PRES", ConfigFile("North"));
+    Hand.WriteKey("Run3", "GasPressKDIOType", "FX", ConfigFile("North"));
+    Hand.WriteKey("Run3", "GasPressKDIORegAddr", "2", ConfigFile("North"));
+    for (const auto mode : {forms::EditMode::Wizard, forms::EditMode::Configurator}) {
+        Session.EditMode = mode;
+        TheStory.ClickRow(Form, "ListViewRuns", 2);
+        Assign(1);
+        mode == forms::EditMode::Wizard ? SeeNoNotes() : SeeNotes("run 3");
+        LeaveByCancel();
+        Open(BindingStage::RunInputs);
+    }
+}
+
 TEST_F(NotesWorld, FollowTheFactorsAsTheyAreTyped) {
     TheStory.Type(Form, "Text1", "10");
     SeeNotes("10");

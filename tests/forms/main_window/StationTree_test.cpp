@@ -1,3 +1,4 @@
+#include "audit/Check.h"
 #include "forms/main_window/GFCPrincipal.h"
 #include "project/TagsMark.h"
 #include "support/World.h"
@@ -29,6 +30,16 @@ struct StationTree : testing::Test, World {
             paths.push_back(Tree().FullPath(node));
         return paths;
     }
+    // As a check reports of a station: that many errors, warnings and notes.
+    static audit::StationReport Report(const std::string& station, const std::vector<std::size_t>& counts,
+                                       std::size_t tagsMark = 0) {
+        audit::StationReport report{.Station = station, .File = {}, .Configured = true, .TagsMark = tagsMark};
+        for (std::size_t severity = 0; severity < counts.size(); ++severity)
+            for (std::size_t i = 0; i < counts[severity]; ++i)
+                report.Findings.push_back({.Severity = static_cast<audit::Severity>(severity)});
+        return report;
+    }
+    std::string Overview() { return Window().StatusBar1.PanelText(2); }
     std::string Panel() { return Window().StatusBar1.PanelText(1); }
 };
 
@@ -245,13 +256,52 @@ TEST_F(StationTree, the_status_bar_says_how_much_of_the_project_is_configured) {
     AddStation("East", {});
     AddStation("North", {});
     Configure("North", "");
+    TheStory.Check([&](Driver&) { EXPECT_EQ(Overview(), "plant: 1 of 2 stations configured"); });
+    Play();
+}
+
+TEST_F(StationTree, the_status_bar_counts_the_findings_that_are_open) {
+    for (const char* station : {"East", "North"}) {
+        AddStation(station, {});
+        Configure(station, "");
+    }
     TheStory.Check([&](Driver&) {
-        EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 2 stations configured");
-        Window().MarkChecked("North", true, 0);
-        EXPECT_EQ(Window().StatusBar1.PanelText(2),
-                  "plant: 1 of 2 stations configured, 1 with errors at the last check");
-        Window().MarkChecked("North", false, 0);
-        EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 2 stations configured");
+        const std::string configured = "plant: 2 of 2 stations configured";
+        Window().MarkChecked(Report("North", {2, 1, 5}));
+        EXPECT_EQ(Overview(), configured + "; open findings: 2 errors, 1 warning in 1 station");
+        // Notes are no work that is left, and warnings alone leave no mark in the tree.
+        Window().MarkChecked(Report("East", {0, 3, 1}));
+        EXPECT_EQ(Overview(), configured + "; open findings: 2 errors, 4 warnings in 2 stations");
+        EXPECT_EQ(At("All Stations\\North").Image, "StationErrors");
+        EXPECT_EQ(At("All Stations\\East").Image, "StationConfig");
+        Window().MarkChecked(Report("North", {0, 0, 5}));
+        Window().MarkChecked(Report("East", {}));
+        EXPECT_EQ(Overview(), configured);
+    });
+    Play();
+}
+
+// Nobody knows what is left of the findings in a file that has been changed, nor in one that is no more.
+TEST_F(StationTree, findings_are_open_as_long_as_the_file_is_the_one_that_was_checked) {
+    for (const char* station : {"East", "North", "West"}) {
+        AddStation(station, {});
+        Configure(station, "");
+    }
+    TheStory.Check([&](Driver&) {
+        for (const char* station : {"East", "North", "West"})
+            Window().MarkChecked(Report(station, {1, 0, 0}));
+        Configure("North", "[General]\r\n");
+        Files.Content.erase("/jobs/KDOrmAGA_plant_West.ini");
+        Window().RebuildAfterCommand();
+        EXPECT_EQ(Overview(), "plant: 2 of 3 stations configured; open findings: 1 error, 0 warnings in 1 "
+                              "station; changed since the check: 1 station");
+        EXPECT_EQ(At("All Stations\\North").Image, "StationConfig");
+        EXPECT_EQ(At("All Stations\\East").Image, "StationErrors");
+        Window().MarkChecked(Report("North", {0, 1, 0}));
+        EXPECT_EQ(Overview(), "plant: 2 of 3 stations configured; open findings: 1 error, 1 warning in 2 "
+                              "stations");
+        Window().RebuildAfterCommand();
+        EXPECT_EQ(At("All Stations\\East").Image, "StationErrors") << "unchanged";
     });
     Play();
 }
@@ -262,14 +312,14 @@ TEST_F(StationTree, the_mark_of_a_check_goes_as_soon_as_the_tags_are_known_to_be
     Configure("North", "");
     TheStory.Check([&](Driver&) {
         const std::string path = "All Stations\\North";
-        Window().MarkChecked("North", true, project::MarkOf(tags));
+        Window().MarkChecked(Report("North", {1}, project::MarkOf(tags)));
         Window().TagsAnswered("North", tags);
         EXPECT_EQ(At(path).Image, "StationErrors");
         auto moved = tags;
         moved.front().RegAddr = 8;
         Window().TagsAnswered("North", moved);
         EXPECT_EQ(At(path).Image, "StationConfig");
-        EXPECT_EQ(Window().StatusBar1.PanelText(2), "plant: 1 of 1 stations configured");
+        EXPECT_EQ(Overview(), "plant: 1 of 1 station configured; changed since the check: 1 station");
     });
     Play();
 }

@@ -134,6 +134,30 @@ TEST_F(StartUp, user_id_takes_digits_point_and_backspace_only) {
     EXPECT_EQ(Station.UserId, "12.3");
 }
 
+// A comma is not taken for a point: an id is no number.
+TEST_F(StartUp, user_id_says_why_a_key_or_a_paste_is_refused) {
+    TheStory.Tick("formInicio", "timerInicio")
+        .Do("type and paste what no id has",
+            [this](Driver&) {
+                ui::TextBox& field = Program.Forms.Get<forms::UserIDForm>().Text1;
+                const std::string why = "A user ID has digits and points only.";
+                for (const char32_t key : {U'a', U',', U' '}) {
+                    EXPECT_FALSE(field.PersonPresses(key));
+                    EXPECT_EQ(field.Refusal(), why);
+                    EXPECT_TRUE(field.PersonPresses(U'7'));
+                    EXPECT_EQ(field.Refusal(), "");
+                }
+                EXPECT_EQ(field.PersonPastes("47,11"), "");
+                EXPECT_EQ(field.Refusal(), why);
+                EXPECT_EQ(field.PersonPastes(" 47.11\r\n"), "47.11");
+                EXPECT_EQ(field.Refusal(), "");
+            })
+        .Keys("UserIDForm", "Text1", "\r")
+        .Box("Orm Gas Flow Computer", "Please enter your User ID", ui::Icon::Exclamation)
+        .Click("UserIDForm", "Command2");
+    Play();
+}
+
 TEST_F(StartUp, enter_in_the_field_accepts) {
     TheStory.Tick("formInicio", "timerInicio")
         .Keys("UserIDForm", "Text1", "\r")

@@ -75,6 +75,7 @@ TEST(WizardFinish, the_closing_page_is_the_only_one_left) {
         world.TheStory.SeeVisible(Form, button, false);
     world.TheStory.SeeText(Form, "lbInfo", "")
         .SeeEnabled(Form, "Command1")
+        .Check([](Driver& d) { EXPECT_EQ(d.Focused(Form), "Command1") << "Enter must not ask to quit"; })
         .SelectTab(Form, "wizard", 1)
         .Check([](Driver& d) { EXPECT_EQ(d.Tab(Form, "wizard"), 4); })
         .Click(Form, "Command2");

@@ -1,4 +1,5 @@
 #include "qt/FormWindow.h"
+#include "qt/SystemLook.h"
 #include "qt/support/AllForms.h"
 #include "qt/support/Offscreen.h"
 #include "support/World.h"
@@ -8,7 +9,6 @@
 #include <QPixmap>
 #include <QProcess>
 #include <QProcessEnvironment>
-#include <QStyleFactory>
 
 #include <algorithm>
 #include <cstdio>
@@ -70,7 +70,7 @@ int main(int argc, char* argv[]) {
     const bool twice = qEnvironmentVariable(scaleVariable) == "2";
     gfc::test::UseOffscreenPlatform(twice ? 2 : 1);
     QApplication application(argc, argv);
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    gfc::qt::TakeOwnLook();
     QStringList arguments = QApplication::arguments().mid(1);
     const bool dark = arguments.removeAll(QStringLiteral("--dark")) > 0;
     if (arguments.isEmpty()) {

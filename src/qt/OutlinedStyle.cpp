@@ -1,0 +1,55 @@
+#include "qt/OutlinedStyle.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace gfc::qt {
+
+namespace {
+
+bool IsDark(const QPalette& palette) {
+    constexpr int middle = 128;
+    return palette.color(QPalette::Window).lightness() < middle;
+}
+
+// Between the ground and the words on it; the words of what is disabled are faded already.
+QColor OutlineOn(const QPalette& palette) {
+    const QColor ground = palette.color(QPalette::Window);
+    const QColor words = palette.color(QPalette::WindowText);
+    const auto between = [](int from, int to) { return from + (to - from) * 45 / 100; };
+    return {between(ground.red(), words.red()), between(ground.green(), words.green()),
+            between(ground.blue(), words.blue())};
+}
+
+void DrawOutline(QStyle::PrimitiveElement element, const QRect& rect, QPainter& painter) {
+    constexpr qreal corner = 2;
+    const QRectF line = QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (element == QStyle::PE_IndicatorRadioButton)
+        painter.drawEllipse(line);
+    else
+        painter.drawRoundedRect(line, corner, corner);
+}
+
+bool HasOutline(QStyle::PrimitiveElement element) {
+    // The marks of lists and of menus are drawn as those of boxes.
+    return element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton ||
+           element == QStyle::PE_FrameLineEdit;
+}
+
+} // namespace
+
+void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                  const QWidget* widget) const {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    // What has the focus is outlined in the colour of the highlight already.
+    if (!HasOutline(element) || !IsDark(option->palette) || option->state.testFlag(State_HasFocus))
+        return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(OutlineOn(option->palette));
+    DrawOutline(element, option->rect, *painter);
+    painter->restore();
+}
+
+} // namespace gfc::qt
