@@ -18,6 +18,10 @@ namespace gfc::audit {
 void CheckCommonValues(const config::StationConfig& station, Sink& sink);
 // Factors, and the density at standard conditions of a densimeter.
 void CheckRunValues(const config::StationConfig& station, const config::RunIO& io, Sink& sink);
+// Both for values that are being typed, with what the table of values says of them: some fields let through
+// what is no number.
+void CheckTypedCommonValues(const config::StationConfig& station, Sink& sink);
+void CheckTypedRunValues(const config::StationConfig& station, const config::RunIO& io, Sink& sink);
 // Pipe and plate where their diameters are fixed, or the Accelabar.
 void CheckMechanicalValues(const config::StationConfig& station, const config::RunMechanical& mechanical,
                            Sink& sink);

@@ -104,6 +104,15 @@ bool UsesFixedAtmosphere(const config::StationConfig& station) {
     return readsPressure && station.PressType == config::Gage && station.ExtAtmPress == config::No;
 }
 
+bool UsesViscosity(const config::StationConfig& station) {
+    return station.FlowAlgorithm == config::algorithm::AGA3 ||
+           station.FlowAlgorithm == config::algorithm::SYT6143;
+}
+
+void CheckTyped(std::string_view key, const std::string& value, Sink& sink) {
+    CheckValue(*ValueRowOf(key), value, sink);
+}
+
 void CheckAtmosphere(const config::StationConfig& station, Sink& sink) {
     const UsualRange& range = UsualRangeOf("AtmPress");
     const auto value = NumberOf(station.AtmPress);
@@ -153,9 +162,7 @@ void CheckCommonValues(const config::StationConfig& station, Sink& sink) {
     for (const BaseRow& row : BaseRows)
         CheckBase(row, station, sink);
     CheckAtmosphere(station, sink);
-    const bool hasPlate = station.FlowAlgorithm == config::algorithm::AGA3 ||
-                          station.FlowAlgorithm == config::algorithm::SYT6143;
-    if (hasPlate)
+    if (UsesViscosity(station))
         CheckRange(RuleId::Viscosity, "FlowingViscosity", station.FlowingViscosity, sink);
     if (config::IsOrificeAlgorithm(station.FlowAlgorithm))
         CheckRange(RuleId::Isentropic, "IsentropicCoeff", station.IsentropicCoeff, sink);
@@ -167,6 +174,27 @@ void CheckRunValues(const config::StationConfig& station, const config::RunIO& i
         CheckMeterFactor(io.meterKFactor, sink);
     if (station.GasDensitySource == config::source::Measured)
         CheckStandardDensity(station, io.GasDensityStandard, sink);
+}
+
+void CheckTypedCommonValues(const config::StationConfig& station, Sink& sink) {
+    for (const BaseRow& row : BaseRows)
+        CheckTyped(row.Key, station.*row.Text, sink);
+    if (UsesFixedAtmosphere(station))
+        CheckTyped("AtmPress", station.AtmPress, sink);
+    if (UsesViscosity(station))
+        CheckTyped("FlowingViscosity", station.FlowingViscosity, sink);
+    if (config::IsOrificeAlgorithm(station.FlowAlgorithm))
+        CheckTyped("IsentropicCoeff", station.IsentropicCoeff, sink);
+    CheckCommonValues(station, sink);
+}
+
+void CheckTypedRunValues(const config::StationConfig& station, const config::RunIO& io, Sink& sink) {
+    CheckTyped("CalibrationFactor", io.CalibrationFactor, sink);
+    if (station.FlowAlgorithm == config::algorithm::AGA7)
+        CheckTyped("meterKFactor", io.meterKFactor, sink);
+    if (station.GasDensitySource == config::source::Measured)
+        CheckTyped("GasDensityStandard", io.GasDensityStandard, sink);
+    CheckRunValues(station, io, sink);
 }
 
 } // namespace gfc::audit

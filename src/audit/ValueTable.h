@@ -1,5 +1,6 @@
 #pragma once
 
+#include "audit/Finding.h"
 #include "config/VarINIFile.h"
 
 #include <limits>
@@ -36,6 +37,9 @@ struct ValueRow {
 
 // Null for a key whose text may be anything.
 [[nodiscard]] const ValueRow* ValueRowOf(std::string_view key);
+
+// What the value may not say; nothing is said of an empty one.
+void CheckValue(const ValueRow& row, const std::string& value, Sink& sink);
 
 // The number that the text is, for judging alone; nothing for what the fields would refuse, and for an empty
 // text.

@@ -53,15 +53,23 @@ void CheckNumber(const ValueRow& row, const std::string& value, Sink& sink) {
         sink.Add(RuleId::NumberZero, {row.Key, value}, {row.Key});
 }
 
+} // namespace
+
+void CheckValue(const ValueRow& row, const std::string& value, Sink& sink) {
+    if (!value.empty())
+        row.Form == Form::Word ? CheckWord(row, value, sink) : CheckNumber(row, value, sink);
+}
+
+namespace {
+
 void CheckEntries(const FileSection& section, const Choices& choices, const auto& isOwn, Sink& sink) {
     for (const auto& entry : section.Entries) {
         const ValueRow* row = ValueRowOf(entry.Key);
         if (row == nullptr || !isOwn(entry.Key))
             continue;
         const std::string value = services::FromCodePage(entry.Value);
-        if (!value.empty())
-            row->Form == Form::Word ? CheckWord(*row, value, sink) : CheckNumber(*row, value, sink);
-        else if (row->IsNeeded(choices))
+        CheckValue(*row, value, sink);
+        if (value.empty() && row->IsNeeded(choices))
             sink.Add(RuleId::ValueMissing, {row->Key}, {row->Key});
     }
 }

@@ -120,7 +120,7 @@ config::RunIO TagRuns::EnteredFactors() const {
 // tag the rules tell of the later one.
 void TagRuns::Judge(audit::Sink& sink) const {
     if (Stage() == BindingStage::RunInputs)
-        audit::CheckRunValues(session_.Station, EnteredFactors(), sink);
+        audit::CheckTypedRunValues(session_.Station, EnteredFactors(), sink);
     const auto here = suggestions_.BoundHere(ShownBindings());
     if (here.empty())
         return;

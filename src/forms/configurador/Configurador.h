@@ -181,7 +181,7 @@ private:
     };
     [[nodiscard]] PassedChoices Choices() const;
 
-    QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckCommonValues(Entered(), sink); }};
+    QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckTypedCommonValues(Entered(), sink); }};
     bool finished_ = false; // the pass went through all runs
     PassedChoices passed_;  // with these
     bool fallingBack_ = false;

@@ -125,7 +125,7 @@ private:
     void CloseForms();
     void Quit();
 
-    QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckCommonValues(Entered(), sink); }};
+    QuietNotes notes_{Notes, [this](audit::Sink& sink) { audit::CheckTypedCommonValues(Entered(), sink); }};
     std::optional<PassDraft> draft_; // from the pass on
     int nStep_ = 0;
     int lastPage_ = 3;

@@ -319,6 +319,12 @@ TEST_F(NotesWorld, FollowTheFactorsAsTheyAreTyped) {
     SeeNotes("10");
     TheStory.Type(Form, "Text1", "1.001");
     SeeNoNotes();
+    TheStory.Type(Form, "Text1", "1.00.1");
+    SeeNotes("CalibrationFactor says \"1.00.1\"");
+    TheStory.Type(Form, "Text1", "0");
+    SeeNotes("CalibrationFactor is 0.");
+    TheStory.Type(Form, "Text1", "");
+    SeeNoNotes();
     LeaveByCancel();
     Open(BindingStage::RunInputs);
 }

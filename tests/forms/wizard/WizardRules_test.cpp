@@ -268,6 +268,23 @@ TEST(WizardNotes, say_what_is_implausible_in_the_gas_data_while_it_is_typed) {
     EXPECT_EQ(form.Notes.Caption(), "");
 }
 
+// The standard pressure takes any key, and the file takes the text as it stands.
+TEST(WizardNotes, say_of_a_text_that_it_is_no_number) {
+    WizardWorld world;
+    auto& form = world.Preset(AGA3, AGA8, 1);
+    for (const char* text : {"14,73", "14.7.3", "0"}) {
+        form.TextDensityStandardP.PersonEdits(text);
+        EXPECT_TRUE(form.Notes.Caption().starts_with("StandardP")) << form.Notes.Caption();
+    }
+    form.TextDensityStandardP.PersonEdits("");
+    EXPECT_EQ(form.Notes.Caption(), "");
+    form.TextDensityStandardP.PersonEdits("14.73");
+    form.pressure.txtAtmPress.PersonEdits("14.7.3");
+    EXPECT_EQ(form.Notes.Caption(), "") << "the pressure is absolute";
+    form.pressure.OptGagePress.SetValue(true);
+    EXPECT_TRUE(form.Notes.Caption().starts_with("AtmPress says \"14.7.3\"")) << form.Notes.Caption();
+}
+
 TEST(WizardNotes, judge_the_atmospheric_pressure_where_it_counts) {
     WizardWorld world;
     auto& form = world.Preset(AGA3, AGA8, 1);
