@@ -10,6 +10,7 @@ packages_for_program=(
 )
 packages_for_checks=(libgtest-dev libgmock-dev clang-format)
 packages_for_package=(dpkg-dev file lintian desktop-file-utils appstream xvfb xdotool)
+packages_for_newcomer=(imagemagick libglib2.0-bin openbox passwd util-linux)
 # And the compiler of the width. Making the kit takes dpkg-dev and tcl, packing icoutils, nsis and zip.
 packages_for_windows=(
     wine wine64 fonts-wine libc6-i386 googletest dpkg-dev make tcl xvfb xdotool fonts-dejavu-core icoutils nsis zip

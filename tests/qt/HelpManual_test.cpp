@@ -9,6 +9,8 @@
 #include "support/World.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QImage>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
@@ -112,6 +114,29 @@ TEST_F(Manual, has_links_that_lead_somewhere) {
         }
     for (const auto& page : Book.Pages())
         EXPECT_TRUE(reached.contains(page.File)) << "no link leads to " << qPrintable(page.File);
+}
+
+// They come with every installation, so that they must stay small.
+TEST_F(Manual, shows_each_of_its_pictures_once_and_says_what_is_on_it) {
+    const QDir folder(qt::ManualFolder());
+    constexpr int widest = 580;         // pixels, which the help window shows without a bar
+    constexpr qint64 most = 400 * 1024; // bytes, of all of them
+    QStringList shown;
+    for (const auto& page : Book.Pages())
+        for (const QString& picture : Captured(Html(page.File), QStringLiteral("<img ([^>]*)/>"))) {
+            shown << Captured(picture, QStringLiteral("src=\"([^\"]+)\"")).value(0);
+            EXPECT_FALSE(Captured(picture, QStringLiteral("alt=\"([^\"]+)\"")).isEmpty())
+                << qPrintable(picture);
+            const QImage image(folder.filePath(shown.back()));
+            EXPECT_TRUE(image.width() > 100 && image.width() <= widest) << qPrintable(picture);
+        }
+    shown.sort();
+    EXPECT_EQ(shown, folder.entryList({"*.png"}, QDir::Files, QDir::Name));
+    EXPECT_GE(shown.size(), 8);
+    qint64 bytes = 0;
+    for (const QFileInfo& file : folder.entryInfoList({"*.png"}))
+        bytes += file.size();
+    EXPECT_LT(bytes, most);
 }
 
 TEST_F(Manual, has_a_title_over_each_page) {

@@ -2,6 +2,7 @@
 #include "workshop/store/OpenProject.h"
 #include "workshop/window/FilesDialog.h"
 #include "workshop/window/FilteredTable.h"
+#include "workshop/window/FolderQuestion.h"
 #include "workshop/window/ImportDialog.h"
 #include "workshop/window/ProjectWindow.h"
 #include "workshop/window/Told.h"
@@ -97,6 +98,33 @@ TEST_F(ProjectWindowTest, shows_a_new_sample_and_makes_it_the_open_project) {
     EXPECT_EQ(Table("tags")->Current().value(0), QStringLiteral("Caudal_Ñ"));
 }
 
+// Who has just installed the program has no folder for it yet.
+TEST_F(ProjectWindowTest, makes_the_sample_in_a_folder_that_was_not_there_by_enter_alone) {
+    window_.show();
+    const QString folder = Shown(Folder / "not" / "yet");
+    Do("Sample", [&](QDialog& dialog) {
+        auto& question = dynamic_cast<FolderQuestion&>(dialog);
+        EXPECT_TRUE(Find<QPushButton>("Accept", &dialog)->isEnabled()) << "a folder is proposed";
+        question.Propose(QString());
+        EXPECT_FALSE(Find<QPushButton>("Accept", &dialog)->isEnabled());
+        question.Propose(folder);
+        QTest::keyClick(Find<QLineEdit>("Folder", &dialog), Qt::Key_Return);
+        EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    });
+    EXPECT_EQ(RecordedProject(), Folder / "not" / "yet" / "plant.KPJ");
+}
+
+TEST_F(ProjectWindowTest, opens_a_sample_that_is_there_already_where_that_is_wanted) {
+    OpenSample();
+    ASSERT_TRUE(window_.MakeSampleIn(Folder / "another"));
+    Answer([](QDialog& dialog) { Press(dialog, QMessageBox::No); },
+           [&] { EXPECT_FALSE(window_.MakeSampleIn(Folder / "plant")); });
+    EXPECT_EQ(RecordedProject(), Folder / "another" / "plant.KPJ");
+    Answer([](QDialog& dialog) { Press(dialog, QMessageBox::Yes); },
+           [&] { EXPECT_TRUE(window_.MakeSampleIn(Folder / "plant")); });
+    EXPECT_EQ(RecordedProject(), Folder / "plant" / "plant.KPJ");
+}
+
 TEST_F(ProjectWindowTest, renames_moves_and_removes_the_tag_that_is_highlighted) {
     OpenSample();
     ASSERT_TRUE(Table("tags")->SelectFirst(QStringLiteral("PT-302")));
@@ -182,6 +210,8 @@ TEST_F(ProjectWindowTest, takes_a_dropped_table_in_once_its_columns_are_named) {
             choose(2, "Register");
             choose(3, "left out");
             Type("Station", QStringLiteral("Newfield"), &dialog);
+            QTest::keyClick(Find<QLineEdit>("Station", &dialog), Qt::Key_Return);
+            ASSERT_TRUE(dialog.isVisible()) << "Enter in a field throws nothing away";
             Type("Module", QStringLiteral("V1"), &dialog);
             auto* direction = Find<QComboBox>("Direction", &dialog);
             direction->setCurrentIndex(1);

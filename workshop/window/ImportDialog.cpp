@@ -93,6 +93,8 @@ ImportDialog::ImportDialog(std::filesystem::path project, std::filesystem::path 
     parts->setStretchFactor(1, 1);
     parts->setSizes({400, 600});
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    // Enter in a field must never throw away what was said, not even while there is nothing to import yet.
+    buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
     import_ = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
     import_->setObjectName(QStringLiteral("Import"));
     import_->setEnabled(false);
@@ -103,6 +105,7 @@ ImportDialog::ImportDialog(std::filesystem::path project, std::filesystem::path 
     layout->addWidget(parts, 1);
     layout->addWidget(verdict_);
     layout->addWidget(buttons);
+    import_->setDefault(true);
     resize(1000, 640);
     connect(import_, &QPushButton::clicked, this, &ImportDialog::Import);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -140,6 +143,7 @@ QWidget* ImportDialog::MakeWishes() {
     });
     auto* keep = new QPushButton(tr("&Keep as..."));
     keep->setToolTip(tr("Keep what is said here under a name, for the next table of the same tool"));
+    keep->setAutoDefault(false);
     connect(keep, &QPushButton::clicked, this, &ImportDialog::Keep);
     auto* mappings = new QHBoxLayout;
     mappings->addWidget(mapping_, 1);

@@ -8,7 +8,9 @@ int main(int argc, char* argv[]) {
     QApplication::setOrganizationName(QStringLiteral("Orm"));
     QApplication::setApplicationName(QStringLiteral("io-workshop"));
     QApplication::setApplicationDisplayName(QString());
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("io-workshop")));
+    // A desktop knows a window by its entry, and that is named otherwise than the program.
+    QApplication::setDesktopFileName(QStringLiteral("io-workshop"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("gfc-configurator")));
     gfc::workshop::ProjectWindow window;
     window.show();
     return QApplication::exec();

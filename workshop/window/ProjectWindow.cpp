@@ -9,6 +9,7 @@
 #include "workshop/usage/TagUses.h"
 #include "workshop/window/FilesDialog.h"
 #include "workshop/window/FilteredTable.h"
+#include "workshop/window/FolderQuestion.h"
 #include "workshop/window/ImportDialog.h"
 #include "workshop/window/StartPage.h"
 #include "workshop/window/Told.h"
@@ -194,7 +195,13 @@ bool ProjectWindow::MakeProject(const fs::path& file) {
 }
 
 bool ProjectWindow::MakeSampleIn(const fs::path& folder) {
-    fs::path file;
+    fs::path file = SampleFilesIn(folder).Project;
+    if (fs::exists(file) && AskedYes(this, tr("%1 is there already. Open it?").arg(Shown(file)))) {
+        return OpenProject(file);
+    }
+    if (fs::exists(file)) {
+        return false;
+    }
     const bool made = Attempt(this, [&] { file = MakeSample(folder, Existing::Refuse).Project; });
     return made && OpenProject(file);
 }
@@ -270,10 +277,14 @@ void ProjectWindow::AskForNewProject() {
 }
 
 void ProjectWindow::AskForSample() {
-    const QString folder =
-        QFileDialog::getExistingDirectory(this, tr("A folder for the sample project plant.KPJ"));
-    if (!folder.isEmpty()) {
-        MakeSampleIn(Whole(folder));
+    FolderQuestion question(
+        tr("Make a sample"),
+        tr("The sample is the project plant.KPJ with one configured station. Its folder is made "
+           "where it is not there yet."),
+        tr("&Make the sample"), this);
+    question.Propose(UnusedFolder(QStringLiteral("plant")));
+    if (question.exec() == QDialog::Accepted) {
+        MakeSampleIn(Whole(question.Folder()));
     }
 }
 
