@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <bitset>
+#include <span>
 
 namespace gfc::audit {
 
@@ -19,7 +20,7 @@ constexpr auto SubjectCount = static_cast<std::size_t>(Subject::Aside) + 1;
 class Subjects {
 public:
     void Add(Subject subject) { said_.set(static_cast<std::size_t>(subject)); }
-    void Add(const std::vector<Subject>& subjects) {
+    void Add(std::span<const Subject> subjects) {
         for (const Subject subject : subjects)
             Add(subject);
     }

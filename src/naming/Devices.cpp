@@ -8,7 +8,7 @@ namespace {
 
 struct Letters {
     std::string_view Text;
-    std::vector<Subject> Means;
+    Meanings Means;
 };
 
 // First letter of ISA-5.1; a D behind P is a difference. Plants write DPT for PDT as often as not.
@@ -62,7 +62,7 @@ bool ActsOn(std::string_view functions) {
     return functions.find_first_of("SVACHL") != std::string_view::npos;
 }
 
-void Take(TagName& name, std::size_t letters, std::size_t digits, const std::vector<Subject>& means) {
+void Take(TagName& name, std::size_t letters, std::size_t digits, const Meanings& means) {
     name.Device.Letters = name.Parts[letters].Text;
     name.Device.Loop = name.Parts[digits].Text;
     name.Device.Means = means;

@@ -45,6 +45,11 @@ std::string FoldCase(std::string_view utf8) {
     std::string folded;
     folded.reserve(utf8.size());
     while (!utf8.empty()) {
+        if (IsPlainByte(utf8.front())) {
+            folded += FoldPlain(utf8.front());
+            utf8.remove_prefix(1);
+            continue;
+        }
         const Utf8Character character = FirstCharacter(utf8);
         if (character.Valid)
             AppendUtf8(folded, MachinePage.Fold(character.Code));

@@ -116,7 +116,7 @@ config::TagBinding BindingTo(const project::Tag& tag) {
     return {.Tag = tag.TagName, .Type = tag.RegType, .RegAddr = std::to_string(tag.RegAddr)};
 }
 
-SubjectSet SetOf(const std::vector<naming::Subject>& subjects) {
+SubjectSet SetOf(std::span<const naming::Subject> subjects) {
     SubjectSet set = 0;
     for (const naming::Subject subject : subjects)
         set |= SetOf(subject);

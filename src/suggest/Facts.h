@@ -18,7 +18,7 @@ static_assert(static_cast<int>(naming::Subject::Aside) < 64, "each subject has i
 [[nodiscard]] constexpr SubjectSet SetOf(naming::Subject subject) {
     return SubjectSet(1) << static_cast<unsigned>(subject);
 }
-[[nodiscard]] SubjectSet SetOf(const std::vector<naming::Subject>& subjects);
+[[nodiscard]] SubjectSet SetOf(std::span<const naming::Subject> subjects);
 
 // What is known of a tag before any variable is looked at.
 struct TagFacts {
