@@ -13,8 +13,6 @@ namespace {
 
 namespace profile = platform::profile;
 
-using Values = std::unordered_map<std::string, std::string>;
-
 // Where the lines stand that begin with a bracket.
 std::vector<std::size_t> Headers(std::string_view bytes) {
     std::vector<std::size_t> headers;
@@ -43,15 +41,33 @@ void AppendKeys(std::vector<FileKey>& keys, std::string_view bytes, std::size_t 
         }
 }
 
-std::string PlaceOf(const FileKey& key) {
-    return services::FoldCase(key.Section) + '\n' + services::FoldCase(key.Key);
-}
+// The keys of a file, and each one's value by the place that it has in any spelling.
+struct Placed {
+    explicit Placed(std::string_view bytes) : Keys(KeysOf(bytes)) {
+        Places.reserve(Keys.size());
+        Values.reserve(Keys.size());
+        for (const FileKey& key : Keys) {
+            Places.push_back(services::FoldCase(key.Section) + '\n' + services::FoldCase(key.Key));
+            Values.emplace(Places.back(), &key.Value);
+        }
+    }
 
-Values ValuesOf(const std::vector<FileKey>& keys) {
-    Values values;
-    for (const FileKey& key : keys)
-        values.emplace(PlaceOf(key), key.Value);
-    return values;
+    [[nodiscard]] const std::string* ValueAt(const std::string& place) const {
+        const auto found = Values.find(place);
+        return found == Values.end() ? nullptr : found->second;
+    }
+
+    std::vector<FileKey> Keys;
+    std::vector<std::string> Places; // of each key
+    std::unordered_map<std::string_view, const std::string*> Values;
+};
+
+// A new file is all new, and nothing of it is looked up.
+std::vector<KeyChange> AllAdded(std::string_view bytes) {
+    std::vector<KeyChange> changes;
+    for (FileKey& key : KeysOf(bytes))
+        changes.push_back({std::move(key.Section), std::move(key.Key), std::nullopt, std::move(key.Value)});
+    return changes;
 }
 
 } // namespace
@@ -66,21 +82,24 @@ std::vector<FileKey> KeysOf(std::string_view bytes) {
 }
 
 std::vector<KeyChange> ChangesOf(std::string_view before, std::string_view after) {
-    const auto old = KeysOf(before);
-    const auto fresh = KeysOf(after);
-    const Values oldValues = ValuesOf(old);
-    const Values newValues = ValuesOf(fresh);
+    if (before.empty())
+        return AllAdded(after);
+    const Placed old(before);
+    const Placed fresh(after);
     std::vector<KeyChange> changes;
-    for (const FileKey& key : old) {
-        const auto now = newValues.find(PlaceOf(key));
-        if (now == newValues.end())
+    for (std::size_t i = 0; i < old.Keys.size(); ++i) {
+        const FileKey& key = old.Keys[i];
+        const std::string* now = fresh.ValueAt(old.Places[i]);
+        if (now == nullptr)
             changes.push_back({key.Section, key.Key, key.Value, std::nullopt});
-        else if (now->second != key.Value)
-            changes.push_back({key.Section, key.Key, key.Value, now->second});
+        else if (*now != key.Value)
+            changes.push_back({key.Section, key.Key, key.Value, *now});
     }
-    for (const FileKey& key : fresh)
-        if (!oldValues.contains(PlaceOf(key)))
+    for (std::size_t i = 0; i < fresh.Keys.size(); ++i) {
+        const FileKey& key = fresh.Keys[i];
+        if (old.ValueAt(fresh.Places[i]) == nullptr)
             changes.push_back({key.Section, key.Key, std::nullopt, key.Value});
+    }
     return changes;
 }
 

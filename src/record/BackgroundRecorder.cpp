@@ -1,12 +1,16 @@
 #include "record/BackgroundRecorder.h"
 
 #include <algorithm>
+#include <chrono>
 #include <iterator>
 #include <utility>
 
 namespace gfc::record {
 
 namespace {
+
+// Far below what anybody notices, and some files' time where one is written after the other.
+constexpr std::chrono::milliseconds Succession(10);
 
 // What has piled up for a record goes in at once: each list by itself would wait for the disk some times.
 // None is empty.
@@ -31,6 +35,7 @@ BackgroundRecorder::~BackgroundRecorder() {
         ending_ = true;
     }
     something_.notify_one();
+    hurry_.notify_one();
     worker_.join();
 }
 
@@ -41,6 +46,7 @@ void BackgroundRecorder::Work() {
         something_.wait(lock, [this] { return ending_ || !waiting_.empty(); });
         if (waiting_.empty())
             return;
+        hurry_.wait_for(lock, Succession, [this] { return ending_ || settling_ > 0; });
         auto handed = std::exchange(waiting_, {});
         busy_ = true;
         lock.unlock();
@@ -66,7 +72,10 @@ void BackgroundRecorder::Record(std::vector<config::FileChange> changes) {
 
 void BackgroundRecorder::Settle() {
     std::unique_lock lock(mutex_);
+    ++settling_;
+    hurry_.notify_one();
     nothing_.wait(lock, [this] { return waiting_.empty() && !busy_; });
+    --settling_;
 }
 
 bool BackgroundRecorder::IsBusy() {

@@ -10,7 +10,9 @@
 namespace gfc::record {
 
 // Lets another recorder work behind the program, since three waits for the disk would double a save. What is
-// handed over goes in its order; whoever reads waits until it has been worked off, and so does the end.
+// handed over goes in its order; whoever reads waits until it has been worked off, and so does the end. What
+// comes in quick succession goes in together, since each time of its own would hold up the disk for the next
+// file.
 class BackgroundRecorder : public config::Recorder {
 public:
     // The other one must outlive it and be used by nobody else.
@@ -41,7 +43,9 @@ private:
     std::mutex mutex_; // of all below
     std::condition_variable something_;
     std::condition_variable nothing_;
+    std::condition_variable hurry_;
     std::vector<Handed> waiting_;
+    int settling_ = 0; // who wait for the end of it
     std::string trouble_;
     bool busy_ = false;
     bool ending_ = false;

@@ -88,8 +88,8 @@ std::string Compress(std::string_view bytes) {
     auto size = compressBound(static_cast<uLong>(bytes.size()));
     kept.resize(head + size);
     // The bound says how much it takes at most, so that only memory can be short.
-    if (compress(reinterpret_cast<Bytef*>(kept.data() + head), &size, Bytes(bytes),
-                 static_cast<uLong>(bytes.size())) != Z_OK)
+    if (compress2(reinterpret_cast<Bytef*>(kept.data() + head), &size, Bytes(bytes),
+                  static_cast<uLong>(bytes.size()), Z_BEST_SPEED) != Z_OK)
         throw Failure(noMemory);
     kept.resize(head + size);
     return kept;

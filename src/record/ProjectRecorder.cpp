@@ -118,7 +118,9 @@ void ProjectRecorder::Append(History& history, const FileChange& change, const F
     facts.Command = change.Command;
     facts.Station = change.Station;
     facts.FileHash = HashOfFile(change.After);
-    entry.Changes = Compress(ChangesText(config::ChangesOf(BytesOf(before), BytesOf(change.After))));
+    // What a new file brings is in the file.
+    if (before || !change.After)
+        entry.Changes = Compress(ChangesText(config::ChangesOf(BytesOf(before), BytesOf(change.After))));
     if (change.After)
         entry.Content = history.Keep(change.Station, *change.After);
     history.Append(std::move(entry));
@@ -148,7 +150,9 @@ std::optional<StoredEntry> EntryOf(History& history, std::int64_t number) {
     return found;
 }
 
-std::vector<config::KeyChange> ChangesIn(const StoredEntry& entry) {
+std::vector<config::KeyChange> ChangesIn(History& history, const StoredEntry& entry) {
+    if (entry.Changes.empty())
+        return config::ChangesOf({}, BytesOf(history.FileOf(entry)));
     const auto text = Expand(entry.Changes);
     return text ? ReadChanges(*text).value_or(std::vector<config::KeyChange>())
                 : std::vector<config::KeyChange>();
@@ -168,7 +172,7 @@ std::vector<config::EntryChanges> ProjectRecorder::ChangesOf(const std::string& 
         if (auto history = History::OpenToRead(record))
             history->ForEach({.Behind = first - 1, .Whole = true}, [&](const StoredEntry& entry) {
                 if (entry.Facts.Number <= last)
-                    changes.push_back({entry.Facts.Number, ChangesIn(entry)});
+                    changes.push_back({entry.Facts.Number, ChangesIn(*history, entry)});
                 return entry.Facts.Number < last;
             });
     });

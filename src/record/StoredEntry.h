@@ -12,7 +12,7 @@ namespace gfc::record {
 
 struct StoredEntry {
     config::RecordEntry Facts;
-    std::string Changes;  // compressed, as ChangesText writes them
+    std::string Changes;  // compressed, as ChangesText writes them; empty where the whole file is new
     std::string Content;  // the file, as KeepWhole or KeepLike makes it; empty where there is none
     std::string Previous; // the hash of the entry before; empty for the first
 };

@@ -10,6 +10,8 @@ namespace {
 constexpr int entriesAStep = 64;
 
 bool HasItsChanges(const StoredEntry& entry) {
+    if (entry.Changes.empty())
+        return !entry.Facts.FileHash.empty();
     const auto text = Expand(entry.Changes);
     return text && ReadChanges(*text);
 }
