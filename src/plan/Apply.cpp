@@ -4,11 +4,23 @@
 #include "suggest/Known.h"
 
 #include <algorithm>
+#include <deque>
+#include <future>
+#include <iterator>
+#include <thread>
+#include <utility>
 
 namespace gfc::plan {
 
 namespace {
 
+// Here, where the system gives no thread.
+constexpr std::launch Elsewhere = std::launch::async | std::launch::deferred;
+// Not a thread for each station.
+constexpr std::size_t AtOnce = 8;
+
+// Puts the stations together side by side, while the library is asked for the next on the thread on which it
+// always is.
 class TablePlanner {
 public:
     TablePlanner(platform::Files& files, project::AddOnLibrary& library, const project::Project& project,
@@ -39,17 +51,53 @@ public:
             return Blame(wish, "Its configuration cannot be read: " + files_.LastFailure());
         if (before && !options_.MayReplace)
             Blame(wish, "The station has a configuration, which is replaced with --replace alone.");
-        const Destination to(
-            {station->Name,
-             library_.ReadTags(station->Name, circumstances_.Project.ProjectFile, [](std::string_view) {})});
-        auto checked = Assemble(wish, to, circumstances_, std::move(before), faults_);
-        if (checked)
-            applied_.push_back(*std::move(checked));
+        gathered_.push_back(
+            {&wish,
+             {station->Name,
+              library_.ReadTags(station->Name, circumstances_.Project.ProjectFile, [](std::string_view) {})},
+             std::move(before)});
+        if (gathered_.size() == AtOnce)
+            Begin();
     }
 
-    std::vector<Checked> TakeAll() { return std::move(applied_); }
+    std::vector<Checked> TakeAll() {
+        Begin();
+        while (!underWay_.empty())
+            TakeFirst();
+        return std::move(applied_);
+    }
 
 private:
+    struct Gathered {
+        const StationWish* Wish;
+        StationTags Tags;
+        config::FileState Before;
+    };
+    struct Assembled {
+        std::vector<Checked> Stations;
+        Faults Found;
+    };
+
+    void Begin() {
+        if (underWay_.size() >= std::max(1U, std::thread::hardware_concurrency()))
+            TakeFirst();
+        underWay_.push_back(std::async(Elsewhere, [this, gathered = std::exchange(gathered_, {})]() mutable {
+            Assembled assembled;
+            for (auto& [wish, tags, before] : gathered)
+                if (auto checked = Assemble(*wish, Destination(std::move(tags)), circumstances_,
+                                            std::move(before), assembled.Found))
+                    assembled.Stations.push_back(*std::move(checked));
+            return assembled;
+        }));
+    }
+
+    void TakeFirst() {
+        Assembled assembled = underWay_.front().get();
+        underWay_.pop_front();
+        std::ranges::move(assembled.Found, std::back_inserter(faults_));
+        std::ranges::move(assembled.Stations, std::back_inserter(applied_));
+    }
+
     void Blame(const StationWish& wish, const std::string& text) {
         faults_.push_back({wish.Row, "Station", wish.Station, text});
     }
@@ -59,7 +107,9 @@ private:
     const ApplyOptions& options_;
     Faults& faults_;
     Circumstances circumstances_;
+    std::vector<Gathered> gathered_;
     std::vector<Checked> applied_;
+    std::deque<std::future<Assembled>> underWay_; // they use what stands above
 };
 
 } // namespace
@@ -75,9 +125,10 @@ std::vector<Checked> PlanTable(std::string_view csv, platform::Files& files, pro
             break;
         planner.Plan(wish);
     }
+    auto applied = planner.TakeAll();
     // As the table is read, whichever step found them.
     std::ranges::stable_sort(faults, {}, &Fault::Row);
-    return faults.empty() ? planner.TakeAll() : std::vector<Checked>();
+    return faults.empty() ? std::move(applied) : std::vector<Checked>();
 }
 
 } // namespace gfc::plan

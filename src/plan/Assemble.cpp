@@ -40,10 +40,9 @@ bool IsRefusedByWindows(const audit::Finding& finding) {
 
 } // namespace
 
-std::optional<Checked> Assemble(const StationWish& wish, const Destination& to,
-                                const Circumstances& circumstances, config::FileState before,
-                                Faults& faults) {
-    return Assembler(wish, to, circumstances, faults).Assemble(std::move(before));
+std::optional<Checked> Assemble(const StationWish& wish, Destination to, const Circumstances& circumstances,
+                                config::FileState before, Faults& faults) {
+    return Assembler(wish, std::move(to), circumstances, faults).Assemble(std::move(before));
 }
 
 std::optional<Checked> Assembler::Assemble(config::FileState before) {
@@ -64,7 +63,7 @@ std::optional<Checked> Assembler::Assemble(config::FileState before) {
         return std::nullopt;
     Checked checked{{to_.Of().Station, file, std::move(before), Written(), std::string(command::ApplyPlan)},
                     {}};
-    checked.Report = CheckOf(circumstances_.Project, checked.Change, to_.Of().Tags);
+    checked.Report = CheckOf(circumstances_.Project, checked.Change, to_.TakeTags());
     TakeErrors(checked.Report);
     return faults_.size() == faultsBefore ? std::optional(std::move(checked)) : std::nullopt;
 }

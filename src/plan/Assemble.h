@@ -23,7 +23,7 @@ struct Circumstances {
 // The whole configuration that a plan says, byte for byte as the wizard would write it with the same choices.
 // Nothing, with at least one fault more, where anything does not fit the station or the rules. before is what
 // stands in the file's place.
-[[nodiscard]] std::optional<Checked> Assemble(const StationWish& wish, const Destination& to,
+[[nodiscard]] std::optional<Checked> Assemble(const StationWish& wish, Destination to,
                                               const Circumstances& circumstances, config::FileState before,
                                               Faults& faults);
 

@@ -11,13 +11,20 @@ namespace gfc::plan {
 // Takes a station's wish into a configuration, step by step; each step needs those before it.
 class Assembler {
 public:
-    Assembler(const StationWish& wish, const Destination& to, const Circumstances& circumstances,
-              Faults& faults)
-        : wish_(wish), to_(to), circumstances_(circumstances), faults_(faults) {}
+    Assembler(const StationWish& wish, Destination to, const Circumstances& circumstances, Faults& faults)
+        : wish_(wish), to_(std::move(to)), circumstances_(circumstances), faults_(faults) {}
 
     std::optional<Checked> Assemble(config::FileState before);
 
 private:
+    // A variable to bind.
+    struct Open {
+        binding::Variable Variable;
+        const RunWish* Run = nullptr; // null for what all runs share
+        const Said* Named = nullptr;  // null where no cell names its tag
+        [[nodiscard]] int RunNumber() const { return Run == nullptr ? 0 : Run->Run; }
+    };
+
     [[nodiscard]] bool TakeChoices();
     void TakeCommonTexts();
     void TakeRuns();
@@ -26,31 +33,27 @@ private:
     void TakeModules();
     void DemandCapacity();
     void Bind();
-    void BindStage(binding::BindingStage stage, const RunWish* run, int element);
-    void BindVariable(const binding::Variable& variable, const RunWish* run);
+    [[nodiscard]] std::vector<Open> AllVariables();
+    void BindNamed(const Open& open);
+    void BindUnnamed(const Open& open);
+    void BindTo(const Open& open, const project::Tag& tag);
     void BindSuggested();
     [[nodiscard]] std::string Written() const;
     void TakeErrors(const audit::StationReport& report);
 
     void Blame(const Said* said, std::string_view key, const std::string& text);
     void Blame(int row, std::string_view key, const std::string& value, const std::string& text);
+    void Blame(const Open& open, const std::string& text);
     [[nodiscard]] const Said* CellOf(std::string_view key, const RunWish* run = nullptr) const;
     [[nodiscard]] std::string Choice(std::string_view key);
 
-    // A variable that waits for the suggestions.
-    struct Open {
-        binding::Variable Variable;
-        const RunWish* Run = nullptr;
-    };
-
     const StationWish& wish_;
-    const Destination& to_;
+    Destination to_;
     const Circumstances& circumstances_;
     Faults& faults_;
     config::StationConfig station_;
     TagPools pools_;
-    bool namesOnly_ = false; // the first of two walks over the variables
-    std::vector<Open> open_;
+    std::vector<Open> open_; // that wait for the suggestions
     std::vector<suggest::BoundVariable> bound_;
 };
 

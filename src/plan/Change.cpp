@@ -51,11 +51,10 @@ Written Write(const Writer& writer, const Change& change) {
     return {true, {}};
 }
 
-audit::StationReport CheckOf(const project::Project& project, const Change& change,
-                             const project::TagList& tags) {
+audit::StationReport CheckOf(const project::Project& project, const Change& change, project::TagList tags) {
     Draft draft(change.File, change.After);
     return audit::CheckFile(draft, {change.File, project.ProjectFile, project.ProjectName, change.Station},
-                            &tags);
+                            std::move(tags));
 }
 
 } // namespace gfc::plan

@@ -55,6 +55,6 @@ struct Checked {
 
 // What the check says of the new bytes, before or after they are written.
 [[nodiscard]] audit::StationReport CheckOf(const project::Project& project, const Change& change,
-                                           const project::TagList& tags);
+                                           project::TagList tags);
 
 } // namespace gfc::plan

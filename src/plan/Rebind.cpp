@@ -89,6 +89,11 @@ std::vector<config::TagBinding> Destination::ModulesFor(WorkingKind kind) const 
     return modules;
 }
 
+void Destination::Offer(const Working& working, bool isAGA7) {
+    project::BuildAvailableLists(
+        inventory_, {working.WrkAnalogModName, working.WrkIntLongModName, working.WrkFloatModName}, isAGA7);
+}
+
 project::TagList Destination::OfferedWithout(const Working& working) const {
     return suggest::OfferedTags(inventory_, working);
 }

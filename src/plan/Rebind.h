@@ -80,6 +80,11 @@ public:
     [[nodiscard]] std::vector<config::TagBinding> ChoicesFor(const Line& line,
                                                              const std::vector<Line>& lines) const;
 
+    // Builds the inventory's lists of what may be bound.
+    void Offer(const config::WorkingModules& working, bool isAGA7);
+    // All of them, in delivery order. It keeps none.
+    [[nodiscard]] project::TagList TakeTags() { return std::move(tags_.Tags); }
+
     // Whether the registers carry so many runs.
     [[nodiscard]] bool Carries(const project::RunNeed& need, int runs) const;
 

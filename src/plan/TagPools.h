@@ -4,6 +4,7 @@
 #include "project/TagInventory.h"
 
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -14,8 +15,8 @@ namespace gfc::plan {
 // The tags that may be bound, class by class in delivery order, and which of them are still free.
 class TagPools {
 public:
-    TagPools() = default;
-    // inventory: with its lists of available tags built.
+    TagPools() = default; // without any
+    // inventory: with its lists of available tags built; it must outlive this.
     explicit TagPools(const project::TagInventory& inventory);
 
     // The tag that a cell names: "FT-101", or "FT-101 (FX 12)" where there are several of that name. Null
@@ -29,7 +30,7 @@ public:
 
 private:
     struct Pool {
-        project::TagList Tags;
+        std::span<const project::Tag> Tags;
         std::unordered_multimap<std::string, std::size_t> ByName; // their places; the case is folded
         std::size_t Next = 0;                                     // where to look on
     };
