@@ -74,8 +74,8 @@ void PrintChanges(std::ostream& out, const StationPlan& plan) {
     if (plan.PropertiesChange() && !plan.IsNew()) {
         out << "  ~ " << PropertiesOf(plan.Before, plan.After) << '\n';
     }
-    for (const Tag& tag : plan.Added) {
-        out << "  + " << TextOf(tag) << '\n';
+    for (const std::size_t at : plan.Added) {
+        out << "  + " << TextOf(plan.Tags[at]) << '\n';
     }
     for (const TagChange& change : plan.Changed) {
         out << "  ~ " << TextOf(change) << '\n';

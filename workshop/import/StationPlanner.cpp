@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 #include <string>
 #include <unordered_map>
 
@@ -37,7 +38,7 @@ public:
         plan_.After = station;
     }
 
-    [[nodiscard]] StationPlan Plan(const std::vector<TableRow>& rows) {
+    [[nodiscard]] StationPlan Plan(std::span<const TableRow> rows) {
         if (merge_) {
             RememberModules();
         }
@@ -243,15 +244,17 @@ std::vector<std::string> OrderWithin(const std::vector<Tag>& tags, const TagsByN
 
 void Compare(const std::vector<Tag>& tags, StationPlan& plan) {
     if (tags.empty()) { // a new station: nothing has to be looked for
-        plan.Added = plan.Tags;
+        plan.Added.resize(plan.Tags.size());
+        std::iota(plan.Added.begin(), plan.Added.end(), 0U);
         return;
     }
     const TagsByName before = ByName(tags);
     const TagsByName after = ByName(plan.Tags);
-    for (const Tag& tag : plan.Tags) {
+    for (std::size_t at = 0; at < plan.Tags.size(); ++at) {
+        const Tag& tag = plan.Tags[at];
         const auto old = before.find(Folded(tag.Name));
         if (old == before.end()) {
-            plan.Added.push_back(tag);
+            plan.Added.push_back(at);
         } else if (*old->second != tag) {
             plan.Changed.push_back({*old->second, tag});
         }
@@ -266,9 +269,8 @@ void Compare(const std::vector<Tag>& tags, StationPlan& plan) {
 
 } // namespace
 
-StationPlan PlanStation(const Station& station, const std::vector<Tag>& tags,
-                        const std::vector<TableRow>& rows, ImportMode mode,
-                        std::vector<Complaint>& complaints) {
+StationPlan PlanStation(const Station& station, const std::vector<Tag>& tags, std::span<const TableRow> rows,
+                        ImportMode mode, std::vector<Complaint>& complaints) {
     StationPlan plan = Planner(station, tags, mode, complaints).Plan(rows);
     Compare(tags, plan);
     return plan;

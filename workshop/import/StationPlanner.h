@@ -2,6 +2,7 @@
 
 #include "workshop/import/TagImport.h"
 
+#include <span>
 #include <vector>
 
 namespace gfc::workshop {
@@ -10,7 +11,7 @@ namespace gfc::workshop {
 /// that show only against the project or against other rows are added to `complaints`; the plan is then of no
 /// use.
 [[nodiscard]] StationPlan PlanStation(const Station& station, const std::vector<Tag>& tags,
-                                      const std::vector<TableRow>& rows, ImportMode mode,
+                                      std::span<const TableRow> rows, ImportMode mode,
                                       std::vector<Complaint>& complaints);
 
 } // namespace gfc::workshop

@@ -4,38 +4,50 @@
 #include "workshop/text/Letters.h"
 
 #include <algorithm>
+#include <numeric>
+#include <span>
 #include <unordered_map>
 
 namespace gfc::workshop {
 
 namespace {
 
-// The rows of each station, in the order in which the stations first appear. They are counted first, since
-// to move them as the groups grow takes longer.
-std::vector<std::vector<TableRow>> ByStation(std::vector<TableRow> rows) {
-    std::vector<std::size_t> groupOf;
-    std::vector<std::size_t> sizes;
-    std::unordered_map<std::string, std::size_t> groupNamed;
-    groupOf.reserve(rows.size());
-    for (const TableRow& row : rows) {
-        const auto [group, isNew] = groupNamed.try_emplace(Folded(row.Station), sizes.size());
-        if (isNew) {
-            sizes.push_back(0);
+// The number of each row's station, in the order in which the stations first appear, and how many rows each
+// has.
+struct Grouping {
+    explicit Grouping(const std::vector<TableRow>& rows) {
+        std::unordered_map<std::string, std::size_t> named;
+        GroupOf.reserve(rows.size());
+        for (const TableRow& row : rows) {
+            const auto [group, isNew] = named.try_emplace(Folded(row.Station), Sizes.size());
+            if (isNew) {
+                Sizes.push_back(0);
+            }
+            ++Sizes[group->second];
+            GroupOf.push_back(group->second);
         }
-        ++sizes[group->second];
-        groupOf.push_back(group->second);
     }
-    std::vector<std::vector<TableRow>> groups(sizes.size());
-    for (std::size_t group = 0; group < sizes.size(); ++group) {
-        groups[group].reserve(sizes[group]);
+
+    std::vector<std::size_t> GroupOf;
+    std::vector<std::size_t> Sizes;
+};
+
+// Most tables hold a station's rows together, and to move half a million of them takes longer than to plan
+// them.
+void BringTogether(std::vector<TableRow>& rows, const Grouping& grouping) {
+    if (std::is_sorted(grouping.GroupOf.begin(), grouping.GroupOf.end())) {
+        return;
     }
+    std::vector<std::size_t> next(grouping.Sizes.size()); // where the next row of each comes to stand
+    std::exclusive_scan(grouping.Sizes.begin(), grouping.Sizes.end(), next.begin(), std::size_t(0));
+    std::vector<TableRow> together(rows.size());
     for (std::size_t at = 0; at < rows.size(); ++at) {
-        groups[groupOf[at]].push_back(std::move(rows[at]));
+        together[next[grouping.GroupOf[at]]++] = std::move(rows[at]);
     }
-    return groups;
+    rows = std::move(together);
 }
 
-void PlanGroup(Project& project, const std::vector<TableRow>& rows, ImportMode mode, ImportPlan& plan) {
+void PlanGroup(Project& project, std::span<const TableRow> rows, ImportMode mode, ImportPlan& plan) {
     const std::string& name = rows.front().Station;
     const Station station = FindStation(project, name).value_or(Station{0, name, "", "", 0});
     const std::vector<Tag> tags = station.Id == 0 ? std::vector<Tag>{} : ListTags(project, station.Id);
@@ -102,9 +114,12 @@ ImportPlan PlanTable(Project& project, const CsvTable& file, const ImportRequest
     plan.Complaints = std::move(table.Complaints);
     plan.Notes = std::move(table.Notes);
     plan.Titles = std::move(table.Titles);
-    for (auto& rows : ByStation(std::move(table.Rows))) {
-        PlanGroup(project, rows, request.Mode, plan);
-        rows = {}; // the next station's plan takes their memory
+    const Grouping grouping(table.Rows);
+    BringTogether(table.Rows, grouping);
+    std::span<const TableRow> left = table.Rows;
+    for (const std::size_t size : grouping.Sizes) {
+        PlanGroup(project, left.first(size), request.Mode, plan);
+        left = left.subspan(size);
         TellProgress(request.Told, 1.0);
     }
     std::stable_sort(plan.Complaints.begin(), plan.Complaints.end(),

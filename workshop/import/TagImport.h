@@ -25,8 +25,8 @@ struct TagChange {
 struct StationPlan {
     Station Before; ///< its Id is 0 while the project does not have it
     Station After;
-    std::vector<Tag> Tags; ///< all of them, in their new delivery order
-    std::vector<Tag> Added;
+    std::vector<Tag> Tags;          ///< all of them, in their new delivery order
+    std::vector<std::size_t> Added; ///< where they stand in Tags
     std::vector<TagChange> Changed; ///< the same tag by name, whatever the case of its letters
     std::vector<Tag> Removed;
     bool Reordered = false; ///< the tags that stay are delivered in another order

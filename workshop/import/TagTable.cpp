@@ -22,15 +22,13 @@ std::string FaultIn(const Column& column, const TableRow& row) {
     return MustNotBeEmpty(column, row) ? "is empty" : "";
 }
 
-TableRow TakeFields(const CsvRow& fields, const Heading& heading) {
-    TableRow row;
+void TakeFields(const CsvRow& fields, const Heading& heading, TableRow& row) {
     row.Row = fields.Row;
     for (std::size_t at = 0; at < std::min(heading.Columns.size(), fields.Fields.size()); ++at) {
         if (heading.Columns[at] != nullptr) {
             row.*heading.Columns[at]->Field = fields.Fields[at];
         }
     }
-    return row;
 }
 
 bool IsComment(const CsvRow& row) {
@@ -119,12 +117,14 @@ private:
             table_.Complaints.push_back({fields.Row, "", "has more fields than the table has titles"});
             return;
         }
-        TableRow row = TakeFields(fields, heading_);
+        TableRow& row = table_.Rows.emplace_back();
+        TakeFields(fields, heading_, row);
         GiveWished(row);
         const std::vector<ValueFault> faults = PutInOurWords(row, otherwise_);
         if (Passes(row, faults)) {
             row.Class = Upper(row.Class);
-            table_.Rows.push_back(std::move(row));
+        } else {
+            table_.Rows.pop_back();
         }
     }
 

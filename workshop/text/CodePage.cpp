@@ -93,10 +93,17 @@ void AppendUtf8(std::string& text, char32_t code) {
     }
 }
 
+// Nearly all texts are plain to their end, and a table has millions of them.
+std::size_t EndOfPlain(std::string_view text) {
+    const auto special =
+        std::find_if(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    return static_cast<std::size_t>(special - text.begin());
+}
+
 } // namespace
 
 bool FitsCodePage(std::string_view utf8) {
-    for (std::size_t at = 0; at < utf8.size();) {
+    for (std::size_t at = EndOfPlain(utf8); at < utf8.size();) {
         if (!ByteOf(TakeCharacter(utf8, at))) {
             return false;
         }
@@ -115,8 +122,8 @@ std::size_t FirstByteNotUtf8(std::string_view bytes) {
 }
 
 std::size_t CharacterCount(std::string_view utf8) {
-    std::size_t count = 0;
-    for (std::size_t at = 0; at < utf8.size(); ++count) {
+    std::size_t count = EndOfPlain(utf8);
+    for (std::size_t at = count; at < utf8.size(); ++count) {
         TakeCharacter(utf8, at);
     }
     return count;

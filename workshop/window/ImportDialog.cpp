@@ -74,7 +74,8 @@ void AddStation(QTreeWidget* tree, const StationPlan& plan) {
                         .arg(plan.Added.size())
                         .arg(plan.Changed.size())
                         .arg(plan.Removed.size())));
-    AddSome(item, plan.Added, [](const Tag& tag) {
+    AddSome(item, plan.Added, [&](std::size_t at) {
+        const Tag& tag = plan.Tags[at];
         return QStringLiteral("+ %1: %2 in %3").arg(Shown(tag.Name), PlaceOf(tag), Shown(tag.Module));
     });
     AddSome(item, plan.Changed, TextOf);
