@@ -40,6 +40,25 @@ configure 0 "40 of 40 stations written" copy $source "${twins[@]}" --rebind --us
 expect gfc-audit 0 "Twin_40: nothing to report" check
 expect gfc-audit 0 "Twin_40  Copy to station  4711" history
 expect io-workshop 0 "KDOrmAGA_plant_Twin_40.ini" files
+# Told to end among the stations, it ends between two of them and says what is not written; each file is the whole one.
+if [ ${#runner[@]} -eq 0 ]; then
+    whole=$(sha256sum "$plant"/*Twin_*.ini)
+    rm "$plant"/*Twin_*.ini
+    "$bin/gfc-configure" copy $source "${twins[@]}" --rebind >"$work/said.txt" 2>&1 &
+    writing=$!
+    until [ -e "$plant/KDOrmAGA_plant_Twin_2.ini" ] || ! kill -0 $writing 2>/dev/null; do :; done
+    kill $writing
+    wait $writing
+    status=$?
+    [ $status -eq 130 ] || { echo "not broken off: $(tail -n 3 "$work/said.txt")" >&2; failed=1; }
+    written=$(ls "$plant" | grep -c 'Twin_.*ini$')
+    grep -q "^$written of 40 stations written" "$work/said.txt" || { echo "$written were written" >&2; failed=1; }
+    [ "$(grep -c 'Broken off before it' "$work/said.txt")" -eq $((40 - written)) ] || { echo "not all are told" >&2; failed=1; }
+    sha256sum "$plant"/*Twin_*.ini | grep -vxF "$whole" && { echo "a file is not the whole one" >&2; failed=1; }
+    configure 0 "40 of 40 stations written" copy $source "${twins[@]}" --rebind --replace
+    [ "$(sha256sum "$plant"/*Twin_*.ini)" = "$whole" ] || { echo "gone on with, the files are others" >&2; failed=1; }
+fi
+
 before=$(sha256sum "$plant"/*.ini)
 configure 1 "replaced with --replace alone" copy $source Twin_1 --rebind
 same "a configuration is replaced when it is asked for alone"

@@ -1,4 +1,5 @@
 #ifndef _WIN32
+#include "platform/Console.h"
 #include "platform/DynamicLibrary.h"
 #include "platform/Machine.h"
 #include "services/modLocalTimeAndGMT.h"
@@ -431,6 +432,34 @@ TEST(RealMachine, gives_all_seams) {
     EXPECT_LE(std::abs(machine.TimeZone.GetTimeZoneInformation().Bias), 14 * 60);
     const Environment runtime("XDG_RUNTIME_DIR", folder.Path().c_str());
     EXPECT_TRUE(machine.SingleInstance.Acquire("gfc"));
+}
+
+// In a process of its own, since a signal is for all of one.
+TEST(Interrupts, are_noted_once_and_end_the_program_the_second_time) {
+    const auto once = [] {
+        NoteInterrupts();
+        const bool before = WasInterrupted();
+        ::raise(SIGINT);
+        std::_Exit(!before && WasInterrupted() ? 7 : 1);
+    };
+    EXPECT_EXIT(once(), ::testing::ExitedWithCode(7), "");
+    const auto twice = [] {
+        NoteInterrupts();
+        ::raise(SIGINT);
+        ::raise(SIGINT);
+        std::_Exit(1);
+    };
+    EXPECT_EXIT(twice(), ::testing::KilledBySignal(SIGINT), "");
+}
+
+TEST(Interrupts, that_the_program_was_told_to_ignore_stay_ignored) {
+    const auto ignored = [] {
+        ::signal(SIGHUP, SIG_IGN);
+        NoteInterrupts();
+        ::raise(SIGHUP);
+        std::_Exit(WasInterrupted() ? 1 : 7);
+    };
+    EXPECT_EXIT(ignored(), ::testing::ExitedWithCode(7), "");
 }
 
 } // namespace

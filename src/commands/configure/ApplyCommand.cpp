@@ -1,5 +1,6 @@
 #include "commands/Json.h"
 #include "commands/configure/Configure.h"
+#include "commands/configure/Steps.h"
 #include "plan/Apply.h"
 #include "plan/Template.h"
 
@@ -64,14 +65,25 @@ std::string ReadPlan(const std::string& path, platform::Machine& machine) {
                   "the table cannot be read: " + path + " (" + machine.Files.LastFailure() + ")");
 }
 
+std::vector<plan::Checked> PlanAll(const std::string& table, const OpenProject& open,
+                                   const plan::ApplyOptions& options, Context context, plan::Faults& faults) {
+    std::vector<plan::Checked> targets;
+    {
+        Steps steps("Planning", 0);
+        targets = plan::PlanTable(table, context.Machine.Files, *open.Library, open.Project, options, faults,
+                                  [&steps](const std::string& station) { return steps.Begin(station); });
+    }
+    EndIfBrokenOff();
+    return targets;
+}
+
 void Apply(Options options, Context context) {
     const std::string table = ReadPlan(options.Plan, context.Machine);
     OpenProject open = AskForProject(context.Machine);
     if (options.DespiteErrors)
         options.Apply.Strictness = plan::Strictness::AsTheWindows;
     plan::Faults faults;
-    const auto targets = plan::PlanTable(table, context.Machine.Files, *open.Library, open.Project,
-                                         options.Apply, faults, [](const std::string&) { return true; });
+    const auto targets = PlanAll(table, open, options.Apply, context, faults);
     if (!faults.empty()) {
         PutFaults(faults, options.Json);
         throw Failure(exitcode::Found, std::to_string(faults.size()) +
@@ -97,7 +109,10 @@ void MakeTemplate(const TemplateOptions& options, Context context) {
     std::vector<project::TagList> tags;
     tags.reserve(options.Stations.size()); // they are pointed to
     std::vector<plan::TemplateStation> stations;
+    Steps steps("Reading", options.Stations.size());
     for (const std::string& station : StationsNamed(open.Project, options.Stations)) {
+        if (!steps.Begin(station))
+            break;
         const std::string file = open.Project.ConfigFileOf(station);
         if (!context.Machine.Files.Read(file))
             throw Failure(exitcode::WrongUse,
@@ -105,6 +120,7 @@ void MakeTemplate(const TemplateOptions& options, Context context) {
         tags.push_back(open.Library->ReadTags(station, open.Project.ProjectFile, [](std::string_view) {}));
         stations.push_back({station, file, &tags.back()});
     }
+    EndIfBrokenOff();
     const std::string table = plan::WriteSheet(plan::TemplateOf(ini, stations, options.Tags));
     if (options.Target.empty())
         std::cout << table;

@@ -25,12 +25,14 @@ int Main(int argc, const char* const* argv) {
                "  0  done, and the check finds no error in what was written\n"
                "  1  nothing was written since something does not fit, or the check finds errors\n"
                "  2  wrong use: no such command, option, file or station\n"
-               "  3  the project could not be asked, or a file not be written");
+               "  3  the project could not be asked, or a file not be written\n"
+               "130  broken off by Ctrl+C between two stations; what was not written is told");
     app.set_version_flag("--version", GFC_VERSION);
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     platform::RealMachine real;
     platform::Machine machine = real.Seams();
+    platform::NoteInterrupts();
     int status = exitcode::Clean;
     const Context context{machine, status};
     AddCopyCommand(app, context);

@@ -1,11 +1,13 @@
 #include "commands/Json.h"
 #include "commands/configure/Configure.h"
+#include "commands/configure/Steps.h"
 #include "services/Text.h"
 #include "suggest/Known.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <functional>
 #include <iostream>
 
 namespace gfc::commands {
@@ -48,6 +50,8 @@ private:
     [[nodiscard]] std::string Against(const plan::Source& source, const plan::StationPlan& plan) const;
     void Finish();
     void Preview() const;
+    [[nodiscard]] std::vector<const Planned*> Ready() const;
+    [[nodiscard]] std::vector<plan::Checked> CheckAll(const std::vector<const Planned*>& ready) const;
     void Write();
     [[nodiscard]] Json AsJson(const Planned& planned) const;
 
@@ -113,6 +117,16 @@ void Job::Plan(plan::Source& source, const std::string& station) {
     planned_.push_back(std::move(planned));
 }
 
+void PlanAll(const std::vector<std::string>& stations, const std::function<void(const std::string&)>& plan) {
+    {
+        Steps steps("Planning", stations.size());
+        for (const std::string& station : stations)
+            if (steps.Begin(station))
+                plan(station);
+    }
+    EndIfBrokenOff();
+}
+
 void Job::Copy() {
     const std::string station = StationsNamed(open_.Project, {options_.Stations.front()}).front();
     const auto destinations = Destinations(station);
@@ -121,14 +135,13 @@ void Job::Copy() {
         const config::FileIni ini(context_.Machine.Files);
         source.Bound.Others = suggest::OtherStationsOf(ini, open_.Project, {});
     }
-    for (const std::string& destination : destinations)
-        Plan(source, destination);
+    PlanAll(destinations, [&](const std::string& destination) { Plan(source, destination); });
     Finish();
 }
 
 void Job::BindAnew() {
-    for (const std::string& station : StationsNamed(open_.Project, options_.Stations))
-        Plan(Take(station, TagsOf(station)), station);
+    PlanAll(StationsNamed(open_.Project, options_.Stations),
+            [&](const std::string& station) { Plan(Take(station, TagsOf(station)), station); });
     Finish();
 }
 
@@ -178,16 +191,32 @@ void Job::Preview() const {
     }
 }
 
-void Job::Write() {
-    std::vector<plan::Checked> targets;
-    std::vector<const Planned*> written;
+std::vector<const Planned*> Job::Ready() const {
+    std::vector<const Planned*> ready;
     for (const Planned& planned : planned_)
-        if (planned.Against.empty()) {
-            plan::Change change = plan::ChangeFor(open_.Project, *planned.From, planned.Plan);
-            auto report = plan::CheckOf(open_.Project, change, planned.Tags);
-            targets.push_back({std::move(change), std::move(report)});
-            written.push_back(&planned);
-        }
+        if (planned.Against.empty())
+            ready.push_back(&planned);
+    return ready;
+}
+
+std::vector<plan::Checked> Job::CheckAll(const std::vector<const Planned*>& ready) const {
+    std::vector<plan::Checked> targets;
+    {
+        Steps steps("Checking", ready.size());
+        for (const Planned* planned : ready)
+            if (steps.Begin(planned->Plan.Station)) {
+                plan::Change change = plan::ChangeFor(open_.Project, *planned->From, planned->Plan);
+                auto report = plan::CheckOf(open_.Project, change, planned->Tags);
+                targets.push_back({std::move(change), std::move(report)});
+            }
+    }
+    EndIfBrokenOff();
+    return targets;
+}
+
+void Job::Write() {
+    const auto ready = Ready();
+    const auto targets = CheckAll(ready);
     const auto results = WriteAll(open_, targets, options_.User, context_);
     context_.Status = CodeOf(targets, results);
     if (!options_.Json) {
@@ -198,7 +227,7 @@ void Job::Write() {
     }
     Json stations = Json::array();
     for (std::size_t i = 0; i < results.size(); ++i) {
-        Json station = AsJson(*written[i]);
+        Json station = AsJson(*ready[i]);
         station["written"] = results[i].Done;
         station["reason"] = results[i].Reason;
         station["errors"] = audit::CountOf(targets[i].Report.Findings, audit::Severity::Error);

@@ -1,5 +1,7 @@
 #include "commands/Listing.h"
 #include "commands/configure/Configure.h"
+#include "commands/configure/Steps.h"
+#include "platform/Console.h"
 #ifdef GFC_RECORD
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
@@ -40,8 +42,13 @@ std::vector<plan::Written> WriteAll(OpenProject& open, const std::vector<plan::C
     config::Recorder& recorder = recording.Recorder;
     const plan::Writer writer{context.Machine.Files, *open.Library, recorder, open.Project, user};
     std::vector<plan::Written> results;
-    for (const plan::Checked& target : targets)
-        results.push_back(plan::Write(writer, target.Change));
+    {
+        Steps steps("Writing", targets.size());
+        for (const plan::Checked& target : targets)
+            results.push_back(steps.Begin(target.Change.Station)
+                                  ? plan::Write(writer, target.Change)
+                                  : plan::Written{false, "Broken off before it."});
+    }
     recorder.Settle();
     if (const std::string trouble = recorder.Trouble(); !trouble.empty())
         Tell("what was written is not entered in the history. " + trouble);
@@ -50,7 +57,7 @@ std::vector<plan::Written> WriteAll(OpenProject& open, const std::vector<plan::C
 
 int CodeOf(const std::vector<plan::Checked>& targets, const std::vector<plan::Written>& results) {
     if (!std::ranges::all_of(results, &plan::Written::Done))
-        return exitcode::NotToBeHad;
+        return platform::WasInterrupted() ? exitcode::BrokenOff : exitcode::NotToBeHad;
     const bool sound = std::ranges::all_of(targets, [](const plan::Checked& target) {
         return audit::CountOf(target.Report.Findings, audit::Severity::Error) == 0;
     });

@@ -2,12 +2,24 @@
 
 #include "platform/windows/Wide.h"
 
+#include <atomic>
 #include <cstdio>
 #include <fcntl.h>
 #include <io.h>
 #include <shellapi.h>
 
 namespace gfc::platform {
+
+namespace {
+
+std::atomic<bool> interrupted = false; // the system tells of it on a thread of its own
+
+BOOL WINAPI Note(DWORD event) {
+    const bool keys = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
+    return keys && !interrupted.exchange(true) ? TRUE : FALSE;
+}
+
+} // namespace
 
 // The arguments that a program gets by itself are in the machine's own code page, which holds few of the
 // names that a folder can have.
@@ -23,6 +35,18 @@ std::vector<std::string> ConsoleArguments(int, const char* const*) {
         arguments.push_back(windows::Utf8(words[i]));
     ::LocalFree(words);
     return arguments;
+}
+
+bool SomebodyWatches() {
+    return ::_isatty(::_fileno(stderr)) != 0;
+}
+
+void NoteInterrupts() {
+    ::SetConsoleCtrlHandler(Note, TRUE);
+}
+
+bool WasInterrupted() {
+    return interrupted;
 }
 
 } // namespace gfc::platform
