@@ -83,6 +83,7 @@ bool TakeIsa(TagName& name, std::size_t letters, std::size_t digits) {
     Take(name, letters, digits, first->Means);
     const std::string_view functions = std::string_view(text).substr(first->Text.size());
     name.Device.Transmits = functions.find_first_not_of(Transmitting) == std::string_view::npos;
+    name.Device.Totalizes = first->Text == "F" && functions.find('Q') != std::string_view::npos;
     if (ActsOn(functions) && first->Text != "H")
         name.Device.Means.push_back(Subject::Aside);
     return true;

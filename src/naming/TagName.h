@@ -60,6 +60,7 @@ struct Device {
     Meanings Means;
     bool IsKks = false;
     bool Transmits = false; // measures, against computing, totalizing, switching
+    bool Totalizes = false; // a flow: with the letter Q, by which ISA-5.1 tells the quantity from its rate
 };
 
 struct TagName {

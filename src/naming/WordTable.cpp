@@ -109,6 +109,7 @@ constexpr Word Table[] = {
     {"BORRADO", Reset, Spanish}, {"ZERAR", Reset, Portuguese}, {"ZERA", Reset, Portuguese},
     {"REINICIO", Reset}, {"REINICIAR", Reset}, {"PUESTACERO", Reset, Spanish}, {"LIMPIAR", Reset, Spanish},
     {"LIMPAR", Reset, Portuguese}, {"ENABLE", Enable, English}, {"ENA", Enable}, {"EN", Enable, English},
+    {"GCEN", Enable, English, Analyser}, {"GCENA", Enable, English, Analyser},
     {"ENABLED", Enable, English}, {"HABILITA", Enable}, {"HABILITAR", Enable},
     {"HABILITACION", Enable, Spanish}, {"HABILITACAO", Enable, Portuguese}, {"HAB", Enable},
     {"PERM", Enable}, {"STROBE", Enable, English}, {"VALID", Enable, English}, {"VALIDO", Enable},

@@ -12,9 +12,9 @@ bool IsDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < middle;
 }
 
-// Between the ground and the words on it; the words of what is disabled are faded already.
-QColor OutlineOn(const QPalette& palette) {
-    const QColor ground = palette.color(QPalette::Window);
+// Between the ground, or what highlights, and the words; the words of what is disabled are faded already.
+QColor OutlineOn(const QPalette& palette, bool hasFocus) {
+    const QColor ground = palette.color(hasFocus ? QPalette::Highlight : QPalette::Window);
     const QColor words = palette.color(QPalette::WindowText);
     const auto between = [](int from, int to) { return from + (to - from) * 45 / 100; };
     return {between(ground.red(), words.red()), between(ground.green(), words.green()),
@@ -41,13 +41,12 @@ bool HasOutline(QStyle::PrimitiveElement element) {
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    // What has the focus is outlined in the colour of the highlight already.
-    if (!HasOutline(element) || !IsDark(option->palette) || option->state.testFlag(State_HasFocus))
+    if (!HasOutline(element) || !IsDark(option->palette))
         return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(OutlineOn(option->palette));
+    painter->setPen(OutlineOn(option->palette, option->state.testFlag(State_HasFocus)));
     DrawOutline(element, option->rect, *painter);
     painter->restore();
 }

@@ -23,6 +23,8 @@ constexpr std::array<EvidenceRow, static_cast<std::size_t>(Evidence::Count)> Tab
     {LoopSuffix,      -6, false, "one of several of its loop"},
     {SameDirection,    6, false, ""},
     {OtherDirection, -16, false, "register of the other direction"},
+    {TotalOfLoop,      0, false, "its loop's total is %"},
+    {ModuleWord,      -2, false, "in module %"},
     {PhysicalModule,  -2, false, ""},
     // of which run
     {RunWord,         14, true,  "run % in its name"},

@@ -18,6 +18,8 @@ enum class Evidence {
     LoopSuffix,
     SameDirection,
     OtherDirection,
+    TotalOfLoop,
+    ModuleWord,
     PhysicalModule,
     RunWord,
     RunDigit,

@@ -76,6 +76,47 @@ void GatherSubjects(TagFacts& tag) {
     tag.WordsAndDevice = tag.Words | (tag.Device & ~Fillers);
 }
 
+void Say(TagFacts& tag, SubjectSet more) {
+    tag.Words |= more;
+    tag.WordsAndDevice |= more;
+}
+
+bool IsOfFlow(const TagFacts& tag) {
+    constexpr SubjectSet quantities = SetOf(naming::Subject::Volume) | SetOf(naming::Subject::Mass);
+    return tag.Device == SetOf(naming::Subject::Flow) && (tag.Words & quantities) != 0;
+}
+
+// "FI-101_VOL" beside "FQI-101_VOL": alone, it might be either.
+void MarkRates(std::vector<TagFacts>& facts) {
+    const auto keyOf = [](const TagFacts& tag) {
+        return naming::Fold(tag.Tag->RegType) + "|" + tag.Name.Device.Loop + "|" +
+               tag.Name.Device.LoopSuffix + "|" + std::to_string(tag.Words);
+    };
+    std::unordered_map<std::string, const TagFacts*> totals;
+    for (const TagFacts& tag : facts)
+        if (IsOfFlow(tag) && tag.Name.Device.Totalizes)
+            totals.emplace(keyOf(tag), &tag);
+    for (TagFacts& tag : facts) {
+        if (totals.empty() || !IsOfFlow(tag) || tag.Name.Device.Totalizes)
+            continue;
+        if (const auto total = totals.find(keyOf(tag)); total != totals.end()) {
+            tag.Total = total->second->Tag->TagName;
+            Say(tag, SetOf(naming::Subject::Rate));
+        }
+    }
+}
+
+// "NS-101_FLOW" in a module of states. What says more than whose state it is may be anything.
+void MarkStates(std::vector<TagFacts>& facts) {
+    using enum naming::Subject;
+    constexpr SubjectSet whose = SetOf(Flow) | SetOf(Gas) | SetOf(FlowCalculation) | SetOf(GasCalculation);
+    for (TagFacts& tag : facts)
+        if (tag.Words != 0 && (tag.Words & ~whose) == 0 && tag.Module->Says(Status)) {
+            tag.IsByModule = true;
+            Say(tag, SetOf(Status));
+        }
+}
+
 // Which registers a question's bindings name, by their numbers: hardly any tag passes that.
 class TakenRegisters {
 public:
@@ -157,6 +198,8 @@ std::vector<TagFacts> FactsOf(const Question& question) {
     MarkAlike(all);
     MarkSchemeWords(all);
     std::ranges::for_each(all, GatherSubjects);
+    MarkRates(all);
+    MarkStates(all);
     return all;
 }
 

@@ -34,7 +34,9 @@ struct TagFacts {
     // quantity only.
     SubjectSet Words = 0;
     SubjectSet WordsAndDevice = 0;
-    SubjectSet Device = 0; // what its letters alone say
+    SubjectSet Device = 0;   // what its letters alone say
+    std::string Total;       // another tag, which totals what this one says, so that this is the rate
+    bool IsByModule = false; // that it is a state its module says, and not its name
 };
 
 // One for each tag of a known class, in their order.

@@ -162,12 +162,14 @@ void AddQualities(const TagFacts& tag, const binding::VariableRow& row, Match& m
     const bool same = tag.IsInput == IsInput(row);
     add(same, Evidence::SameDirection);
     add(!same, Evidence::OtherDirection);
+    add(!tag.Total.empty(), Evidence::TotalOfLoop, tag.Total);
+    add(tag.IsByModule, Evidence::ModuleWord, std::string(tag.Tag->ModuleName.View()));
     add(!project::IsVirtual(*tag.Tag), Evidence::PhysicalModule);
 }
 
 bool IsSureOfWhat(const TagFacts& tag, const Match& match) {
     using enum Evidence;
-    for (const auto kind : {CutWord, UnknownWord, LowOrHigh, LoopSuffix, OtherDirection})
+    for (const auto kind : {CutWord, UnknownWord, LowOrHigh, LoopSuffix, OtherDirection, ModuleWord})
         if (Has(match.Evidence, kind))
             return false;
     return !tag.IsAlike && !tag.Name.Says(Subject::HexanePlus);

@@ -172,6 +172,47 @@ TEST(Suggest, StackedRangesAreSureOnlyByTheSelectedOne) {
     ExpectThat(selected.For(1, Differential), "R1_DP_SEL", Confidence::High);
 }
 
+// By its words alone "FI-101_VOL" might be the total, and so it is where there is no other.
+TEST(Suggest, TheLetterQTellsTheTotalFromTheFlow) {
+    Station station({1, 2});
+    for (const char* name : {"FI-101_VOL", "FQI-101_VOL", "FI-101_MASS", "FQI-101_MASS", "FI-102_VOL",
+                             "FQI-102_VOL", "FI-102_MASS", "FQI-102_MASS"})
+        station.Tag(name, "RESULTS", "FY");
+    const std::pair<const char*, const char*> tags[] = {{"StdVolFlowKDIO", "FI-102_VOL"},
+                                                        {"StdMassFlowKDIO", "FI-102_MASS"},
+                                                        {"GasVolumeKDIO", "FQI-102_VOL"},
+                                                        {"GasMassKDIO", "FQI-102_MASS"}};
+    for (const int run : {1, 2})
+        for (const auto& [stem, tag] : tags)
+            station.Asked.Wants.push_back({run, &RowOf(stem)});
+    for (const auto& [stem, tag] : tags)
+        ExpectThat(station.For(2, RowOf(stem)), tag, Confidence::High);
+    EXPECT_THAT(station.For(2, RowOf("StdVolFlowKDIO")).Reason, HasSubstr("its loop's total is FQI-102_VOL"));
+    std::erase_if(station.Asked.Tags, [](const auto& tag) { return tag.TagName.View().starts_with("FQI"); });
+    ExpectThat(station.For(2, RowOf("GasVolumeKDIO")), "FI-102_VOL", Confidence::High);
+    EXPECT_EQ(station.For(2, RowOf("StdVolFlowKDIO")).Confidence, Confidence::None);
+}
+
+// The name says whose state it is, and the module that it is one; that is no proof.
+TEST(Suggest, AStateMayBeSaidByTheModule) {
+    Station station({1, 2});
+    for (const int run : {1, 2}) {
+        for (const char* name : {"NS-10#_FLOW", "NS-10#_GAS", "NS-10#_HORN"}) {
+            std::string tag = name;
+            tag.replace(tag.find('#'), 1, std::to_string(run));
+            station.Tag(tag, "VAY_STATUS", "AY");
+        }
+        for (const char* stem : {"AGA3StatusKDIO", "AGA8StatusKDIO"})
+            station.Asked.Wants.push_back({run, &RowOf(stem)});
+    }
+    ExpectThat(station.For(1, RowOf("AGA3StatusKDIO")), "NS-101_FLOW", Confidence::Fair);
+    ExpectThat(station.For(2, RowOf("AGA8StatusKDIO")), "NS-102_GAS", Confidence::Fair);
+    EXPECT_THAT(station.For(2, RowOf("AGA8StatusKDIO")).Reason, HasSubstr("in module VAY_STATUS"));
+    for (auto& tag : station.Asked.Tags)
+        tag.ModuleName = "VAY_MORE";
+    EXPECT_EQ(station.For(1, RowOf("AGA3StatusKDIO")).Confidence, Confidence::None);
+}
+
 TEST(Suggest, ATagThatIsBoundIsNotFree) {
     auto station = Station({1, 2}).Tags({"R1_PRES", "R2_PRES", "R1_TEMP", "R2_TEMP", "R1_DP"}).AskInputs();
     station.Bind(2, Temperature, "R1_PRES");

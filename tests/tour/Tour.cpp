@@ -11,6 +11,7 @@
 #include "record/ProjectRecorder.h"
 #include "report/pdf/Pdf.h"
 #include "scenarios/Moves.h"
+#include "tour/DeskTour.h"
 #include "tour/RecordTour.h"
 #include "tour/RunsTour.h"
 #include "tour/TourScreen.h"
@@ -150,6 +151,7 @@ void LeaveAPass(test::Story& story, const QString& station) {
 
 void Tell(test::Story& story, const QDir& folder) {
     moves::StartUp(story);
+    tour::TellDesk(story, large);
     ConfigureStation(story, single, {}, {1});
     ConfigureStation(story, large, {.Standard = 1, .Source = 1}, {1, 2, 3});
     ConfigureStation(story, skid, {.Standard = 2, .Source = 2}, {1});

@@ -3,11 +3,14 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPixmap>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QToolTip>
 
 namespace gfc::tour {
 
@@ -30,6 +33,14 @@ QString NameOf(const QWidget& window) {
                                          : window.objectName();
 }
 
+// A tip is a window of its own, above the one that it speaks of.
+void PaintTips(const QWidget& window, QPixmap& picture) {
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget* tip : windows)
+        if (tip->isVisible() && tip->windowType() == Qt::ToolTip)
+            QPainter(&picture).drawPixmap(window.mapFromGlobal(tip->pos()), tip->grab());
+}
+
 } // namespace
 
 TourScreen::TourScreen(QString folder, int pictures) : folder_(std::move(folder)), pictures_(pictures) {
@@ -49,14 +60,20 @@ QString TourScreen::SightOf(const QWidget& window) {
     for (const QStatusBar* bar : bars)
         for (const QLabel* panel : bar->findChildren<QLabel*>())
             sight += panel->text();
-    // So does a list that was empty, and the quiet line under a form.
+    // So do a list that was empty or is sorted otherwise, a tip, and the lines that a form writes itself.
     const auto lists = window.findChildren<QAbstractItemView*>();
     for (const QAbstractItemView* list : lists)
         if (list->isVisible() && list->model() != nullptr)
             sight += list->model()->rowCount() > 0 ? QLatin1Char('+') : QLatin1Char('-');
-    if (const auto* notes = window.findChild<QLabel*>(QStringLiteral("Notes")); notes != nullptr)
-        sight += notes->text();
-    return sight;
+    const auto headings = window.findChildren<QHeaderView*>();
+    for (const QHeaderView* heading : headings)
+        if (heading->isSortIndicatorShown())
+            sight += QString::number(heading->sortIndicatorSection());
+    for (const char* line : {"Notes", "Progress", "FilterSays", "layoutFindResult"})
+        if (const auto* label = window.findChild<QLabel*>(QLatin1String(line));
+            label != nullptr && label->isVisible())
+            sight += label->text();
+    return sight + (QToolTip::isVisible() ? QToolTip::text() : QString());
 }
 
 bool TourScreen::ViewText(const std::string& path, ui::WindowState state) {
@@ -80,7 +97,9 @@ void TourScreen::TakePicture(QWidget& window) {
     ++pictures_;
     const QString name =
         QStringLiteral("%1-%2.png").arg(pictures_, 3, 10, QLatin1Char('0')).arg(NameOf(window));
-    (void)window.grab().save(QDir(folder_).filePath(name));
+    QPixmap picture = window.grab();
+    PaintTips(window, picture);
+    (void)picture.save(QDir(folder_).filePath(name));
 }
 
 } // namespace gfc::tour

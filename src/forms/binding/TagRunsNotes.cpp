@@ -83,7 +83,7 @@ void TagRuns::ShowProgress() {
             ++offered;
             sure += suggestions_.At(position)->Confidence == Confidence::High ? 1 : 0;
         }
-    if (suggestions_.WereAsked())
+    if (offered > 0)
         text += ", " + std::to_string(offered) + " suggested" + ", " + std::to_string(sure) + " of them sure";
     Progress.SetCaption(std::move(text));
 }
