@@ -42,9 +42,11 @@ void Print(const QString& line) {
     QTextStream(stdout) << line << Qt::endl;
 }
 
-// A fresh sample project in the folder, open in a workshop state of the tour's own.
+// A fresh sample project in the folder, open in a workshop state of the tour's own. Of a tour that broke off
+// there may be drafts.
 bool PrepareProject(const QDir& folder) {
-    QDir(folder.filePath(QStringLiteral("project"))).removeRecursively();
+    for (const auto& old : {QStringLiteral("project"), QStringLiteral("state")})
+        QDir(folder.filePath(old)).removeRecursively();
     qputenv("XDG_STATE_HOME", QFile::encodeName(folder.filePath(QStringLiteral("state"))));
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder.filePath(QStringLiteral("state"))));
     const QString project = folder.filePath(QStringLiteral("project"));
