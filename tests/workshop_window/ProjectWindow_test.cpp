@@ -1,4 +1,5 @@
 #include "workshop/WorkshopFixture.h"
+#include "workshop/load/Audit.h"
 #include "workshop/store/OpenProject.h"
 #include "workshop/window/FilesDialog.h"
 #include "workshop/window/FilteredTable.h"
@@ -17,6 +18,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTest>
@@ -68,7 +70,7 @@ protected:
         });
         look.start(0);
         work();
-        EXPECT_TRUE(answered);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return answered; }));
     }
     static void Say(QDialog& dialog, const QString& text) {
         dynamic_cast<QInputDialog&>(dialog).setTextValue(text);
@@ -76,6 +78,16 @@ protected:
     }
     static void Press(QDialog& dialog, QMessageBox::StandardButton button) {
         QTest::mouseClick(dynamic_cast<QMessageBox&>(dialog).button(button), Qt::LeftButton);
+    }
+    void Drop(const std::string& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(QString::fromStdString(file))});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window_, &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window_, &drop);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "whoever dropped it waits";
     }
     std::string Status() { return Run("tags Northgate_Custody").Output; }
     std::string WriteTable(const std::string& bytes) {
@@ -205,6 +217,8 @@ TEST_F(ProjectWindowTest, takes_a_dropped_table_in_once_its_columns_are_named) {
                 choice->setCurrentText(QLatin1String(ours));
                 Q_EMIT choice->activated(choice->currentIndex());
             };
+            auto* first = Find<QTableWidget>("Titles", &dialog)->cellWidget(0, 1);
+            first->setFocus();
             choose(0, "Tag");
             choose(1, "Class");
             choose(2, "Register");
@@ -217,18 +231,31 @@ TEST_F(ProjectWindowTest, takes_a_dropped_table_in_once_its_columns_are_named) {
             direction->setCurrentIndex(1);
             Q_EMIT direction->activated(1);
             ASSERT_TRUE(QTest::qWaitFor([&] { return import->isEnabled(); }));
+            EXPECT_EQ(Find<QTableWidget>("Titles", &dialog)->cellWidget(0, 1), first)
+                << "keys stay where they are";
             dialog.grab().save(QString::fromStdString(::testing::TempDir() + "import-dialog.png"));
             QTest::mouseClick(import, Qt::LeftButton);
         },
-        [&] {
-            QMimeData data;
-            data.setUrls({QUrl::fromLocalFile(QString::fromStdString(table))});
-            QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&window_, &enter);
-            QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&window_, &drop);
-        });
+        [&] { Drop(table); });
     EXPECT_THAT(Run("tags Newfield").Output, HasSubstr("Q-2  FX     13        V1      Virtual Module"));
+}
+
+// Whoever sits at a window has no switches.
+TEST_F(ProjectWindowTest, speaks_of_nothing_that_only_the_command_has) {
+    const std::string help = Run("import-tags --help").Output;
+    std::size_t switches = 0;
+    for (std::size_t at = help.find("--"); at != std::string::npos; at = help.find("--", at + 2)) {
+        const std::string name =
+            help.substr(at, help.find_first_not_of("abcdefghijklmnopqrstuvwxyz-", at) - at);
+        if (name != "--help" && name != "--project" && name != "--preview" && name != "--dry-run" &&
+            name != "--replace" && name != "--mapping" && name != "--template") {
+            EXPECT_THAT(InWindow("say so with " + name).toStdString(), testing::Not(HasSubstr("--"))) << name;
+            ++switches;
+        }
+    }
+    EXPECT_GT(switches, 8U);
+    EXPECT_EQ(InWindow("row 1: name it with --map or leave it out with --ignore-unknown").toStdString(),
+              "row 1: name it with \"Read as\" or leave it out with \"Leave out columns that nobody knows\"");
 }
 
 TEST_F(ProjectWindowTest, shows_what_a_table_of_another_tool_would_break_and_takes_nothing_on_cancel) {
@@ -261,19 +288,65 @@ TEST_F(ProjectWindowTest, downloads_what_the_stations_are_to_load) {
     auto* table =
         qobject_cast<FilteredTable*>(dialog.findChild<QTableView*>(QStringLiteral("files"))->parentWidget());
     ASSERT_FALSE(table->Current().isEmpty());
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &dialog, [] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            QTest::mouseClick(box->button(QMessageBox::Yes), Qt::LeftButton);
-        }
-    });
-    look.start(0);
     dialog.DownloadTo(Folder / "stations");
-    EXPECT_THAT(dialog.findChild<QLabel*>(QStringLiteral("Outcome"))->text().toStdString(),
-                HasSubstr("Files downloaded: 1."));
+    EXPECT_EQ(dialog.findChild<QLabel*>(QStringLiteral("Outcome"))->text(),
+              QStringLiteral("Files downloaded: 1."));
     const std::filesystem::path target =
         Folder / "stations" / table->Current().value(0).toStdString() / "etc" / "stacfg" / "kdormaga.ini";
     EXPECT_TRUE(std::filesystem::exists(target));
+}
+
+TEST_F(ProjectWindowTest, leaves_stations_with_errors_out_of_a_download_unless_told_otherwise) {
+    if (AuditProgram().empty()) {
+        GTEST_SKIP() << "nothing that checks stands beside this program";
+    }
+    OpenSample();
+    ASSERT_EQ(Run("rename-tag Lakeside_Delivery TIT-601_PV TT-1").Status, 0);
+    FilesDialog dialog(Folder / "plant" / "plant.KPJ");
+    const auto download = [&](const std::function<void(QMessageBox&)>& answer) {
+        Answer([&](QDialog& asked) { answer(dynamic_cast<QMessageBox&>(asked)); },
+               [&] { dialog.DownloadTo(Folder / "stations"); });
+        return dialog.findChild<QLabel*>(QStringLiteral("Outcome"))->text().toStdString();
+    };
+    EXPECT_EQ(download([](QMessageBox& box) {
+                  EXPECT_THAT(box.text().toStdString(),
+                              HasSubstr("errors in the configuration of Lakeside_Delivery."));
+                  EXPECT_THAT(box.detailedText().toStdString(), HasSubstr("TIT-601_PV"));
+                  box.reject();
+              }),
+              "Nothing was downloaded.");
+    EXPECT_FALSE(std::filesystem::exists(Folder / "stations"));
+    EXPECT_THAT(download([](QMessageBox& box) { box.findChild<QPushButton*>("Without")->click(); }),
+                testing::StartsWith("Files downloaded: 0.\n"));
+    EXPECT_EQ(download([](QMessageBox& box) { box.findChild<QPushButton*>("All")->click(); }),
+              "Files downloaded: 1.");
+}
+
+TEST_F(ProjectWindowTest, asks_for_a_project_where_a_table_is_dropped_and_none_is_open) {
+    window_.show();
+    const std::string table = WriteTable("Station,Tag\nA,B\n");
+    QString asked;
+    Answer(
+        [&](QDialog& dialog) {
+            asked = dynamic_cast<QMessageBox&>(dialog).text();
+            Press(dialog, QMessageBox::No);
+        },
+        [&] { Drop(table); });
+    EXPECT_EQ(asked,
+              QStringLiteral("No project is open that could take points.csv in. Make a new one for it?"));
+    OpenSample();
+    Drop((Folder / "plant" / "plant.KPJ").string());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window_.statusBar()->currentMessage().startsWith("Opened "); }));
+}
+
+TEST_F(ProjectWindowTest, shows_what_was_changed_beside_it_as_soon_as_somebody_comes_back) {
+    OpenSample();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    ASSERT_EQ(Run("rename-tag Northgate_Custody PT-302 PT-999").Status, 0);
+    EXPECT_FALSE(Table("tags")->SelectFirst(QStringLiteral("PT-999")));
+    QEvent back(QEvent::ActivationChange);
+    QApplication::sendEvent(&window_, &back);
+    EXPECT_TRUE(Table("tags")->SelectFirst(QStringLiteral("PT-999")));
 }
 
 TEST_F(ProjectWindowTest, says_that_no_project_is_open_and_what_to_do) {
@@ -283,7 +356,8 @@ TEST_F(ProjectWindowTest, says_that_no_project_is_open_and_what_to_do) {
         EXPECT_TRUE(Find<QAbstractButton>(name)->isEnabled());
     }
     EXPECT_FALSE(Find<QAction>("Configurator")->isEnabled());
-    window_.ImportTable(Folder / "none.csv");
+    Answer([](QDialog& dialog) { Press(dialog, QMessageBox::No); },
+           [&] { window_.ImportTable(Folder / "none.csv"); });
     EXPECT_EQ(window_.windowTitle(), QStringLiteral("I/O Workshop"));
     EXPECT_FALSE(Find<QAction>("RemoveTag")->isEnabled());
 }

@@ -141,9 +141,11 @@ std::size_t TitlesBy(char separator, std::string_view head, const std::filesyste
     return most;
 }
 
-// Of a table without titles that anybody knows: what its first row has most of.
+// Of a table without titles that anybody knows: what the first row that has any of them has most of.
 char MostIn(std::string_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(" \r\n"), text.size()));
+    const std::size_t first = text.find_first_of(Separators);
+    const std::size_t before = first == std::string_view::npos ? first : text.find_last_of(LineEnds, first);
+    text.remove_prefix(before == std::string_view::npos ? 0 : before + 1);
     const std::string_view line = text.substr(0, text.find_first_of(LineEnds));
     const auto fewer = [&](char a, char b) {
         return std::count(line.begin(), line.end(), a) < std::count(line.begin(), line.end(), b);

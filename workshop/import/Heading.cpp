@@ -23,6 +23,18 @@ bool IsTitle(const std::string& field, const TableWishes& wishes) {
                               ColumnKnownAs(field) != nullptr || NamesSomeAddress(field));
 }
 
+// Where nobody knows a title: what stands above them, a name or a date, fills fewer fields than they do, and
+// no row below them fills more.
+std::size_t FullestRow(const std::vector<CsvRow>& rows) {
+    const auto filled = [](const CsvRow& row) {
+        return std::count_if(row.Fields.begin(), row.Fields.end(),
+                             [](const std::string& field) { return !field.empty(); });
+    };
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::min(rows.size(), RowsLookedAt));
+    const auto fewer = [&](const CsvRow& a, const CsvRow& b) { return filled(a) < filled(b); };
+    return static_cast<std::size_t>(std::max_element(rows.begin(), end, fewer) - rows.begin());
+}
+
 std::size_t TitlesAt(const std::vector<CsvRow>& rows, const TableWishes& wishes) {
     std::size_t best = 0;
     std::size_t most = 0;
@@ -32,7 +44,7 @@ std::size_t TitlesAt(const std::vector<CsvRow>& rows, const TableWishes& wishes)
             most = count;
         }
     }
-    return best;
+    return most > 0 ? best : FullestRow(rows);
 }
 
 bool IsDotted(std::string_view text) {

@@ -33,8 +33,8 @@ struct Heading {
 /// How many of the fields a reader would take for titles.
 [[nodiscard]] std::size_t CountTitles(const std::vector<std::string>& fields, const TableWishes& wishes);
 
-/// The row of the first forty that has the most titles, and the columns under it. Each fault of it is a
-/// complaint. There is at least one row.
+/// The row of the first forty that has the most titles, or else the most fields that hold anything, and the
+/// columns under it. Each fault of it is a complaint. There is at least one row.
 [[nodiscard]] Heading FindHeading(const std::vector<CsvRow>& rows, const TableWishes& wishes,
                                   std::vector<Complaint>& complaints);
 

@@ -77,11 +77,7 @@ int Run(const fs::path& program, std::vector<std::string> arguments) {
 #endif
 
 std::vector<std::string> ArgumentsFor(const Project& project, const std::string& station) {
-    std::vector<std::string> arguments = {"check", "--severity", "error"};
-    const auto open = RecordedProject();
-    if (!open || *open != project.File()) {
-        arguments.insert(arguments.end(), {"--folder", PathText(project.File().parent_path())});
-    }
+    std::vector<std::string> arguments = AuditArguments(project);
     arguments.insert(arguments.end(), {"--", station});
     return arguments;
 }
@@ -93,6 +89,15 @@ fs::path AuditProgram() {
     std::error_code error;
     const bool there = !folder.empty() && fs::is_regular_file(folder / ProgramName, error);
     return there ? folder / ProgramName : fs::path();
+}
+
+std::vector<std::string> AuditArguments(const Project& project) {
+    std::vector<std::string> arguments = {"check", "--severity", "error"};
+    const auto open = RecordedProject();
+    if (!open || *open != project.File()) {
+        arguments.insert(arguments.end(), {"--folder", PathText(project.File().parent_path())});
+    }
+    return arguments;
 }
 
 std::set<std::string> StationsWithErrors(const fs::path& program, const Project& project,

@@ -3,44 +3,16 @@
 #include "workshop/load/Download.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/window/FilteredTable.h"
+#include "workshop/window/PlantCheck.h"
 #include "workshop/window/Told.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLabel>
-#include <QProcess>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace gfc::workshop {
-
-namespace {
-
-#ifdef _WIN32
-constexpr const char* AuditName = "gfc-audit.exe";
-#else
-constexpr const char* AuditName = "gfc-audit";
-#endif
-
-// What the check of the plant lists as errors; empty where there are none or nothing beside us can check.
-QString ErrorsOfPlant(QString& fault) {
-    const QString program =
-        QCoreApplication::applicationDirPath() + QLatin1Char('/') + QLatin1String(AuditName);
-    if (!QFileInfo(program).isExecutable()) {
-        return {};
-    }
-    QProcess audit;
-    audit.start(program, {QStringLiteral("check"), QStringLiteral("--severity"), QStringLiteral("error")});
-    if (!audit.waitForFinished(-1) || audit.exitStatus() != QProcess::NormalExit || audit.exitCode() > 1) {
-        fault = QString::fromUtf8(audit.readAllStandardError()).trimmed();
-        return {};
-    }
-    return audit.exitCode() == 1 ? QString::fromUtf8(audit.readAllStandardOutput()).trimmed() : QString();
-}
-
-} // namespace
 
 FilesDialog::FilesDialog(std::filesystem::path project, QWidget* parent)
     : QDialog(parent), project_(std::move(project)),
@@ -91,29 +63,51 @@ void FilesDialog::AskForFolder() {
     }
 }
 
-void FilesDialog::DownloadTo(const std::filesystem::path& folder) {
-    QString fault;
-    const QString errors = ErrorsOfPlant(fault);
-    if (!fault.isEmpty()) {
-        outcome_->setText(tr("The plant could not be checked: %1").arg(fault));
+// As the command does it, stations with errors are left out; here a person may say otherwise. Nothing where
+// nothing is to be downloaded at all.
+std::optional<std::set<std::string>> FilesDialog::LeftOut(const PlantErrors& errors) {
+    if (errors.Stations.empty()) {
+        return std::set<std::string>();
     }
-    if (!errors.isEmpty()) {
-        QMessageBox box(QMessageBox::Warning, tr("I/O Workshop"),
-                        tr("The check of the plant finds errors. Download all the same?"),
-                        QMessageBox::Yes | QMessageBox::No, this);
-        box.setDetailedText(errors);
-        box.setDefaultButton(QMessageBox::No);
-        if (box.exec() != QMessageBox::Yes) {
+    QStringList names;
+    for (const std::string& station : errors.Stations) {
+        names += Shown(station);
+    }
+    constexpr qsizetype most = 8;
+    const QString more = names.size() > most ? tr(" and %1 more").arg(names.size() - most) : QString();
+    QMessageBox box(QMessageBox::Warning, tr("I/O Workshop"),
+                    tr("The check of the plant finds errors in the configuration of %1%2.")
+                        .arg(names.mid(0, most).join(QStringLiteral(", ")), more),
+                    QMessageBox::Cancel, this);
+    box.setDetailedText(errors.Found);
+    QPushButton* without = box.addButton(tr("&Leave them out"), QMessageBox::AcceptRole);
+    QPushButton* all = box.addButton(tr("Download &all"), QMessageBox::DestructiveRole);
+    without->setObjectName(QStringLiteral("Without"));
+    all->setObjectName(QStringLiteral("All"));
+    box.setDefaultButton(without);
+    box.exec();
+    if (box.clickedButton() == without) {
+        return errors.Stations;
+    }
+    return box.clickedButton() == all ? std::optional(std::set<std::string>()) : std::nullopt;
+}
+
+void FilesDialog::DownloadTo(const std::filesystem::path& folder) {
+    Attempt(this, [&] {
+        Project project = Project::Open(project_, Access::Read);
+        const PlantErrors errors = CheckPlant(project, this);
+        const auto refused = errors.Cancelled ? std::nullopt : LeftOut(errors);
+        if (!refused) {
             outcome_->setText(tr("Nothing was downloaded."));
             return;
         }
-    }
-    Attempt(this, [&] {
-        Project project = Project::Open(project_, Access::Read);
-        const DownloadResult result = Download(project, folder);
+        const DownloadResult result = Download(project, folder, *refused);
         QStringList lines{tr("Files downloaded: %1.").arg(result.Written.size())};
+        if (!errors.Fault.isEmpty()) {
+            lines += tr("The plant could not be checked: %1").arg(errors.Fault);
+        }
         for (const std::string& text : result.Faults) {
-            lines += Shown(text);
+            lines += InWindow(text);
         }
         outcome_->setText(lines.join(QLatin1Char('\n')));
     });

@@ -236,76 +236,100 @@ void ImportDialog::Later() {
     later_->start();
 }
 
-// A large table takes its time, which is told; who breaks it off has no preview.
-bool ImportDialog::ReadTable() {
-    ImportRequest request = Request();
-    if (read_ && readAs_ == request.Wishes.Encoding) {
-        return true;
-    }
-    QProgressDialog told(tr("Reading %1...").arg(Shown(table_.filename())), tr("Cancel"), 0, 100, this);
+// A large table takes its time, which is told from half a second on; who breaks it off has no preview, and
+// nothing imported.
+Progress ImportDialog::Watched(QProgressDialog& told) {
     told.setWindowModality(Qt::WindowModal);
     told.setMinimumDuration(500);
-    request.Told = [&](double share) {
-        told.setValue(static_cast<int>(share * 100));
+    told.setAutoReset(false); // reading comes to its end before planning begins
+    told.setValue(0);
+    return [&told](double share) {
+        told.setValue(static_cast<int>(share * 99));
         return !told.wasCanceled();
     };
+}
+
+void ImportDialog::ReadTable(const Progress& progress) {
+    ImportRequest request = Request();
+    if (read_ && readAs_ == request.Wishes.Encoding) {
+        return;
+    }
+    request.Told = progress;
     read_.reset();
     read_ = ReadRequested(request);
     readAs_ = request.Wishes.Encoding;
-    return true;
 }
 
 void ImportDialog::Preview() {
     try {
-        if (ReadTable()) {
-            Project project = Project::Open(project_, Access::Read);
-            const ImportPlan plan = PlanTable(project, *read_, Request());
-            ShowTitles(plan.Titles);
-            ShowPlan(plan);
-        }
+        QProgressDialog told(tr("Reading %1...").arg(Shown(table_.filename())), tr("Cancel"), 0, 100, this);
+        ImportRequest request = Request();
+        request.Told = Watched(told);
+        ReadTable(request.Told);
+        Project project = Project::Open(project_, Access::Read);
+        const ImportPlan plan = PlanTable(project, *read_, request);
+        ShowTitles(plan.Titles);
+        ShowPlan(plan);
     } catch (const std::exception& failure) {
         preview_->clear();
-        verdict_->setText(Shown(std::string(failure.what())));
+        verdict_->setText(InWindow(failure.what()));
         import_->setEnabled(false);
     }
 }
 
+// Who works by keys stands in one of the choices: they stay where the titles do.
 void ImportDialog::ShowTitles(const Heading& titles) {
-    titles_->setRowCount(static_cast<int>(titles.Titles.size()));
-    for (std::size_t at = 0; at < titles.Titles.size(); ++at) {
-        const int row = static_cast<int>(at);
-        const QString theirs = Shown(titles.Titles[at]);
-        auto* title = new QTableWidgetItem(theirs);
-        title->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-        titles_->setItem(row, 0, title);
-        auto* choice = new QComboBox;
-        choice->setAccessibleName(tr("%1 is read as").arg(theirs));
-        choice->addItem(tr("left out"));
-        for (const Column& column : AllColumns()) {
-            choice->addItem(Shown(std::string(column.Title)));
+    const int rows = static_cast<int>(titles.Titles.size());
+    const bool same = titles_->rowCount() == rows && std::ranges::equal(titles.Titles, shownTitles_);
+    if (!same) {
+        shownTitles_ = titles.Titles;
+        titles_->setRowCount(0);
+        titles_->setRowCount(rows);
+    }
+    for (int row = 0; row < rows; ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        if (!same) {
+            OfferColumns(row, titles.Titles[at]);
         }
+        auto* choice = qobject_cast<QComboBox*>(titles_->cellWidget(row, 1));
         const Column* column = at < titles.Columns.size() ? titles.Columns[at] : nullptr;
         choice->setCurrentIndex(column == nullptr ? 0 : choice->findText(Shown(std::string(column->Title))));
-        connect(choice, &QComboBox::activated, this, [this, choice, theirs = titles.Titles[at]](int chosen) {
-            std::erase_if(columns_.Columns, [&](const ColumnWish& wish) {
-                return SameName(wish.Theirs, theirs) || SameName(wish.Ours, Typed(choice->itemText(chosen)));
-            });
-            columns_.Columns.push_back(
-                {theirs, chosen > 0 ? Typed(choice->itemText(chosen)) : std::string(LeftOut)});
-            Later();
-        });
-        titles_->setCellWidget(row, 1, choice);
     }
+}
+
+void ImportDialog::OfferColumns(int row, const std::string& theirs) {
+    auto* title = new QTableWidgetItem(Shown(theirs));
+    title->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    title->setToolTip(Shown(theirs));
+    titles_->setItem(row, 0, title);
+    auto* choice = new QComboBox;
+    choice->setAccessibleName(tr("%1 is read as").arg(Shown(theirs)));
+    choice->addItem(tr("left out"));
+    for (const Column& column : AllColumns()) {
+        choice->addItem(Shown(std::string(column.Title)));
+    }
+    connect(choice, &QComboBox::activated, this, [this, choice, theirs](int chosen) {
+        const std::string ours = Typed(choice->itemText(chosen));
+        std::erase_if(columns_.Columns, [&](const ColumnWish& wish) {
+            return SameName(wish.Theirs, theirs) || SameName(wish.Ours, ours);
+        });
+        columns_.Columns.push_back({theirs, chosen > 0 ? ours : std::string(LeftOut)});
+        Later();
+    });
+    titles_->setCellWidget(row, 1, choice);
+    // Behind the one above it, as one reads.
+    QWidget* above = row > 0 ? titles_->cellWidget(row - 1, 1) : titles_;
+    setTabOrder(above, choice);
 }
 
 void ImportDialog::ShowPlan(const ImportPlan& plan) {
     preview_->clear();
     auto* how = new QTreeWidgetItem(preview_, QStringList(tr("Read as %1").arg(Shown(plan.Reading))));
     if (!plan.Note.empty()) {
-        Under(how, Shown(plan.Note));
+        Under(how, InWindow(plan.Note));
     }
     for (const std::string& note : plan.Notes) {
-        Under(how, Shown(note));
+        Under(how, InWindow(note));
     }
     how->setExpanded(true);
     std::size_t changing = 0;
@@ -323,7 +347,7 @@ void ImportDialog::ShowPlan(const ImportPlan& plan) {
         auto* faults =
             new QTreeWidgetItem(preview_, QStringList(tr("Faults: %1").arg(plan.Complaints.size())));
         AddSome(faults, plan.Complaints,
-                [](const Complaint& complaint) { return Shown(workshop::TextOf(complaint)); });
+                [](const Complaint& complaint) { return InWindow(workshop::TextOf(complaint)); });
         faults->setExpanded(true);
     }
     ShowBroken(plan);
@@ -368,8 +392,11 @@ void ImportDialog::ShowBroken(const ImportPlan& plan) {
 
 void ImportDialog::Import() {
     const bool done = Attempt(this, [&] {
+        QProgressDialog told(tr("Importing %1...").arg(Shown(table_.filename())), tr("Cancel"), 0, 100, this);
+        ImportRequest request = Request();
+        request.Told = Watched(told);
         Project project = Project::Open(project_, Access::Write);
-        const ImportPlan plan = ImportTable(project, *read_, Request());
+        const ImportPlan plan = ImportTable(project, *read_, request);
         if (!plan.Complaints.empty()) {
             throw Failure("The project has changed meanwhile and takes the table no longer; see the faults.");
         }

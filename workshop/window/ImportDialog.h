@@ -6,11 +6,14 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
 class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QProgressDialog;
 class QPushButton;
 class QTableWidget;
 class QTimer;
@@ -41,12 +44,15 @@ private:
     void ShowBroken(const ImportPlan& plan);
     void Import();
     void Keep();
-    [[nodiscard]] bool ReadTable();
+    void OfferColumns(int row, const std::string& theirs);
+    [[nodiscard]] static Progress Watched(QProgressDialog& told);
+    void ReadTable(const Progress& progress);
 
     std::filesystem::path project_;
     std::filesystem::path table_;
     std::optional<CsvTable> read_; ///< as read with readAs_
     std::string readAs_;
+    std::vector<std::string> shownTitles_;
     TableWishes columns_; ///< the columns that a person named, also of titles that this table lacks
     QString done_;
 

@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -29,6 +30,8 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QTableView>
+#include <QTimer>
+#include <QUrl>
 
 namespace gfc::workshop {
 
@@ -57,6 +60,13 @@ fs::path Whole(const QString& path) {
 bool AskedYes(QWidget* parent, const QString& text) {
     return QMessageBox::question(parent, QMessageBox::tr("I/O Workshop"), text,
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+// The earliest time of all where there is no such file.
+fs::file_time_type ChangedAt(const fs::path& file) {
+    std::error_code error;
+    const fs::file_time_type at = fs::last_write_time(file, error);
+    return error ? fs::file_time_type::min() : at;
 }
 
 // Empty where the configurator does not stand beside this program.
@@ -144,6 +154,7 @@ void ProjectWindow::MakeMenus() {
     ofProject_ += Add(stations, "Refresh", tr("&Read anew"), QKeySequence::Refresh, &ProjectWindow::Refresh);
 
     QMenu* help = menuBar()->addMenu(tr("&Help"));
+    Add(help, "Manual", tr("&Manual"), QKeySequence::HelpContents, &ProjectWindow::ShowManual);
     Add(help, "About", tr("&About"), {}, &ProjectWindow::ShowAbout);
 }
 
@@ -208,6 +219,7 @@ bool ProjectWindow::MakeSampleIn(const fs::path& folder) {
 
 void ProjectWindow::Refresh() {
     file_ = RecordedProject().value_or(fs::path());
+    shown_ = ChangedAt(file_);
     setWindowTitle(file_.empty() ? tr("I/O Workshop") : tr("%1 - I/O Workshop").arg(Shown(file_.filename())));
     ShowStations();
     ShowTags();
@@ -302,9 +314,12 @@ void ProjectWindow::AskForTable() {
 }
 
 void ProjectWindow::ImportTable(const fs::path& table) {
+    if (file_.empty() && AskedYes(this, tr("No project is open that could take %1 in. Make a new one for it?")
+                                            .arg(Shown(table.filename())))) {
+        AskForNewProject();
+    }
     if (file_.empty()) {
-        Say(tr("Open a project first, to take the table into."));
-        return;
+        return Say(tr("Open a project first, to take the table into."));
     }
     ImportDialog dialog(file_, table, this);
     if (dialog.exec() == QDialog::Accepted) {
@@ -434,6 +449,17 @@ void ProjectWindow::StartConfigurator() {
     }
 }
 
+// The configurator's manual, in whatever this desktop shows such pages with.
+void ProjectWindow::ShowManual() {
+    const QString page =
+        QCoreApplication::applicationDirPath() + QStringLiteral("/manual/bring-in-tags.html");
+    if (!QFileInfo::exists(page) || !QDesktopServices::openUrl(QUrl::fromLocalFile(page))) {
+        QMessageBox::information(
+            this, tr("I/O Workshop"),
+            tr("The manual could not be shown. It opens by F1 in the configurator, too."));
+    }
+}
+
 void ProjectWindow::ShowAbout() {
     QMessageBox::about(
         this, tr("I/O Workshop"),
@@ -464,11 +490,26 @@ void ProjectWindow::dragEnterEvent(QDragEnterEvent* event) {
     }
 }
 
+// Whoever dropped it waits until this has returned: the windows that ask come behind that.
 void ProjectWindow::dropEvent(QDropEvent* event) {
-    const fs::path file = Whole(event->mimeData()->urls().first().toLocalFile());
+    std::vector<fs::path> files;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            files.push_back(Whole(url.toLocalFile()));
+        }
+    }
     event->acceptProposedAction();
-    const QString ending = Shown(file.extension());
-    if (ending.compare(QStringLiteral(".kpj"), Qt::CaseInsensitive) == 0) {
+    QTimer::singleShot(0, this, [this, files] {
+        for (const fs::path& file : files) {
+            Take(file);
+        }
+    });
+}
+
+void ProjectWindow::Take(const fs::path& file) {
+    raise();
+    activateWindow();
+    if (Shown(file.extension()).compare(QStringLiteral(".kpj"), Qt::CaseInsensitive) == 0) {
         OpenProject(file);
     } else {
         ImportTable(file);
@@ -482,9 +523,11 @@ void ProjectWindow::closeEvent(QCloseEvent* event) {
 
 // Whoever comes back from the configurator or a terminal sees what came of it.
 void ProjectWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() &&
-        RecordedProject().value_or(fs::path()) != file_) {
-        Refresh();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        const fs::path open = RecordedProject().value_or(fs::path());
+        if (open != file_ || ChangedAt(open) != shown_) {
+            Refresh();
+        }
     }
     QMainWindow::changeEvent(event);
 }

@@ -62,6 +62,7 @@ private:
     void ShowUses();
     void ShowFiles();
     void StartConfigurator();
+    void ShowManual();
     void ShowAbout();
     void Find();
 
@@ -69,12 +70,15 @@ private:
     [[nodiscard]] std::string CurrentTag() const;
     /// Where the station's configuration names the tag, one line for each; empty where it does not.
     [[nodiscard]] QString UsesOf(const std::string& station, const std::string& tag) const;
+    /// A file that was dropped: a project is opened, a table offered for import.
+    void Take(const std::filesystem::path& file);
     void Say(const QString& text);
     /// False where it was refused, which was told.
     bool Change(const std::function<std::string(Project&)>& change);
 
-    std::filesystem::path file_; ///< empty for none
-    QStackedWidget* pages_;      ///< the start page, and the tables
+    std::filesystem::path file_;            ///< empty for none
+    std::filesystem::file_time_type shown_; ///< when the project that is shown was last changed
+    QStackedWidget* pages_;                 ///< the start page, and the tables
     StartPage* start_;
     FilteredTable* stations_;
     FilteredTable* tags_;

@@ -21,6 +21,9 @@ namespace gfc::workshop {
     return text.toStdString();
 }
 
+/// What was written for the command line, in the words of the window: each switch by what it is called there.
+[[nodiscard]] QString InWindow(const std::string& text);
+
 /// Does it, and tells in a box what refused it; false then.
 template <typename Work>
 bool Attempt(QWidget* parent, Work work) {
@@ -28,7 +31,7 @@ bool Attempt(QWidget* parent, Work work) {
         work();
         return true;
     } catch (const std::exception& failure) {
-        QMessageBox::warning(parent, QMessageBox::tr("I/O Workshop"), Shown(std::string(failure.what())));
+        QMessageBox::warning(parent, QMessageBox::tr("I/O Workshop"), InWindow(failure.what()));
         return false;
     }
 }
