@@ -237,6 +237,7 @@ TEST_F(ProjectWindowTest, takes_a_dropped_table_in_once_its_columns_are_named) {
             QTest::mouseClick(import, Qt::LeftButton);
         },
         [&] { Drop(table); });
+    EXPECT_EQ(Table("stations")->Current().value(0), QStringLiteral("Newfield"));
     EXPECT_THAT(Run("tags Newfield").Output, HasSubstr("Q-2  FX     13        V1      Virtual Module"));
 }
 

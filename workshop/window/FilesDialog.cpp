@@ -3,6 +3,7 @@
 #include "workshop/load/Download.h"
 #include "workshop/store/FilesToLoad.h"
 #include "workshop/window/FilteredTable.h"
+#include "workshop/window/Place.h"
 #include "workshop/window/PlantCheck.h"
 #include "workshop/window/Told.h"
 
@@ -31,7 +32,7 @@ FilesDialog::FilesDialog(std::filesystem::path project, QWidget* parent)
     layout->addWidget(files_, 1);
     layout->addWidget(outcome_);
     layout->addWidget(buttons);
-    resize(820, 420);
+    ResizeWithin(*this, {820, 420});
     connect(download_, &QPushButton::clicked, this, &FilesDialog::AskForFolder);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     ShowFiles();

@@ -176,8 +176,9 @@ void FilteredTable::Filter(const QString& text) {
 void FilteredTable::Count() {
     const int shown = shown_->rowCount();
     const int all = rows_->rowCount();
-    count_->setText(shown == all ? tr("%1 %2").arg(all).arg(things_)
-                                 : tr("%1 of %2 %3").arg(shown).arg(all).arg(things_));
+    const QString things = all == 1 ? things_.chopped(1) : things_; // a thing, and things
+    count_->setText(shown == all ? tr("%1 %2").arg(all).arg(things)
+                                 : tr("%1 of %2 %3").arg(shown).arg(all).arg(things));
 }
 
 } // namespace gfc::workshop

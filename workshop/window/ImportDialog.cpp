@@ -3,6 +3,7 @@
 #include "workshop/import/SavedMapping.h"
 #include "workshop/text/Letters.h"
 #include "workshop/usage/TagUses.h"
+#include "workshop/window/Place.h"
 #include "workshop/window/Told.h"
 
 #include <QCheckBox>
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSplitter>
 #include <QTableWidget>
 #include <QTimer>
@@ -107,7 +109,7 @@ ImportDialog::ImportDialog(std::filesystem::path project, std::filesystem::path 
     layout->addWidget(verdict_);
     layout->addWidget(buttons);
     import_->setDefault(true);
-    resize(1000, 640);
+    ResizeWithin(*this, {1000, 640});
     connect(import_, &QPushButton::clicked, this, &ImportDialog::Import);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     // Every key in a field would else read the project once.
@@ -184,15 +186,22 @@ QWidget* ImportDialog::MakeWishes() {
     form->addRow(tr("&Register 1 is at:"), registerBase_);
     form->addRow(tr("&Encoding:"), encoding_);
     form->addRow(replace_);
-    return wishes;
+    // On a low screen, or with large letters, all of it is still reached.
+    auto* scrolled = new QScrollArea;
+    scrolled->setWidget(wishes);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    return scrolled;
 }
 
 QWidget* ImportDialog::MakePreview() {
     preview_ = new QTreeWidget;
     preview_->setObjectName(QStringLiteral("Preview"));
     preview_->setHeaderLabel(tr("What would come of it"));
-    preview_->setWordWrap(true);
-    preview_->setUniformRowHeights(false);
+    // A long line is scrolled to its end, and never cut.
+    preview_->header()->setStretchLastSection(false);
+    preview_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     return preview_;
 }
 
@@ -402,6 +411,9 @@ void ImportDialog::Import() {
         }
         std::size_t tags = 0;
         for (const StationPlan& station : plan.Stations) {
+            if (changed_.isEmpty() && station.ChangesAnything()) {
+                changed_ = Shown(station.After.Name);
+            }
             tags += station.Added.size() + station.Changed.size() + station.Removed.size();
         }
         done_ =

@@ -31,6 +31,8 @@ public:
 
     /// What was done, once it was; empty else.
     [[nodiscard]] QString Done() const { return done_; }
+    /// The first station that the table brought something for.
+    [[nodiscard]] QString Station() const { return changed_; }
 
 private:
     [[nodiscard]] QWidget* MakeWishes();
@@ -55,6 +57,7 @@ private:
     std::vector<std::string> shownTitles_;
     TableWishes columns_; ///< the columns that a person named, also of titles that this table lacks
     QString done_;
+    QString changed_;
 
     QComboBox* mapping_ = nullptr;
     QTableWidget* titles_ = nullptr;

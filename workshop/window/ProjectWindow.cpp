@@ -11,6 +11,7 @@
 #include "workshop/window/FilteredTable.h"
 #include "workshop/window/FolderQuestion.h"
 #include "workshop/window/ImportDialog.h"
+#include "workshop/window/Place.h"
 #include "workshop/window/StartPage.h"
 #include "workshop/window/Told.h"
 
@@ -105,7 +106,7 @@ ProjectWindow::ProjectWindow()
     connect(tags_, &FilteredTable::Activated, this, &ProjectWindow::ShowUses);
     tags_->View()->setContextMenuPolicy(Qt::ActionsContextMenu);
     tags_->View()->addActions(ofTag_);
-    resize(1080, 660);
+    ResizeWithin(*this, {1080, 660});
     restoreGeometry(QSettings().value(QStringLiteral("window")).toByteArray());
     Refresh();
 }
@@ -324,6 +325,7 @@ void ProjectWindow::ImportTable(const fs::path& table) {
     ImportDialog dialog(file_, table, this);
     if (dialog.exec() == QDialog::Accepted) {
         Refresh();
+        stations_->SelectFirst(dialog.Station());
         Say(dialog.Done());
     }
 }
