@@ -4,7 +4,7 @@
 #include "Material.h"
 #include "SoundStation.h"
 #include "Workshop.h"
-#include "audit/Check.h"
+#include "audit/Plant.h"
 #include "platform/DynamicLibrary.h"
 #include "platform/Files.h"
 #include "platform/Machine.h"
@@ -34,8 +34,12 @@ public:
     [[nodiscard]] project::TagList Ask(int station) {
         return Library->ReadTags(NameOf(station), Project.ProjectFile, {});
     }
-    [[nodiscard]] audit::Findings Check(int station) {
-        return audit::CheckStation(*files_, *Library, Project, NameOf(station)).Findings;
+    // As many of the ten, one after the other.
+    [[nodiscard]] audit::ProjectPlant Of(int stations) {
+        audit::ProjectPlant::OnlyStations names;
+        for (int station = 0; station < stations; ++station)
+            names.Names.push_back(NameOf(station));
+        return {*files_, *Library, Project, std::move(names)};
     }
     [[nodiscard]] std::optional<std::string> Read(int station) {
         return files_->Read(Project.ConfigFileOf(NameOf(station)));
@@ -97,8 +101,9 @@ void Audit(benchmark::State& state, int scale) {
     std::string worst = plant.Ask(0).empty() ? "there are no tags" : "";
     for (auto _ : state)
         TakeSeconds(state, SecondsOf([&] {
-                        for (int station = 0; station < Stations * scale; ++station)
-                            worst = std::max(worst, WorstOf(plant.Check(station)));
+                        const audit::ProjectPlant all = plant.Of(Stations * scale);
+                        for (audit::PlantCheck check(all); !check.IsAtEnd();)
+                            worst = std::max(worst, WorstOf(check.Next().Findings));
                     }));
     if (!worst.empty())
         state.SkipWithError(worst.c_str());

@@ -5,19 +5,14 @@
 #include "audit/Subject.h"
 #include "platform/Files.h"
 #include "project/TagsMark.h"
-#include "services/Text.h"
 
 #include <algorithm>
-#include <future>
 #include <iterator>
 #include <memory>
 
 namespace gfc::audit {
 
 namespace {
-
-constexpr std::string_view NameStart = "KDOrmAGA_";
-constexpr std::string_view NameEnd = ".ini";
 
 // Here, where the system gives no thread.
 constexpr std::launch Elsewhere = std::launch::async | std::launch::deferred;
@@ -35,16 +30,27 @@ void CheckPlausibility(const Subject& subject, Sink& sink) {
         }
 }
 
+struct FileBytes {
+    bool IsThere = false;
+    std::optional<std::string> Bytes; // nothing where it cannot be read
+};
+
+FileBytes ReadFile(platform::Files& files, const std::string& file) {
+    if (file.empty())
+        return {};
+    auto bytes = files.Read(file);
+    const bool isThere = bytes.has_value() || files.Exists(file);
+    return {isThere, std::move(bytes)};
+}
+
 // What is found in a station's file: first without its tags, then with them.
 class FileCheck {
 public:
-    FileCheck(platform::Files& files, const Whose& whose)
-        : report_{.Station = whose.Station, .File = whose.File} {
-        auto bytes = whose.File.empty() ? std::nullopt : files.Read(whose.File);
-        report_.Configured = bytes.has_value() || (!whose.File.empty() && files.Exists(whose.File));
-        if (bytes)
-            CheckBytes(whose, *std::move(bytes));
-        else if (report_.Configured)
+    FileCheck(const Whose& whose, FileBytes file)
+        : report_{.Station = whose.Station, .File = whose.File, .Configured = file.IsThere} {
+        if (file.Bytes)
+            CheckBytes(whose, *std::move(file.Bytes));
+        else if (file.IsThere)
             Sink(report_.Findings).Add(RuleId::FileUnreadable, {});
     }
 
@@ -89,16 +95,6 @@ private:
     Findings ofBindings_; // they stand behind those of the tags
 };
 
-std::string InFolder(std::string_view folder, std::string_view name) {
-    return std::string(folder) + platform::Separator + std::string(name);
-}
-
-std::string WithoutFrame(std::string_view fileName) {
-    fileName.remove_prefix(NameStart.size());
-    fileName.remove_suffix(NameEnd.size());
-    return std::string(fileName);
-}
-
 } // namespace
 
 std::string StationReport::FileName() const {
@@ -107,108 +103,32 @@ std::string StationReport::FileName() const {
 }
 
 StationReport CheckFile(platform::Files& files, const Whose& whose, std::optional<project::TagList> tags) {
-    return FileCheck(files, whose).With(std::move(tags));
+    return FileCheck(whose, ReadFile(files, whose.File)).With(std::move(tags));
 }
 
 StationReport CheckFile(platform::Files& files, const Whose& whose, const project::TagList* tags) {
     return CheckFile(files, whose, tags == nullptr ? std::nullopt : std::optional(*tags));
 }
 
-StationReport CheckStation(platform::Files& files, project::AddOnLibrary& library,
-                           const project::Project& project, const std::string& station) {
+std::future<StationReport> BeginStation(platform::Files& files, project::AddOnLibrary& library,
+                                        const project::Project& project, const std::string& station) {
     const Whose whose{project.ConfigFileOf(station), project.ProjectFile, project.ProjectName, station};
-    if (whose.File.empty() || !files.Exists(whose.File))
-        return {.Station = station, .File = whose.File};
-    // The library is asked on the thread on which it always is.
-    auto check = std::async(Elsewhere, [&] { return std::make_unique<FileCheck>(files, whose); });
-    auto tags = library.ReadTags(station, project.ProjectFile, {});
-    return std::move(*check.get()).With(std::move(tags));
-}
-
-bool IsConfigurationName(std::string_view fileName) {
-    return fileName.size() > NameStart.size() + NameEnd.size() &&
-           services::EqualNoCase(fileName.substr(0, NameStart.size()), NameStart) &&
-           services::EqualNoCase(fileName.substr(fileName.size() - NameEnd.size()), NameEnd);
-}
-
-std::optional<std::string> StationOfFile(std::string_view fileName, std::string_view project) {
-    if (!IsConfigurationName(fileName))
-        return std::nullopt;
-    const std::string name = WithoutFrame(fileName);
-    const std::string start = std::string(project) + "_";
-    if (name.size() <= start.size() ||
-        !services::EqualNoCase(std::string_view(name).substr(0, start.size()), start))
-        return std::nullopt;
-    return name.substr(start.size());
-}
-
-ProjectPlant::ProjectPlant(platform::Files& files, project::AddOnLibrary& library,
-                           const project::Project& project, const std::vector<std::string>& namesInFolder)
-    : files_(files), library_(library), project_(project) {
-    for (const project::Station& station : project.Stations)
-        stations_.push_back(station.Name);
-    for (const std::string& name : namesInFolder) {
-        const auto station = StationOfFile(name, project.ProjectName);
-        const auto isIt = [&](const std::string& other) { return services::EqualNoCase(other, *station); };
-        if (station && std::ranges::none_of(stations_, isIt))
-            orphans_.push_back(name);
-    }
-    std::ranges::sort(orphans_);
-}
-
-ProjectPlant::ProjectPlant(platform::Files& files, project::AddOnLibrary& library,
-                           const project::Project& project, OnlyStations only)
-    : files_(files), library_(library), project_(project), stations_(std::move(only.Names)) {}
-
-std::string ProjectPlant::NameOf(std::size_t station) const {
-    if (station < stations_.size())
-        return stations_[station];
-    return StationOfFile(orphans_.at(station - stations_.size()), project_.ProjectName).value_or("");
-}
-
-// Nothing is said of what stands in such a file: it is brought to no station.
-StationReport ProjectPlant::Check(std::size_t station) const {
-    if (station < stations_.size())
-        return CheckStation(files_, library_, project_, stations_[station]);
-    const std::string folder = platform::ParentFolder(project_.ProjectFile);
-    const std::string name = NameOf(station);
-    StationReport report{.Station = name,
-                         .File = InFolder(folder, orphans_.at(station - stations_.size())),
-                         .Configured = true};
-    Sink(report.Findings).Add(RuleId::StationUnknown, {}, {name});
+    FileBytes file = ReadFile(files, whose.File);
+    if (!file.IsThere)
+        return BeginFile(files, whose);
+    std::promise<project::TagList> tags;
+    auto report = std::async(Elsewhere, [whose, file = std::move(file), asked = tags.get_future()]() mutable {
+        FileCheck check(whose, std::move(file));
+        return std::move(check).With(asked.get());
+    });
+    tags.set_value(library.ReadTags(station, project.ProjectFile, {}));
     return report;
 }
 
-FolderPlant::FolderPlant(platform::Files& files, std::string folder,
-                         const std::vector<std::string>& namesInFolder)
-    : files_(files), folder_(std::move(folder)) {
-    std::ranges::copy_if(namesInFolder, std::back_inserter(names_), IsConfigurationName);
-    std::ranges::sort(names_);
-}
-
-std::string FolderPlant::NameOf(std::size_t station) const {
-    return WithoutFrame(names_.at(station));
-}
-
-// Where the name ends for the project and begins for the station, the file itself has to say: either may
-// hold a "_".
-StationReport FolderPlant::Check(std::size_t station) const {
-    const std::string file = InFolder(folder_, names_.at(station));
-    const config::FileIni ini(files_);
-    const std::string projectFile = ini.ReadKey("General", "Project", file);
-    const std::string projectName = project::ProjectNameOf(projectFile);
-    const auto name = StationOfFile(names_.at(station), projectName);
-    if (!projectName.empty() && name)
-        return CheckFile(files_, {file, projectFile, projectName, *name}, std::nullopt);
-    return CheckFile(files_, {file, {}, {}, NameOf(station)}, std::nullopt);
-}
-
-bool CheckPlant(const Plant& plant,
-                const std::function<bool(const StationReport& report, std::size_t done)>& onStation) {
-    for (std::size_t station = 0; station < plant.Count(); ++station)
-        if (!onStation(plant.Check(station), station + 1))
-            return false;
-    return true;
+std::future<StationReport> BeginFile(platform::Files& files, const Whose& whose) {
+    return std::async(Elsewhere, [whose, file = ReadFile(files, whose.File)]() mutable {
+        return FileCheck(whose, std::move(file)).With(std::nullopt);
+    });
 }
 
 } // namespace gfc::audit

@@ -1,3 +1,4 @@
+#include "audit/Plant.h"
 #include "commands/Commands.h"
 #include "commands/Listing.h"
 #include "commands/OpenProject.h"
@@ -31,16 +32,12 @@ std::unique_ptr<Listing> ListingFor(const Options& options) {
     return MakeTextListing(std::cout, LevelOf(options).value_or(audit::Severity::Warning));
 }
 
-// Only these places of the plant, all of them where none is named.
-void CheckPlaces(const audit::Plant& plant, const std::vector<std::size_t>* only, const std::string& project,
-                 const Options& options, int& status) {
+void CheckAll(audit::PlantCheck check, const std::string& project, const Options& options, int& status) {
     const auto level = LevelOf(options).value_or(audit::Severity::Warning);
     const auto listing = ListingFor(options);
     listing->Begin(project);
-    for (std::size_t place = 0; place < plant.Count(); ++place) {
-        if (only != nullptr && std::ranges::find(*only, place) == only->end())
-            continue;
-        const audit::StationReport report = plant.Check(place);
+    while (!check.IsAtEnd()) {
+        const audit::StationReport report = check.Next();
         listing->Put(report);
         const auto counts = [&](const audit::Finding& finding) { return finding.Severity <= level; };
         if (std::ranges::any_of(report.Findings, counts))
@@ -49,7 +46,7 @@ void CheckPlaces(const audit::Plant& plant, const std::vector<std::size_t>* only
     listing->End();
 }
 
-// The files of these stations; a folder may hold those of several projects.
+// The files of these stations in their order, each once; a folder may hold those of several projects.
 std::vector<std::size_t> PlacesOf(const audit::FolderPlant& plant, const std::vector<std::string>& stations) {
     std::vector<std::size_t> places;
     for (const std::string& station : stations) {
@@ -60,6 +57,8 @@ std::vector<std::size_t> PlacesOf(const audit::FolderPlant& plant, const std::ve
         if (places.size() == before)
             throw Failure(exitcode::WrongUse, "the folder has no file of a station \"" + station + "\".");
     }
+    std::ranges::sort(places);
+    places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
 }
 
@@ -67,7 +66,8 @@ void CheckFolder(const Options& options, Context context) {
     const audit::FolderPlant plant(context.Machine.Files, options.Folder,
                                    NamesInFolder(options.Folder, exitcode::WrongUse));
     const auto only = PlacesOf(plant, options.Stations);
-    CheckPlaces(plant, only.empty() ? nullptr : &only, {}, options, context.Status);
+    CheckAll(only.empty() ? audit::PlantCheck(plant) : audit::PlantCheck(plant, only), {}, options,
+             context.Status);
 }
 
 void CheckProject(const Options& options, Context context) {
@@ -76,11 +76,11 @@ void CheckProject(const Options& options, Context context) {
     if (!options.Stations.empty()) {
         const audit::ProjectPlant::OnlyStations only{StationsNamed(project, options.Stations)};
         const audit::ProjectPlant plant(context.Machine.Files, *open.Library, project, only);
-        return CheckPlaces(plant, nullptr, project.ProjectFile, options, context.Status);
+        return CheckAll(audit::PlantCheck(plant), project.ProjectFile, options, context.Status);
     }
     const audit::ProjectPlant plant(context.Machine.Files, *open.Library, project,
                                     NamesInFolder(project.Paths.ProjectFolder, exitcode::NotToBeHad));
-    CheckPlaces(plant, nullptr, project.ProjectFile, options, context.Status);
+    CheckAll(audit::PlantCheck(plant), project.ProjectFile, options, context.Status);
 }
 
 void Run(const Options& options, Context context) {

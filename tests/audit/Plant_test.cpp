@@ -1,4 +1,5 @@
 #include "SampleStation.h"
+#include "audit/Plant.h"
 #include "support/Fakes.h"
 #include "support/MemoryFiles.h"
 
@@ -287,10 +288,8 @@ struct Folder {
                                   "KDOrmAGA_plan_West.ini", "kdormaga_plant_SOUTH.ini",
                                   "KDOrmAGA_plant_North_Errors.log"});
         std::vector<StationReport> reports;
-        EXPECT_TRUE(CheckPlant(plant, [&](const StationReport& report, std::size_t done) {
-            reports.push_back(report);
-            return done == reports.size();
-        }));
+        for (PlantCheck check(plant); !check.IsAtEnd();)
+            reports.push_back(check.Next());
         return reports;
     }
 };
@@ -319,13 +318,28 @@ TEST(PlantOfProject, tells_a_file_that_cannot_be_read_from_one_that_is_not_there
     EXPECT_TRUE(reports[1].Findings.empty());
 }
 
-TEST(PlantOfProject, stops_where_it_is_told_to) {
+std::ptrdiff_t AsksOf(const Folder& folder) {
+    return std::ranges::count_if(folder.Library.Calls,
+                                 [](const std::string& call) { return call.starts_with("ReadTags"); });
+}
+
+TEST(PlantOfProject, asks_for_one_station_ahead_and_for_no_more) {
     Folder folder;
+    folder.Project.Stations = {{"North", "", "", 0}, {"South", "", "", 0}, {"West", "", "", 0}};
+    for (const char* station : {"South", "West"})
+        folder.Files.Content[folder.Project.ConfigFileOf(station)] =
+            folder.Files.Content["/jobs/KDOrmAGA_plant_North.ini"];
     const ProjectPlant plant(folder.Files, folder.Library, folder.Project, std::vector<std::string>());
-    std::size_t seen = 0;
-    EXPECT_FALSE(
-        CheckPlant(plant, [&](const StationReport&, std::size_t done) { return (seen = done) == 0; }));
-    EXPECT_EQ(seen, 1U);
+    PlantCheck check(plant);
+    EXPECT_EQ(AsksOf(folder), 0);
+    EXPECT_EQ(check.Next().Station, "North");
+    EXPECT_EQ(AsksOf(folder), 2);
+    EXPECT_EQ(check.Next().Station, "South");
+    EXPECT_EQ(AsksOf(folder), 3);
+    EXPECT_FALSE(check.IsAtEnd());
+    EXPECT_EQ(check.Next().Station, "West");
+    EXPECT_TRUE(check.IsAtEnd());
+    EXPECT_EQ(AsksOf(folder), 3);
 }
 
 TEST(PlantOfFolder, takes_project_and_station_apart_by_what_the_file_says) {
@@ -336,13 +350,13 @@ TEST(PlantOfFolder, takes_project_and_station_apart_by_what_the_file_says) {
     const FolderPlant plant(folder.Files, "/jobs",
                             {"KDOrmAGA_plant_North.ini", "KDOrmAGA_new_plant_Old_North.ini", "plant.KPJ"});
     ASSERT_EQ(plant.Count(), 2U);
-    EXPECT_EQ(plant.Check(0).Station, "Old_North");
-    EXPECT_EQ(plant.Check(1).Station, "North");
+    EXPECT_EQ(plant.Begin(0).get().Station, "Old_North");
+    EXPECT_EQ(plant.Begin(1).get().Station, "North");
     for (const std::size_t place : {0U, 1U})
-        EXPECT_EQ(CountOf(plant.Check(place).Findings, Severity::Error) +
-                      CountOf(plant.Check(place).Findings, Severity::Warning),
+        EXPECT_EQ(CountOf(plant.Begin(place).get().Findings, Severity::Error) +
+                      CountOf(plant.Begin(place).get().Findings, Severity::Warning),
                   0U)
-            << TextOfAll(plant.Check(place).Findings);
+            << TextOfAll(plant.Begin(place).get().Findings);
 }
 
 // Random bytes where a file should be: whatever comes of it, nothing breaks and nothing is written.

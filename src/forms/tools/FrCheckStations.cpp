@@ -38,6 +38,7 @@ void FrCheckStations::Load() {
     const auto names = platform::FileNamesIn(project.Paths.ProjectFolder);
     plant_ = std::make_unique<audit::ProjectPlant>(program_.Machine.Files, program_.Library, project,
                                                    names.value_or(std::vector<std::string>()));
+    check_ = std::make_unique<audit::PlantCheck>(*plant_);
     ShowProgress("Checking");
     Timer1.SetEnabled(true);
 }
@@ -49,17 +50,19 @@ void FrCheckStations::Unloading() {
 // The window may be closed while the library takes its time over a station: the check ends with that one.
 void FrCheckStations::CheckNext() {
     const auto alive = KeepAlive();
-    if (next_ >= plant_->Count())
+    if (check_->IsAtEnd())
         return End("Checked");
-    auto report = std::make_unique<audit::StationReport>(plant_->Check(next_++));
+    Timer1.SetEnabled(false); // the library may let it tick
+    auto report = std::make_unique<audit::StationReport>(check_->Next());
     if (IsUnloaded())
         return;
+    Timer1.SetEnabled(true);
     errors_ += audit::CountOf(report->Findings, audit::Severity::Error);
     warnings_ += audit::CountOf(report->Findings, audit::Severity::Warning);
     notes_ += audit::CountOf(report->Findings, audit::Severity::Note);
     reports_.push_back(std::move(report));
     AddRowsOf(*reports_.back());
-    next_ < plant_->Count() ? ShowProgress("Checking") : End("Checked");
+    check_->IsAtEnd() ? End("Checked") : ShowProgress("Checking");
 }
 
 // What was found marks the tree; a station that was not reached keeps its mark.
@@ -75,7 +78,7 @@ void FrCheckStations::End(const std::string& how) {
 }
 
 void FrCheckStations::ShowProgress(const std::string& lead) {
-    Label2.SetCaption(lead + ": " + std::to_string(next_) + " of " +
+    Label2.SetCaption(lead + ": " + std::to_string(reports_.size()) + " of " +
                       Counted(plant_->Count(), "station", "stations") + "; " +
                       Counted(errors_, "error", "errors") + ", " + Counted(warnings_, "warning", "warnings") +
                       ", " + Counted(notes_, "note", "notes"));

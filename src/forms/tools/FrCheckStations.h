@@ -1,6 +1,7 @@
 #pragma once
 
 #include "audit/Export.h"
+#include "audit/Plant.h"
 #include "forms/tools/ToolForm.h"
 #include "ui/Buttons.h"
 #include "ui/Furniture.h"
@@ -52,7 +53,7 @@ private:
     void Save();
 
     std::unique_ptr<audit::Plant> plant_;
-    std::size_t next_ = 0; // the station to be checked
+    std::unique_ptr<audit::PlantCheck> check_;
     std::vector<std::unique_ptr<audit::StationReport>> reports_;
     std::vector<audit::FindingAt> shown_; // in the order of the rows
     std::size_t errors_ = 0, warnings_ = 0, notes_ = 0;
