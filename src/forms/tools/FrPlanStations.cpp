@@ -31,6 +31,17 @@ std::string RunText(const plan::Line& line) {
     return line.Variable.Run > 0 ? std::to_string(line.Variable.Run) : std::string();
 }
 
+// As the window shows them: the register of a working module may be unknown.
+bool IsChanged(const plan::Line& line) {
+    return plan::Line::TextOf(line.Source) != plan::Line::TextOf(line.Proposed);
+}
+
+// Of a station that is bound anew; of a copy every tag is another one.
+std::string ChangesIn(const std::vector<plan::Line>& lines) {
+    const auto changed = static_cast<std::size_t>(std::ranges::count_if(lines, IsChanged));
+    return changed == 0 ? "nothing to change" : Counted(changed, "tag") + " to change";
+}
+
 } // namespace
 
 FrPlanStations::FrPlanStations(Program& program) : ProgramForm(program, "FrPlanStations", copyTitle) {
@@ -72,6 +83,8 @@ FrPlanStations::FrPlanStations(Program& program) : ProgramForm(program, "FrPlanS
 
 void FrPlanStations::Load() {
     SetCaption(IsCopy() ? std::string(copyTitle) + " from " + copied_ : bindTitle);
+    if (!IsCopy())
+        Check1.SetCaption("Only what changes, is missing or not sure");
     Label1.SetCaption(IsCopy() ? "Stations that the configuration goes to" : "Stations to be bound anew");
     ListView1.AddColumns({{"Chosen", 7}, {"Station", 24}, {"Configuration", 24}, {"Tags"}});
     ListView2.AddColumns({{"Run", 4},
@@ -134,7 +147,9 @@ std::string FrPlanStations::StatusOf(const Item& item) const {
     case State::Planned:
         if (!item.Plan.Refused.empty())
             return item.Plan.Refused;
-        return missing == 0 ? "all found" : Counted(missing, "variable") + " without a tag";
+        if (missing > 0)
+            return Counted(missing, "variable") + " without a tag";
+        return IsCopy() ? "all found" : "all found, " + ChangesIn(item.Plan.Lines);
     case State::Waiting:
         return "waits to be written";
     case State::Written:
@@ -188,7 +203,7 @@ void FrPlanStations::ShowLines() {
     std::vector<ui::ListView::Row> rows;
     for (std::size_t i = 0; item != nullptr && i < item->Plan.Lines.size(); ++i) {
         const plan::Line& line = item->Plan.Lines[i];
-        if (Check1.Value() && line.IsSure && !line.IsMissing())
+        if (Check1.Value() && line.IsSure && !line.IsMissing() && (IsCopy() || !IsChanged(line)))
             continue;
         shown_.push_back(i);
         rows.push_back({RunText(line), line.Caption(), plan::Line::TextOf(line.Source),

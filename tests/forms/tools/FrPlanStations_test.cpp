@@ -215,6 +215,13 @@ TEST_F(PlanStations, binds_the_selected_station_anew_after_its_tags_were_renamed
             ASSERT_GT(row, 0);
             EXPECT_EQ(Form().ListView2.Cell(row, 3), "PIT-77 (FX 1002)");
             EXPECT_EQ(Form().ListView2.Cell(row, 4), "the same register, which was called FT-2");
+            EXPECT_EQ(Status(1), "all found, 1 tag to change");
+        })
+        .Click(window, "Check1")
+        .Check([&](Driver& d) {
+            EXPECT_EQ(d.Text(window, "Check1"), "Only what changes, is missing or not sure");
+            EXPECT_EQ(Form().ListView2.Count(), 1) << "what changes is left, sure as it is";
+            EXPECT_EQ(RowOf("FT-2"), 1);
         })
         .Click(window, "Command7")
         .Tick(window, "Timer1")
@@ -222,6 +229,11 @@ TEST_F(PlanStations, binds_the_selected_station_anew_after_its_tags_were_renamed
         .Check([&](Driver&) {
             EXPECT_THAT(Files.Content[FileOf("North")], HasSubstr("GasPressKDIOTag=PIT-77\r\n"));
         })
+        .Do("choose it again", [&](Driver&) { (void)Form().ListView1.PersonOpensRow(1); })
+        .Do("choose it again", [&](Driver&) { (void)Form().ListView1.PersonOpensRow(1); })
+        .Tick(window, "Timer1")
+        .Tick(window, "Timer1")
+        .Check([&](Driver&) { EXPECT_EQ(Status(1), "all found, nothing to change"); })
         .Click(window, "Command9");
     Exit();
     Play();
