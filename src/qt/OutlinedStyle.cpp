@@ -30,10 +30,11 @@ void DrawOutline(QStyle::PrimitiveElement element, const QRect& rect, QPainter& 
         painter.drawRoundedRect(line, corner, corner);
 }
 
-bool HasOutline(QStyle::PrimitiveElement element) {
-    // The marks of lists and of menus are drawn as those of boxes.
+// The marks of lists and of menus are drawn as those of boxes. A field is told from a light ground by its
+// own.
+bool NeedsOutline(QStyle::PrimitiveElement element, const QPalette& palette) {
     return element == QStyle::PE_IndicatorCheckBox || element == QStyle::PE_IndicatorRadioButton ||
-           element == QStyle::PE_FrameLineEdit;
+           (element == QStyle::PE_FrameLineEdit && IsDark(palette));
 }
 
 } // namespace
@@ -41,7 +42,7 @@ bool HasOutline(QStyle::PrimitiveElement element) {
 void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    if (!HasOutline(element) || !IsDark(option->palette))
+    if (!NeedsOutline(element, option->palette))
         return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);

@@ -4,8 +4,8 @@
 
 namespace gfc::qt {
 
-// A style that outlines what a person marks or types into so that it can be told from a dark ground; the
-// style below it takes a shade of that very ground for the line. On a light one nothing is added.
+// A style that outlines what a person marks or types into so that it can be told from its ground, a dark one
+// above all; the style below it takes a shade of that very ground for the line.
 class OutlinedStyle : public QProxyStyle {
 public:
     using QProxyStyle::QProxyStyle;

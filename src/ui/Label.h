@@ -12,6 +12,9 @@ public:
 
     [[nodiscard]] const std::string& Image() const { return image_; }
 
+    // More than the caption says, for a tip; asked when it is to be shown, empty for nothing.
+    std::function<std::string()> HintOf;
+
 private:
     std::string image_;
 };

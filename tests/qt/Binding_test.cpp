@@ -178,6 +178,25 @@ TEST_F(BindingWindow, is_gone_through_by_the_keys_alone) {
     EXPECT_EQ(View("ListViewRuns").model()->index(0, 1).data().toString(), "TIT-102");
 }
 
+// The next Assign takes it.
+TEST_F(BindingWindow, shows_the_chosen_row_once_the_filter_is_gone) {
+    std::vector<ui::ListView::Row> more;
+    for (int i = 0; i < 300; ++i)
+        more.push_back({"", "MORE-" + std::to_string(i), "FX", std::to_string(1000 + i)});
+    Form.ListViewRuns.AddRows(std::move(more));
+    auto* filter = FindIn<QLineEdit>(&Window(), "Filter");
+    QTest::keyClicks(filter, "more-250");
+    const int chosen = Form.ListViewRuns.SelectedRow();
+    EXPECT_EQ(Form.ListViewRuns.Cell(chosen, 1), "MORE-250");
+    filter->setFocus();
+    Stroke(Qt::CTRL | Qt::Key_A);
+    Stroke(Qt::Key_Backspace);
+    Settle();
+    EXPECT_EQ(Form.ListViewRuns.SelectedRow(), chosen);
+    QAbstractItemView& view = View("ListViewRuns");
+    EXPECT_TRUE(view.viewport()->rect().contains(view.visualRect(view.currentIndex()).center()));
+}
+
 TEST_F(BindingWindow, leaves_undo_to_the_field_that_is_typed_into) {
     Form.ListViewRuns.PersonClicksRow(1);
     Form.TreeAGA.PersonClicks(node::Variable(0));

@@ -7,6 +7,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -83,6 +84,20 @@ TEST_F(Fields, say_in_their_tip_what_is_expected_when_it_is_asked_for) {
     QHelpEvent asks(QEvent::ToolTip, {5, 5}, field.mapToGlobal(QPoint(5, 5)));
     QApplication::sendEvent(&field, &asks);
     EXPECT_TRUE(QToolTip::text().startsWith("Usual: 1 to 2 mm")) << QToolTip::text().toStdString();
+    QToolTip::hideText();
+}
+
+// A line has room for one thing.
+TEST_F(Fields, and_lines_beside_them_say_more_in_their_tip) {
+    auto& line = Widget<QLabel>("title");
+    QHelpEvent asks(QEvent::ToolTip, {5, 5}, line.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&line, &asks);
+    EXPECT_FALSE(QToolTip::isVisible());
+    Form->title.HintOf = [] { return std::string("first\r\nsecond"); };
+    Form->title.SetCaption("first (And 1 more.)");
+    QApplication::sendEvent(&line, &asks);
+    EXPECT_EQ(QToolTip::text(), "first\nsecond");
+    EXPECT_EQ(line.accessibleDescription(), "first\nsecond");
     QToolTip::hideText();
 }
 

@@ -14,6 +14,18 @@ std::string LineOf(const audit::Findings& findings) {
 
 } // namespace
 
+QuietNotes::QuietNotes(ui::Label& line, std::function<void(audit::Sink& sink)> judge)
+    : line_(line), judge_(std::move(judge)) {
+    line_.HintOf = [this] { return Hint(); };
+}
+
+std::string QuietNotes::Hint() const {
+    std::string text;
+    for (const audit::Finding& finding : findings_)
+        text.append(text.empty() ? "" : "\r\n").append(finding.Text).append(" ").append(finding.Row().Advice);
+    return text;
+}
+
 void QuietNotes::Follow(std::initializer_list<ui::TextBox*> fields) {
     for (ui::TextBox* field : fields)
         field->OnEdited = [this] { Refresh(); };
@@ -29,14 +41,14 @@ void QuietNotes::FollowChoices(std::initializer_list<std::function<void()>*> cli
 }
 
 void QuietNotes::Refresh() {
-    audit::Findings findings;
-    audit::Sink sink(findings);
+    findings_.clear();
+    audit::Sink sink(findings_);
     judge_(sink);
     // The nearest published gas is worth knowing, but nothing is wrong with it.
-    std::erase_if(findings,
+    std::erase_if(findings_,
                   [](const audit::Finding& finding) { return finding.Rule == audit::RuleId::GasNearest; });
-    audit::SortBySeverity(findings);
-    line_.SetCaption(LineOf(findings));
+    audit::SortBySeverity(findings_);
+    line_.SetCaption(LineOf(findings_));
 }
 
 } // namespace gfc::forms

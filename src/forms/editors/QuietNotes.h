@@ -9,13 +9,12 @@
 
 namespace gfc::forms {
 
-// The line under a form that says, while a person types, what is implausible. It never asks, holds nobody up
-// and changes no field.
+// The line under a form that says, while a person types, what is implausible; its tip says all and what to
+// do. It never asks, holds nobody up and changes no field.
 class QuietNotes {
 public:
     // judge puts what it finds in what stands on the form now. Both must outlive this.
-    QuietNotes(ui::Label& line, std::function<void(audit::Sink& sink)> judge)
-        : line_(line), judge_(std::move(judge)) {}
+    QuietNotes(ui::Label& line, std::function<void(audit::Sink& sink)> judge);
 
     // The fields whose editing the line follows.
     void Follow(std::initializer_list<ui::TextBox*> fields);
@@ -25,8 +24,12 @@ public:
     void Refresh();
 
 private:
+    // All of them with what to do, a line for each.
+    [[nodiscard]] std::string Hint() const;
+
     ui::Label& line_;
     std::function<void(audit::Sink& sink)> judge_;
+    audit::Findings findings_; // the worst first
 };
 
 } // namespace gfc::forms

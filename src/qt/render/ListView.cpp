@@ -177,6 +177,8 @@ private:
         RefreshSorting();
         model_.Reset();
         SetWidths();
+        // Before the selected row is gone to: the view would reckon by the rows that it had.
+        widget_.doItemsLayout();
         RefreshContent();
     }
     void RowsAdded(int first, int last) override {

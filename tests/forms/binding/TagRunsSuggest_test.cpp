@@ -323,6 +323,17 @@ TEST_F(NotesWorld, FollowTheFactorsAsTheyAreTyped) {
     SeeNotes("CalibrationFactor says \"1.00.1\"");
     TheStory.Type(Form, "Text1", "0");
     SeeNotes("CalibrationFactor is 0.");
+    TheStory.Type(Form, "Text1", "10");
+    TheStory.ClickRow(Form, "ListViewRuns", 2);
+    Assign(0);
+    SeeNotes("(And ");
+    TheStory.Check([this](Driver&) {
+        const std::string all = TheForm().Notes.HintOf();
+        EXPECT_THAT(all, HasSubstr("A calibration factor of 10"));
+        EXPECT_THAT(all, HasSubstr("\r\n"));
+        EXPECT_THAT(all, HasSubstr("Temperature is bound to R1_PRES"));
+    });
+    Menu("deshacer");
     TheStory.Type(Form, "Text1", "");
     SeeNoNotes();
     LeaveByCancel();
