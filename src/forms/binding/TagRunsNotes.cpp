@@ -41,6 +41,9 @@ std::vector<audit::Bound> ForAudit(const std::vector<BoundVariable>& bound) {
 } // namespace
 
 void TagRuns::ShowNotes() {
+    // What was bound when suggestions were asked for may be taken back.
+    if (suggestions_.WereAsked() && suggestions_.LackVariables(ShownBindings()))
+        program_.Screen.Busy([this] { suggestions_.AskAgain(ShownBindings()); });
     for (int position = 0; position < VariablesShown(); ++position)
         ShowNote(position);
     ShowProgress();

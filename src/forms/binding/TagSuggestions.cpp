@@ -34,7 +34,7 @@ bool IsMade(const config::TagBinding& shown) {
 } // namespace
 
 void TagSuggestions::Forget() {
-    asked_ = false;
+    asked_ = withSpares_ = false;
     suggestions_.clear();
     elsewhere_.reset();
     tags_.clear();
@@ -177,6 +177,7 @@ void TagSuggestions::Ask(const std::vector<config::TagBinding>& shown) {
     const auto found = suggest::Suggest(QuestionFor(shown));
     suggestions_.clear();
     asked_ = true;
+    withSpares_ = false;
     const auto variables = Variables();
     for (const auto& suggestion : found) {
         const auto position = std::ranges::find(variables, suggestion.Variable);
@@ -185,8 +186,23 @@ void TagSuggestions::Ask(const std::vector<config::TagBinding>& shown) {
     }
 }
 
+bool TagSuggestions::LackVariables(const std::vector<config::TagBinding>& shown) const {
+    for (std::size_t position = 0; position < shown.size(); ++position)
+        if (!IsMade(shown[position]) && At(static_cast<int>(position)) == nullptr)
+            return true;
+    return false;
+}
+
+void TagSuggestions::AskAgain(const std::vector<config::TagBinding>& shown) {
+    if (withSpares_)
+        (void)AskForSpares(shown);
+    else
+        Ask(shown);
+}
+
 bool TagSuggestions::AskForSpares(const std::vector<config::TagBinding>& shown) {
     Ask(shown);
+    withSpares_ = true;
     std::vector<suggest::Suggestion> here;
     for (const auto& [position, suggestion] : suggestions_)
         here.push_back(suggestion);

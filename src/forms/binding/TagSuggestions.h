@@ -26,6 +26,10 @@ public:
     // Spare registers for the variables that no tag was found for. False if there are none.
     bool AskForSpares(const std::vector<config::TagBinding>& shown);
     [[nodiscard]] bool WereAsked() const { return asked_; }
+    // True if the last question did not go for each variable that is unbound now: one was bound at that time.
+    [[nodiscard]] bool LackVariables(const std::vector<config::TagBinding>& shown) const;
+    // The last question once more, with spare registers where those were asked for.
+    void AskAgain(const std::vector<config::TagBinding>& shown);
     // Null where nothing is known of the position, or nothing was asked.
     [[nodiscard]] const suggest::Suggestion* At(int position) const;
 
@@ -57,6 +61,7 @@ private:
 
     Program& program_;
     bool asked_ = false;
+    bool withSpares_ = false;
     std::map<int, suggest::Suggestion> suggestions_;
     // Found out once for a showing, when first asked for.
     mutable std::optional<std::vector<suggest::BoundVariable>> elsewhere_;

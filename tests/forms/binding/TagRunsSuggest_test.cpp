@@ -97,6 +97,22 @@ TEST_F(SuggestWorld, TakesOneAndTakesItBack) {
     Open(BindingStage::RunInputs);
 }
 
+// Nobody has asked for it yet, and that there is no tag for it would be wrong.
+TEST_F(SuggestWorld, SuggestsForWhatIsTakenBackLater) {
+    TheStory.ClickRow(Form, "ListViewRuns", 4);
+    Assign(1);
+    SeeBound(1, "R1_PRES_ALARM FX 4");
+    TheStory.Click(Form, "SuggestTags");
+    SeeNote(0, "sure: R1_TEMP");
+    Pick(1);
+    Menu("soltar");
+    SeeNote(1, "sure: R1_PRES");
+    SeeProgress("0 of 6 bound, 6 suggested");
+    TheStory.SeeVisible(Form, "Missing", false);
+    LeaveByCancel();
+    Open(BindingStage::RunInputs);
+}
+
 TEST_F(SuggestWorld, UndoesAndDoesAgainWhatWasDone) {
     TheStory.Click(Form, "SuggestTags").Click(Form, "TakeSure");
     TheStory.Check([this](Driver&) {
