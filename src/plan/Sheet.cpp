@@ -120,6 +120,12 @@ std::string Fault::Line() const {
 }
 
 Sheet ReadSheet(std::string_view bytes, Faults& faults) {
+    // A workbook, "Unicode text" or no table at all: no CSV has a NUL.
+    if (bytes.find('\0') != std::string_view::npos) {
+        faults.push_back(
+            {0, {}, {}, "This is no table in CSV. Save it from the spreadsheet as \"CSV UTF-8\"."});
+        return {};
+    }
     const std::string text = AsUtf8(bytes);
     Reader reader(text, SeparatorOf(text));
     Sheet sheet;
@@ -138,6 +144,8 @@ Sheet ReadSheet(std::string_view bytes, Faults& faults) {
         cells.resize(sheet.Titles.size());
         sheet.Rows.push_back({number, std::move(cells)});
     }
+    if (sheet.Titles.empty())
+        faults.push_back({0, {}, {}, "The table is empty. \"template\" makes one to start from."});
     if (reader.IsOpen())
         faults.push_back({0, {}, {}, "A quotation mark is opened and never closed."});
     return sheet;

@@ -32,7 +32,8 @@ struct Sheet {
 
 // CSV with commas, semicolons or tabs, whichever stands most in the row of titles outside of quotes; UTF-8,
 // else the machine's code page. The first row that is not empty holds the titles. Cells beyond the titles and
-// a quote that is never closed are faults.
+// a quote that is never closed are faults; what is no text or holds nothing is one fault and gives a sheet
+// without titles.
 [[nodiscard]] Sheet ReadSheet(std::string_view bytes, Faults& faults);
 
 // The rows joined as CSV with commas and CR LF, in UTF-8 with its mark, as spreadsheets take it.

@@ -135,6 +135,8 @@ std::string StationWish::TextOf(std::string_view key) const {
 }
 
 std::vector<StationWish> WishesIn(const Sheet& sheet, Faults& faults) {
+    if (sheet.Titles.empty()) // which is a fault already
+        return {};
     return Gatherer(sheet, faults).Gather();
 }
 

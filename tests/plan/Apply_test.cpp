@@ -230,6 +230,22 @@ TEST_F(Tables, ACellThatIsChangedIsToldOrTakenAndNeverPassedOver) {
     EXPECT_GT(taken, 5);
 }
 
+TEST_F(Tables, WhatIsNoTableIsOneFaultAndNotOneForEachColumn) {
+    for (const std::string& bytes :
+         {std::string(), std::string("\r\n,,\r\n"), std::string("PK\x03\x04\0\0A,B", 9),
+          std::string("\xFF\xFES\0t\0a\0", 8)}) {
+        Faults faults;
+        EXPECT_THAT(PlanTable(bytes, World.Files, World.Library, World.Project, {}, faults,
+                              [](const std::string&) { return true; }),
+                    IsEmpty());
+        ASSERT_THAT(faults, SizeIs(1));
+        EXPECT_EQ(faults[0].Line(),
+                  bytes.find('\0') == std::string::npos
+                      ? "The table is empty. \"template\" makes one to start from."
+                      : "This is no table in CSV. Save it from the spreadsheet as \"CSV UTF-8\".");
+    }
+}
+
 TEST(Sheets, AreReadAsSpreadsheetsWriteThem) {
     Faults faults;
     const Sheet sheet =

@@ -116,7 +116,7 @@ TEST_F(ImportWishes, name_what_the_table_lacks_and_are_refused) {
     EXPECT_THAT(Take(table, "--map Colour=Tag").Output,
                 HasSubstr("row 1, column Colour: the table has no such column, which --map names"));
     EXPECT_THAT(Take(table, "--map Tag=Colour").Output, HasSubstr("\"Colour\", which is no column of ours"));
-    EXPECT_THAT(Take(table, "--map Tag").Output, HasSubstr("is not made as THEIRS=OURS"));
+    EXPECT_THAT(Take(table, "--map Tag").Output, HasSubstr("\"Tag\" is not two texts with"));
     EXPECT_THAT(Take(table, "--module-type W=Virtual").Output, HasSubstr("no row is of the module \"W\""));
     EXPECT_EQ(Take(table, "--direction sideways").Status, 2);
     EXPECT_THAT(Take(table, "--encoding klingon").Output, HasSubstr("knows no encoding \"klingon\""));

@@ -243,12 +243,12 @@ TEST_F(TagImport, refuses_what_the_project_or_a_row_above_has) {
                                     "South,Other,,,M,Virtual,s-1,X,2\n"
                                     "SOUTH,,,,M,Physical,S-2,X,1\n"),
                 ElementsAre("row 2, column Register: the station has tag \"PIT-101\" at FX 1001 already",
-                            "row 4, column Register: the station has tag \"N-2\" at FX 3 already",
+                            "row 4, column Register: the station has tag \"N-2\" in row 3 at FX 3 already",
                             "row 6, column Station Type: \"Other\" differs from \"Orm\" further up",
                             "row 6, column Tag: the station has a tag \"s-1\" in row 5 already",
                             "row 7, column Station: \"SOUTH\" differs from \"South\" further up",
                             "row 7, column Module Type: \"Physical\" differs from \"Virtual\" further up",
-                            "row 7, column Register: the station has tag \"S-1\" at X 1 already"));
+                            "row 7, column Register: the station has tag \"S-1\" in row 5 at X 1 already"));
 }
 
 TEST_F(TagImport, faults_of_a_replacing_table_leave_the_old_tags) {

@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+#include <limits>
 #include <memory>
 #include <set>
 #include <sstream>
@@ -199,7 +200,7 @@ void AddForeignOptions(CLI::App& command, ImportOptions& options) {
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
         ->allow_extra_args(false);
     command.add_option("--register-base", told.RegisterBase, "The address of register 1, such as 40001")
-        ->check(CLI::NonNegativeNumber);
+        ->check(CLI::Range(0, std::numeric_limits<std::int32_t>::max()));
     command.add_option("--encoding", told.Encoding, "What the text is written in, if that is not found out");
     command.add_option("--mapping", options.Mapping, "What was kept under this name by --save-mapping");
     command.add_option("--save-mapping", options.SaveMapping,

@@ -157,9 +157,17 @@ private:
             const auto [holder, isFree] = holders.try_emplace(PlaceOf(row.TheTag), row.TheTag.Name);
             if (!isFree) {
                 Complain(*row.Row, "Register",
-                         "the station has tag \"" + holder->second + "\" at " + holder->first + " already");
+                         HolderText(holder->second) + " at " + holder->first + " already");
             }
         }
+    }
+
+    // Of a tag that the table has it is said where, since it may be mended there as well.
+    [[nodiscard]] std::string HolderText(const std::string& name) const {
+        const auto known = byName_.find(Folded(name));
+        return "the station has tag \"" + name + '"' +
+               (known == byName_.end() ? std::string()
+                                       : " in row " + std::to_string(rowTags_[known->second].Row->Row));
     }
 
     void Arrange() {

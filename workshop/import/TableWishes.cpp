@@ -49,9 +49,9 @@ TextPair SplitPair(std::string_view text, std::string_view option) {
     rest.remove_prefix(parted ? 1 : 0);
     const auto right = parted ? TakeHalf(rest, rest.size()) : std::nullopt;
     if (!right || right->empty() || !rest.empty()) {
-        throw Failure(
-            std::string(option) + ": \"" + std::string(text) +
-            "\" is not made as THEIRS=OURS; quote a text that holds \"=\", as in \"\"\"A=B\"\"=Tag\".");
+        throw Failure(std::string(option) + ": \"" + std::string(text) +
+                      "\" is not two texts with \"=\" between them; quote one that holds \"=\", as in "
+                      "\"\"\"A=B\"\"=Tag\".");
     }
     return {*left, *right};
 }
