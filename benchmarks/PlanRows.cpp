@@ -99,34 +99,52 @@ struct Planned {
     std::string Sheet;
 };
 
-// Planned, checked, written and entered in the history to the last of them.
+// The project's history, which it has since its first start.
+struct Recorded {
+    explicit Recorded(const Planned& planned) {
+        const auto& project = planned.Project;
+        const auto north = planned.Files->Read(project.ConfigFileOf("North"));
+        Entries.Record(
+            {{config::RecordPath(project.Paths, project.ProjectName), "North", {}, {}, north, north}});
+    }
+
+    // Written and entered to the last of them.
+    void Write(Planned& planned, const std::vector<plan::Checked>& stations) {
+        record::BackgroundRecorder recorder(Entries);
+        for (const plan::Checked& each : stations)
+            if (const auto written = plan::Write(
+                    {*planned.Files, *planned.Library, recorder, planned.Project, "bench"}, each.Change);
+                !written.Done)
+                Fault = written.Reason;
+        recorder.Settle();
+    }
+
+    platform::RealMachine Machine;
+    record::ProjectRecorder Entries{Machine.Seams().Clock, Machine.Seams().TimeZone, "bench"};
+    std::string Fault;
+};
+
+// From stations that are planned, or from the table on.
+enum class From { Stations, Table };
+
+template <From from>
 void Apply(benchmark::State& state, int scale) {
     Planned planned(scale);
-    platform::RealMachine machine;
-    const platform::Machine seams = machine.Seams();
-    record::ProjectRecorder entries(seams.Clock, seams.TimeZone, "bench");
-    // A project has its history since its first start.
-    const auto& project = planned.Project;
-    const auto north = planned.Files->Read(project.ConfigFileOf("North"));
-    entries.Record({{config::RecordPath(project.Paths, project.ProjectName), "North", {}, {}, north, north}});
-    std::string fault;
+    Recorded recorded(planned);
+    plan::Faults faults;
+    std::vector<plan::Checked> stations = planned.Plan(faults);
     for (auto _ : state) {
         planned.Forget();
         TakeSeconds(state, SecondsOf([&] {
-                        record::BackgroundRecorder recorder(entries);
-                        plan::Faults faults;
-                        for (const plan::Checked& each : planned.Plan(faults))
-                            if (const auto written = plan::Write(
-                                    {*planned.Files, *planned.Library, recorder, planned.Project, "bench"},
-                                    each.Change);
-                                !written.Done)
-                                fault = written.Reason;
-                        for (const plan::Fault& each : faults)
-                            fault = each.Line();
-                        recorder.Settle();
+                        if constexpr (from == From::Table)
+                            stations = planned.Plan(faults);
+                        recorded.Write(planned, stations);
                     }));
     }
-    if (fault += entries.Trouble(); !fault.empty())
+    std::string fault = recorded.Fault + recorded.Entries.Trouble();
+    for (const plan::Fault& each : faults)
+        fault += each.Line();
+    if (!fault.empty())
         state.SkipWithError(fault.c_str());
 }
 
@@ -148,7 +166,9 @@ void Replace(benchmark::State& state, int scale) {
 void ContestPlan() {
     Contest("import", Ours, Preview, Pace::Once);
     Contest("import", Floor, ReadRows, Pace::Once);
-    Contest("plan", Ours, Apply, Pace::Once);
+    Contest("apply", Ours, Apply<From::Stations>, Pace::Once);
+    Contest("apply", Floor, Replace, Pace::Once);
+    Contest("plan", Ours, Apply<From::Table>, Pace::Once);
     Contest("plan", Floor, Replace, Pace::Once);
 }
 
