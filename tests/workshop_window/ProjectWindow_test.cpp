@@ -350,6 +350,30 @@ TEST_F(ProjectWindowTest, shows_what_was_changed_beside_it_as_soon_as_somebody_c
     EXPECT_TRUE(Table("tags")->SelectFirst(QStringLiteral("PT-999")));
 }
 
+// As when a disk is pulled; the box that tells of it gives the window its focus back, and must not come again
+// for that.
+TEST_F(ProjectWindowTest, tells_once_that_the_project_has_gone) {
+    OpenSample();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    std::filesystem::remove(Folder / "plant" / "plant.KPJ");
+    QEvent back(QEvent::ActivationChange);
+    Answer([](QDialog& dialog) { dialog.reject(); }, [&] { QApplication::sendEvent(&window_, &back); });
+    EXPECT_TRUE(Find<QWidget>("StartPage")->isVisible());
+    EXPECT_FALSE(Find<QAction>("ImportTags")->isEnabled());
+    int boxes = 0;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &window_, [&] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
+            ++boxes;
+            dialog->reject();
+        }
+    });
+    look.start(0);
+    QApplication::sendEvent(&window_, &back);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(boxes, 0);
+}
+
 TEST_F(ProjectWindowTest, says_that_no_project_is_open_and_what_to_do) {
     window_.show();
     ASSERT_TRUE(Find<QWidget>("StartPage")->isVisible());

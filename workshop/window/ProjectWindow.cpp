@@ -219,8 +219,9 @@ bool ProjectWindow::MakeSampleIn(const fs::path& folder) {
 }
 
 void ProjectWindow::Refresh() {
-    file_ = RecordedProject().value_or(fs::path());
-    shown_ = ChangedAt(file_);
+    recorded_ = RecordedProject().value_or(fs::path());
+    changedAt_ = ChangedAt(recorded_);
+    file_ = recorded_;
     setWindowTitle(file_.empty() ? tr("I/O Workshop") : tr("%1 - I/O Workshop").arg(Shown(file_.filename())));
     ShowStations();
     ShowTags();
@@ -527,7 +528,8 @@ void ProjectWindow::closeEvent(QCloseEvent* event) {
 void ProjectWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
         const fs::path open = RecordedProject().value_or(fs::path());
-        if (open != file_ || ChangedAt(open) != shown_) {
+        // One that cannot be read is told of once, not each time that its box is closed.
+        if (open != recorded_ || ChangedAt(open) != changedAt_) {
             Refresh();
         }
     }

@@ -76,9 +76,11 @@ private:
     /// False where it was refused, which was told.
     bool Change(const std::function<std::string(Project&)>& change);
 
-    std::filesystem::path file_;            ///< empty for none
-    std::filesystem::file_time_type shown_; ///< when the project that is shown was last changed
-    QStackedWidget* pages_;                 ///< the start page, and the tables
+    std::filesystem::path file_; ///< what is shown; empty for none
+    std::filesystem::path
+        recorded_; ///< what was open when that was read, though it may not have been readable
+    std::filesystem::file_time_type changedAt_;
+    QStackedWidget* pages_; ///< the start page, and the tables
     StartPage* start_;
     FilteredTable* stations_;
     FilteredTable* tags_;
