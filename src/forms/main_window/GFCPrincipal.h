@@ -16,7 +16,8 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <set>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -95,9 +96,10 @@ public:
     // Once the record has done what it was handed, says in the status bar if that could not be written; of
     // the same trouble once only.
     void WatchRecord();
-    // What a check found in the station's file. It counts as open, and errors mark the station in the tree,
-    // until the file is another one, or the tags are as far as the program learns of it.
-    void MarkChecked(const audit::StationReport& report);
+    // What a check found in the stations' files. It counts as open, and errors mark the station in the tree,
+    // until the file is another one, or the tags are as far as the program learns of it: then the station
+    // counts as not checked.
+    void MarkChecked(std::span<const audit::StationReport* const> reports);
     // The library has answered for the station's tags.
     void TagsAnswered(const std::string& station, const project::TagList& tags);
     // Selects the node of the station, or of its run (1 to 5), as a click does; nothing happens where there
@@ -148,10 +150,13 @@ private:
                             const RunFlags& flags);
     [[nodiscard]] const char* ConfiguredImage(const std::string& station) const;
     void ForgetWhatChanged();
+    // Nothing where there is no file that can be read.
+    [[nodiscard]] std::optional<std::size_t> FileMarkOf(const std::string& station) const;
     void AddRunNode(int parent, const std::string& station, int run, bool enabled);
     void HidePanes();
     void ShowStations(const std::string& statusText);
     void OpenStationRow(int row);
+    void Remember(const audit::StationReport& report);
     void ShowMark(const std::string& station);
     // The project, how much of it is configured, and what checks found that is still open.
     void ShowOverview();
@@ -164,15 +169,14 @@ private:
     SummaryTabs summary_{*this, program_};
     bool listShowsStations_ = false;
     std::string toldTrouble_; // of the record
-    // Of a station in which a check found errors or warnings.
+    // What a check found in a station that stands as it was then.
     struct Checked {
-        std::string File; // its bytes at that time
+        std::size_t FileMark = 0; // of its bytes
         std::size_t TagsMark = 0;
         std::size_t Errors = 0;
         std::size_t Warnings = 0;
     };
-    std::map<std::string, Checked> open_; // by station
-    std::set<std::string> changedSince_;  // those of whose findings nobody knows any more
+    std::map<std::string, Checked> checked_; // by station
     int exitCode_ = 0;
 };
 

@@ -107,20 +107,27 @@ void GFCPrincipal::ShowOverview() {
                                    Counted(nodes.size(), "station") + " configured" + OpenFindings());
 }
 
+// Nothing is said as long as nothing was checked.
 std::string GFCPrincipal::OpenFindings() const {
+    if (checked_.empty())
+        return {};
     std::size_t errors = 0;
     std::size_t warnings = 0;
-    for (const auto& [station, checked] : open_) {
+    std::size_t stations = 0;
+    for (const auto& [station, checked] : checked_) {
         errors += checked.Errors;
         warnings += checked.Warnings;
+        stations += checked.Errors + checked.Warnings > 0 ? 1 : 0;
     }
-    std::string text;
-    if (!open_.empty())
-        text = "; open findings: " + Counted(errors, "error") + ", " + Counted(warnings, "warning") + " in " +
-               Counted(open_.size(), "station");
-    if (!changedSince_.empty())
-        text += "; changed since the check: " + Counted(changedSince_.size(), "station");
-    return text;
+    const auto& nodes = TreeGFC.At(1).Children;
+    const auto unchecked = std::ranges::count_if(nodes, [this](int station) {
+        return TreeGFC.At(station).Image != NoConfigImage && !checked_.contains(TreeGFC.At(station).Text);
+    });
+    const std::string found = "; open findings: " + Counted(errors, "error") + ", " +
+                              Counted(warnings, "warning") + " in " + Counted(stations, "station");
+    return (stations == 0 ? "; no open findings" : found) +
+           (unchecked == 0 ? ""
+                           : "; not checked: " + Counted(static_cast<std::size_t>(unchecked), "station"));
 }
 
 // A summary that shows in the same list has no rows that lead anywhere.
@@ -142,54 +149,48 @@ void GFCPrincipal::AddStation(int root, const project::Station& station, std::si
 }
 
 const char* GFCPrincipal::ConfiguredImage(const std::string& station) const {
-    const auto checked = open_.find(station);
-    return checked != open_.end() && checked->second.Errors > 0 ? "StationErrors" : "StationConfig";
+    const auto checked = checked_.find(station);
+    return checked != checked_.end() && checked->second.Errors > 0 ? "StationErrors" : "StationConfig";
 }
 
-// A station whose file has gone has nothing open.
+std::optional<std::size_t> GFCPrincipal::FileMarkOf(const std::string& station) const {
+    const auto bytes = program_.Machine.Files.Read(session_.Project.ConfigFileOf(station));
+    return bytes ? std::optional(std::hash<std::string>()(*bytes)) : std::nullopt;
+}
+
 void GFCPrincipal::ForgetWhatChanged() {
-    auto& files = program_.Machine.Files;
-    std::erase_if(open_, [&](const auto& entry) {
-        const auto bytes = files.Read(session_.Project.ConfigFileOf(entry.first));
-        const bool changed = bytes != entry.second.File;
-        if (changed)
-            changedSince_.insert(entry.first);
-        return changed;
-    });
-    std::erase_if(changedSince_, [&](const std::string& station) {
-        return !files.Exists(session_.Project.ConfigFileOf(station));
-    });
+    std::erase_if(checked_,
+                  [this](const auto& entry) { return FileMarkOf(entry.first) != entry.second.FileMark; });
 }
 
-void GFCPrincipal::MarkChecked(const audit::StationReport& report) {
-    open_.erase(report.Station);
-    changedSince_.erase(report.Station);
-    Checked checked{{},
-                    report.TagsMark,
-                    audit::CountOf(report.Findings, audit::Severity::Error),
-                    audit::CountOf(report.Findings, audit::Severity::Warning)};
-    auto bytes = program_.Machine.Files.Read(session_.Project.ConfigFileOf(report.Station));
-    if (bytes && checked.Errors + checked.Warnings > 0) {
-        checked.File = *std::move(bytes);
-        open_.emplace(report.Station, std::move(checked));
-    }
+void GFCPrincipal::MarkChecked(std::span<const audit::StationReport* const> reports) {
+    for (const audit::StationReport* report : reports)
+        Remember(*report);
+    ShowOverview();
+}
+
+void GFCPrincipal::Remember(const audit::StationReport& report) {
+    checked_.erase(report.Station);
+    if (const auto mark = FileMarkOf(report.Station))
+        checked_[report.Station] = {*mark, report.TagsMark,
+                                    audit::CountOf(report.Findings, audit::Severity::Error),
+                                    audit::CountOf(report.Findings, audit::Severity::Warning)};
     ShowMark(report.Station);
 }
 
 void GFCPrincipal::TagsAnswered(const std::string& station, const project::TagList& tags) {
-    const auto checked = open_.find(station);
-    if (checked == open_.end() || project::MarkOf(tags) == checked->second.TagsMark)
+    const auto checked = checked_.find(station);
+    if (checked == checked_.end() || project::MarkOf(tags) == checked->second.TagsMark)
         return;
-    open_.erase(checked);
-    changedSince_.insert(station);
+    checked_.erase(checked);
     ShowMark(station);
+    ShowOverview();
 }
 
 void GFCPrincipal::ShowMark(const std::string& station) {
     const int found = TreeGFC.FindPath(node::StationPath(station));
     if (found > 0 && TreeGFC.At(found).Image != NoConfigImage)
         TreeGFC.SetImage(found, ConfiguredImage(station));
-    ShowOverview();
 }
 
 void GFCPrincipal::GoTo(const std::string& station, int run) {

@@ -72,9 +72,12 @@ void FrCheckStations::End(const std::string& how) {
     Timer1.SetEnabled(false);
     Command2.SetEnabled(false);
     ShowProgress(how);
-    if (program_.Forms.IsLoaded<GFCPrincipal>())
-        for (const auto& report : reports_)
-            program_.Forms.Get<GFCPrincipal>().MarkChecked(*report);
+    if (!program_.Forms.IsLoaded<GFCPrincipal>())
+        return;
+    std::vector<const audit::StationReport*> reports;
+    for (const auto& report : reports_)
+        reports.push_back(report.get());
+    program_.Forms.Get<GFCPrincipal>().MarkChecked(reports);
 }
 
 void FrCheckStations::ShowProgress(const std::string& lead) {

@@ -6,6 +6,7 @@
 #include "suggest/Known.h"
 
 #include <algorithm>
+#include <array>
 
 namespace gfc::forms {
 
@@ -123,7 +124,7 @@ void FrPlanStations::WriteNext(Item& item) {
         item.Note = CountText(report);
         item.IsEdited = false;
         if (program_.Forms.IsLoaded<GFCPrincipal>())
-            program_.Forms.Get<GFCPrincipal>().MarkChecked(report);
+            program_.Forms.Get<GFCPrincipal>().MarkChecked(std::array{&report});
     }
     ShowItem(static_cast<std::size_t>(&item - items_.data()));
     if (program_.Forms.IsLoaded<GFCPrincipal>())

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace gfc::test {
 
 namespace {
@@ -39,6 +41,7 @@ struct StationTree : testing::Test, World {
                 report.Findings.push_back({.Severity = static_cast<audit::Severity>(severity)});
         return report;
     }
+    void Check(const audit::StationReport& report) { Window().MarkChecked(std::array{&report}); }
     std::string Overview() { return Window().StatusBar1.PanelText(2); }
     std::string Panel() { return Window().StatusBar1.PanelText(1); }
 };
@@ -267,21 +270,25 @@ TEST_F(StationTree, the_status_bar_counts_the_findings_that_are_open) {
     }
     TheStory.Check([&](Driver&) {
         const std::string configured = "plant: 2 of 2 stations configured";
-        Window().MarkChecked(Report("North", {2, 1, 5}));
-        EXPECT_EQ(Overview(), configured + "; open findings: 2 errors, 1 warning in 1 station");
+        EXPECT_EQ(Overview(), configured);
+        Check(Report("North", {2, 1, 5}));
+        EXPECT_EQ(Overview(), configured + "; open findings: 2 errors, 1 warning in 1 station; not checked: "
+                                           "1 station");
         // Notes are no work that is left, and warnings alone leave no mark in the tree.
-        Window().MarkChecked(Report("East", {0, 3, 1}));
+        Check(Report("East", {0, 3, 1}));
         EXPECT_EQ(Overview(), configured + "; open findings: 2 errors, 4 warnings in 2 stations");
         EXPECT_EQ(At("All Stations\\North").Image, "StationErrors");
         EXPECT_EQ(At("All Stations\\East").Image, "StationConfig");
-        Window().MarkChecked(Report("North", {0, 0, 5}));
-        Window().MarkChecked(Report("East", {}));
-        EXPECT_EQ(Overview(), configured);
+        Check(Report("North", {0, 0, 5}));
+        Check(Report("East", {}));
+        EXPECT_EQ(Overview(), configured + "; no open findings");
+        EXPECT_EQ(At("All Stations\\North").Image, "StationConfig");
     });
     Play();
 }
 
-// Nobody knows what is left of the findings in a file that has been changed, nor in one that is no more.
+// Nobody knows what is left of the findings in a file that has been changed; in one that is no more there
+// are none.
 TEST_F(StationTree, findings_are_open_as_long_as_the_file_is_the_one_that_was_checked) {
     for (const char* station : {"East", "North", "West"}) {
         AddStation(station, {});
@@ -289,18 +296,18 @@ TEST_F(StationTree, findings_are_open_as_long_as_the_file_is_the_one_that_was_ch
     }
     TheStory.Check([&](Driver&) {
         for (const char* station : {"East", "North", "West"})
-            Window().MarkChecked(Report(station, {1, 0, 0}));
+            Check(Report(station, {1, 0, 0}));
         Configure("North", "[General]\r\n");
         Files.Content.erase("/jobs/KDOrmAGA_plant_West.ini");
         Window().RebuildAfterCommand();
-        EXPECT_EQ(Overview(), "plant: 2 of 3 stations configured; open findings: 1 error, 0 warnings in 1 "
-                              "station; changed since the check: 1 station");
+        const std::string configured = "plant: 2 of 3 stations configured";
+        EXPECT_EQ(Overview(), configured + "; open findings: 1 error, 0 warnings in 1 station; not checked: "
+                                           "1 station");
         EXPECT_EQ(At("All Stations\\North").Image, "StationConfig");
         EXPECT_EQ(At("All Stations\\East").Image, "StationErrors");
-        Window().MarkChecked(Report("North", {0, 1, 0}));
-        EXPECT_EQ(Overview(), "plant: 2 of 3 stations configured; open findings: 1 error, 1 warning in 2 "
-                              "stations");
+        Check(Report("North", {0, 1, 0}));
         Window().RebuildAfterCommand();
+        EXPECT_EQ(Overview(), configured + "; open findings: 1 error, 1 warning in 2 stations");
         EXPECT_EQ(At("All Stations\\East").Image, "StationErrors") << "unchanged";
     });
     Play();
@@ -312,14 +319,14 @@ TEST_F(StationTree, the_mark_of_a_check_goes_as_soon_as_the_tags_are_known_to_be
     Configure("North", "");
     TheStory.Check([&](Driver&) {
         const std::string path = "All Stations\\North";
-        Window().MarkChecked(Report("North", {1}, project::MarkOf(tags)));
+        Check(Report("North", {1}, project::MarkOf(tags)));
         Window().TagsAnswered("North", tags);
         EXPECT_EQ(At(path).Image, "StationErrors");
         auto moved = tags;
         moved.front().RegAddr = 8;
         Window().TagsAnswered("North", moved);
         EXPECT_EQ(At(path).Image, "StationConfig");
-        EXPECT_EQ(Overview(), "plant: 1 of 1 station configured; changed since the check: 1 station");
+        EXPECT_EQ(Overview(), "plant: 1 of 1 station configured");
     });
     Play();
 }
