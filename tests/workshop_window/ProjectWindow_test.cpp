@@ -241,6 +241,28 @@ TEST_F(ProjectWindowTest, takes_a_dropped_table_in_once_its_columns_are_named) {
     EXPECT_THAT(Run("tags Newfield").Output, HasSubstr("Q-2  FX     13        V1      Virtual Module"));
 }
 
+TEST_F(ProjectWindowTest, asks_before_what_was_said_of_a_table_is_lost) {
+    OpenSample();
+    const std::string file = WriteTable("Tag,Class,Register,Module\nQ-1,FX,1,V\n");
+    int asked = 0;
+    Answer(
+        [&](QDialog& dialog) {
+            Type("Station", QStringLiteral("Newfield"), &dialog);
+            for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+                EXPECT_TRUE(dialog.isVisible());
+                QTimer::singleShot(0, &dialog, [&asked, answer] {
+                    ++asked;
+                    Press(dynamic_cast<QDialog&>(*QApplication::activeModalWidget()), answer);
+                });
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            }
+            EXPECT_FALSE(dialog.isVisible());
+        },
+        [&] { window_.ImportTable(file); });
+    EXPECT_EQ(asked, 2);
+    EXPECT_THAT(Run("stations").Output, testing::Not(HasSubstr("Newfield")));
+}
+
 // Whoever sits at a window has no switches.
 TEST_F(ProjectWindowTest, speaks_of_nothing_that_only_the_command_has) {
     const std::string help = Run("import-tags --help").Output;

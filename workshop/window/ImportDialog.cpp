@@ -143,6 +143,7 @@ QWidget* ImportDialog::MakeWishes() {
         Attempt(this,
                 [&] { TakeWishes(at == 0 ? TableWishes{} : LoadMapping(Typed(mapping_->itemText(at)))); });
         Later();
+        said_ = false; // it is kept already
     });
     auto* keep = new QPushButton(tr("&Keep as..."));
     keep->setToolTip(tr("Keep what is said here under a name, for the next table of the same tool"));
@@ -241,6 +242,7 @@ void ImportDialog::TakeWishes(const TableWishes& wishes) {
 }
 
 void ImportDialog::Later() {
+    said_ = true;
     import_->setEnabled(false); // what would be imported is not what is shown
     later_->start();
 }
@@ -439,6 +441,18 @@ void ImportDialog::Keep() {
             mapping_->addItem(name);
         }
         mapping_->setCurrentText(name);
+        said_ = false;
+    }
+}
+
+// Escape is soon pressed, and to name a dozen columns takes a while.
+void ImportDialog::reject() {
+    if (!said_ ||
+        QMessageBox::question(this, tr("I/O Workshop"),
+                              tr("Leave the import? What was said of the table is lost; \"Keep as...\" keeps "
+                                 "it for the next time."),
+                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes) {
+        QDialog::reject();
     }
 }
 

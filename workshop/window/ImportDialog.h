@@ -34,6 +34,9 @@ public:
     /// The first station that the table brought something for.
     [[nodiscard]] QString Station() const { return changed_; }
 
+    /// Asks first where something was said of the table that is not kept.
+    void reject() override;
+
 private:
     [[nodiscard]] QWidget* MakeWishes();
     [[nodiscard]] QWidget* MakePreview();
@@ -56,6 +59,7 @@ private:
     std::string readAs_;
     std::vector<std::string> shownTitles_;
     TableWishes columns_; ///< the columns that a person named, also of titles that this table lacks
+    bool said_ = false;   ///< since the mapping was chosen or kept
     QString done_;
     QString changed_;
 

@@ -4,6 +4,7 @@
 #include "forms/main_window/StationNodes.h"
 #include "forms/program/HelpFile.h"
 #include "forms/program/Loss.h"
+#include "forms/tools/ToolForm.h"
 #include "platform/Machine.h"
 #include "services/Text.h"
 
@@ -23,10 +24,6 @@ constexpr int chosenColumn = 0;
 constexpr int configurationColumn = 2;
 constexpr int statusColumn = 3;
 
-std::string Counted(std::size_t count, std::string_view thing) {
-    return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
-}
-
 std::string RunText(const plan::Line& line) {
     return line.Variable.Run > 0 ? std::to_string(line.Variable.Run) : std::string();
 }
@@ -39,7 +36,7 @@ bool IsChanged(const plan::Line& line) {
 // Of a station that is bound anew; of a copy every tag is another one.
 std::string ChangesIn(const std::vector<plan::Line>& lines) {
     const auto changed = static_cast<std::size_t>(std::ranges::count_if(lines, IsChanged));
-    return changed == 0 ? "nothing to change" : Counted(changed, "tag") + " to change";
+    return changed == 0 ? "nothing to change" : Counted(changed, "tag", "tags") + " to change";
 }
 
 } // namespace
@@ -148,7 +145,7 @@ std::string FrPlanStations::StatusOf(const Item& item) const {
         if (!item.Plan.Refused.empty())
             return item.Plan.Refused;
         if (missing > 0)
-            return Counted(missing, "variable") + " without a tag";
+            return Counted(missing, "variable", "variables") + " without a tag";
         return IsCopy() ? "all found" : "all found, " + ChangesIn(item.Plan.Lines);
     case State::Waiting:
         return "waits to be written";
@@ -252,6 +249,11 @@ void FrPlanStations::UseTag() {
 }
 
 void FrPlanStations::Leave() {
+    const bool waiting =
+        std::ranges::any_of(items_, [](const Item& item) { return item.State == State::Waiting; });
+    if (waiting && !MayLose(program_, IsCopy() ? copyTitle : bindTitle,
+                            "Stations wait to be written. Do you want to close the window?"))
+        return;
     const bool edited = std::ranges::any_of(items_, &Item::IsEdited);
     if (edited && !MayLose(program_, IsCopy() ? copyTitle : bindTitle,
                            "Tags were chosen that are not written. Do you want to close the window?"))

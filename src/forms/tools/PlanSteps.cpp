@@ -2,6 +2,7 @@
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/program/Agreement.h"
 #include "forms/tools/FrPlanStations.h"
+#include "forms/tools/ToolForm.h"
 #include "platform/Machine.h"
 #include "suggest/Known.h"
 
@@ -16,8 +17,8 @@ std::string CountText(const audit::StationReport& report) {
     const auto errors = audit::CountOf(report.Findings, audit::Severity::Error);
     const auto warnings = audit::CountOf(report.Findings, audit::Severity::Warning);
     return errors + warnings == 0 ? "written, nothing found by the check"
-                                  : "written; the check finds " + std::to_string(errors) + " errors, " +
-                                        std::to_string(warnings) + " warnings";
+                                  : "written; the check finds " + Counted(errors, "error", "errors") + ", " +
+                                        Counted(warnings, "warning", "warnings");
 }
 
 } // namespace

@@ -158,6 +158,20 @@ TEST_F(PlanStations, takes_the_tag_that_a_person_chooses_and_asks_before_that_is
     Play();
 }
 
+TEST_F(PlanStations, asks_before_it_closes_on_stations_that_are_not_written_yet) {
+    LookBothUp()
+        .Click(window, "Command8")
+        .Tick(window, "Timer1")
+        .Click(window, "Command9")
+        .Box("Copy to several stations", "Stations wait to be written. Do you want to close the window?",
+             ui::Icon::None, ui::Answer::No)
+        .Tick(window, "Timer1")
+        .Check([&](Driver&) { EXPECT_TRUE(Files.Content.contains(FileOf("West"))); })
+        .Click(window, "Command9");
+    Exit();
+    Play();
+}
+
 TEST_F(PlanStations, asks_before_each_configuration_that_is_replaced) {
     Files.Content[FileOf("South")] = "[General]\r\n";
     Open()
