@@ -1,6 +1,7 @@
 #include "WorkshopFixture.h"
 #include "workshop/import/CsvFile.h"
 #include "workshop/import/TagImport.h"
+#include "workshop/store/Failure.h"
 
 #include <gmock/gmock.h>
 
@@ -70,6 +71,38 @@ TEST_F(TagImport, takes_stations_modules_and_tags_in_row_order) {
     EXPECT_EQ(tags[1].ModuleType, "Virtual Module");
     EXPECT_EQ(tags[2].Name, "Caudal_Ñ");
     EXPECT_EQ(tags[2].Register, 0);
+}
+
+// Whenever a person gives it up, while it is read, planned or stored.
+TEST_F(TagImport, stores_nothing_of_a_table_that_is_given_up_at_any_moment) {
+    Project project = MakeSmallProject();
+    std::string table = Titles;
+    for (const char* station : {"North", "East", "West"}) {
+        table += std::string(station) + ",,,,VFX_NEW,Virtual Module,Z-1,FX,9001\n";
+    }
+    WriteBytes(Folder / "tags.csv", table);
+    bool done = false;
+    int given = 0;
+    for (int last = 1; !done && last < 100; ++last) {
+        int told = 0;
+        ImportRequest request{Folder / "tags.csv"};
+        request.Told = [&](double share) {
+            EXPECT_TRUE(share >= 0 && share <= 1) << share;
+            return ++told < last;
+        };
+        try {
+            static_cast<void>(ImportTags(project, request));
+            done = true;
+        } catch (const Failure& failure) {
+            ++given;
+            EXPECT_THAT(failure.what(), HasSubstr("nothing was changed"));
+            EXPECT_EQ(ListStations(project).size(), 2U);
+            EXPECT_EQ(CountTags(project, FindStation(project, "North")->Id), 3U);
+        }
+    }
+    EXPECT_TRUE(done);
+    EXPECT_GE(given, 6) << "three stations are planned, and stored";
+    EXPECT_EQ(ListStations(project).size(), 4U);
 }
 
 TEST_F(TagImport, finds_columns_by_name_in_any_order_and_case) {

@@ -37,7 +37,7 @@ public:
         using namespace std::chrono_literals;
         const auto now = std::chrono::steady_clock::now();
         if (now - shownAt_ > 500ms) {
-            std::fprintf(stderr, "\rReading: %3d %%  ", static_cast<int>(share * 100));
+            std::fprintf(stderr, "\rWorking: %3d %%  ", static_cast<int>(share * 100));
             shownAt_ = now;
             shown_ = true;
         }

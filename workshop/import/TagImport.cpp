@@ -137,8 +137,10 @@ ImportPlan ImportTags(Project& project, const ImportRequest& request) {
 ImportPlan ImportTable(Project& project, const CsvTable& file, const ImportRequest& request) {
     Transaction transaction(project.Data()); // what was planned on must still hold when it is changed
     ImportPlan plan = PlanTable(project, file, request);
+    double stored = 0;
     for (const StationPlan& station : plan.Stations) {
         Store(project, station);
+        TellProgress(request.Told, ++stored / static_cast<double>(plan.Stations.size()));
     }
     transaction.Commit();
     return plan;

@@ -250,6 +250,7 @@ void ImportDialog::Later() {
 // A large table takes its time, which is told from half a second on; who breaks it off has no preview, and
 // nothing imported.
 Progress ImportDialog::Watched(QProgressDialog& told) {
+    told.setWindowTitle(tr("I/O Workshop"));
     told.setWindowModality(Qt::WindowModal);
     told.setMinimumDuration(500);
     told.setAutoReset(false); // reading comes to its end before planning begins

@@ -19,6 +19,7 @@ constexpr int HasErrors = 1; // of gfc-audit
 // Waits with the windows alive; false where a person would not.
 bool Finish(QProcess& audit, QWidget* parent) {
     QProgressDialog told(QObject::tr("Checking the plant..."), QObject::tr("Cancel"), 0, 0, parent);
+    told.setWindowTitle(QObject::tr("I/O Workshop"));
     told.setWindowModality(Qt::WindowModal);
     told.setMinimumDuration(500);
     told.setValue(0);
