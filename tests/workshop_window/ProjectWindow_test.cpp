@@ -263,6 +263,28 @@ TEST_F(ProjectWindowTest, asks_before_what_was_said_of_a_table_is_lost) {
     EXPECT_THAT(Run("stations").Output, testing::Not(HasSubstr("Newfield")));
 }
 
+TEST_F(ProjectWindowTest, reads_a_table_anew_that_was_mended_in_the_spreadsheet) {
+    OpenSample();
+    const std::string file = WriteTable("Station,Tag,Class,Register,Module\nNewfield,Q-1,FX,one,V\n");
+    Answer(
+        [&](QDialog& dialog) {
+            auto* import = Find<QPushButton>("Import", &dialog);
+            auto* preview = Find<QTreeWidget>("Preview", &dialog);
+            ASSERT_TRUE(QTest::qWaitFor([&] { return preview->topLevelItemCount() > 0; }));
+            EXPECT_FALSE(import->isEnabled());
+            WriteTable("Station,Tag,Class,Register,Module\nNewfield,Q-1,FX,1,V\n");
+            std::filesystem::last_write_time(file, std::filesystem::last_write_time(file) +
+                                                       std::chrono::seconds(2));
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+            QEvent back(QEvent::ActivationChange);
+            QApplication::sendEvent(&dialog, &back);
+            ASSERT_TRUE(QTest::qWaitFor([&] { return import->isEnabled(); }));
+            QTest::mouseClick(import, Qt::LeftButton);
+        },
+        [&] { window_.ImportTable(file); });
+    EXPECT_THAT(Run("tags Newfield").Output, HasSubstr("Q-1"));
+}
+
 // Whoever sits at a window has no switches.
 TEST_F(ProjectWindowTest, speaks_of_nothing_that_only_the_command_has) {
     const std::string help = Run("import-tags --help").Output;

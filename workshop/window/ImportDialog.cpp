@@ -9,6 +9,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -268,6 +269,7 @@ void ImportDialog::ReadTable(const Progress& progress) {
     }
     request.Told = progress;
     read_.reset();
+    readAt_ = ChangedAt(table_); // before it is read: what comes behind that is seen again
     read_ = ReadRequested(request);
     readAs_ = request.Wishes.Encoding;
 }
@@ -444,6 +446,17 @@ void ImportDialog::Keep() {
         mapping_->setCurrentText(name);
         said_ = false;
     }
+}
+
+// Who comes back from the spreadsheet has mended the table there.
+void ImportDialog::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && read_ &&
+        ChangedAt(table_) != readAt_) {
+        read_.reset();
+        import_->setEnabled(false);
+        later_->start();
+    }
+    QDialog::changeEvent(event);
 }
 
 // Escape is soon pressed, and to name a dozen columns takes a while.

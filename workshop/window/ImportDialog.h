@@ -37,6 +37,9 @@ public:
     /// Asks first where something was said of the table that is not kept.
     void reject() override;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     [[nodiscard]] QWidget* MakeWishes();
     [[nodiscard]] QWidget* MakePreview();
@@ -57,6 +60,7 @@ private:
     std::filesystem::path table_;
     std::optional<CsvTable> read_; ///< as read with readAs_
     std::string readAs_;
+    std::filesystem::file_time_type readAt_; ///< when the table was changed last before that
     std::vector<std::string> shownTitles_;
     TableWishes columns_; ///< the columns that a person named, also of titles that this table lacks
     bool said_ = false;   ///< since the mapping was chosen or kept

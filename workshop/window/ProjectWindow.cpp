@@ -63,13 +63,6 @@ bool AskedYes(QWidget* parent, const QString& text) {
                                  QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
-// The earliest time of all where there is no such file.
-fs::file_time_type ChangedAt(const fs::path& file) {
-    std::error_code error;
-    const fs::file_time_type at = fs::last_write_time(file, error);
-    return error ? fs::file_time_type::min() : at;
-}
-
 // Empty where the configurator does not stand beside this program.
 QString Configurator() {
 #ifdef _WIN32

@@ -1,5 +1,7 @@
 #include "workshop/window/Told.h"
 
+#include <system_error>
+
 namespace gfc::workshop {
 
 namespace {
@@ -26,6 +28,12 @@ constexpr Wording Wordings[] = {
 };
 
 } // namespace
+
+std::filesystem::file_time_type ChangedAt(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::filesystem::file_time_type at = std::filesystem::last_write_time(file, error);
+    return error ? std::filesystem::file_time_type::min() : at;
+}
 
 QString InWindow(const std::string& text) {
     QString said = Shown(text);

@@ -24,6 +24,9 @@ namespace gfc::workshop {
 /// What was written for the command line, in the words of the window: each switch by what it is called there.
 [[nodiscard]] QString InWindow(const std::string& text);
 
+/// When that file was changed last; the earliest time of all where there is none.
+[[nodiscard]] std::filesystem::file_time_type ChangedAt(const std::filesystem::path& file);
+
 /// Does it, and tells in a box what refused it; false then.
 template <typename Work>
 bool Attempt(QWidget* parent, Work work) {
