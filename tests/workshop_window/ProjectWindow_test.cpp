@@ -431,6 +431,20 @@ TEST_F(ProjectWindowTest, says_that_no_project_is_open_and_what_to_do) {
     EXPECT_FALSE(Find<QAction>("RemoveTag")->isEnabled());
 }
 
+TEST_F(ProjectWindowTest, the_start_page_offers_what_was_open_before_and_is_still_there) {
+    OpenSample();
+    ASSERT_TRUE(window_.MakeSampleIn(Folder / "another"));
+    std::filesystem::remove(Folder / "another" / "plant.KPJ");
+    Find<QAction>("Close")->trigger();
+    const auto buttons = window_.findChildren<QAbstractButton*>(QStringLiteral("StartRecent"));
+    ASSERT_FALSE(buttons.isEmpty());
+    EXPECT_TRUE(buttons.front()->isVisible());
+    QTest::mouseClick(buttons.front(), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Find<QWidget>("StartPage")->isVisible(); }));
+    EXPECT_EQ(RecordedProject(), Folder / "plant" / "plant.KPJ");
+    EXPECT_TRUE(window_.findChildren<QAbstractButton*>(QStringLiteral("StartRecent")).isEmpty());
+}
+
 TEST_F(ProjectWindowTest, the_start_page_is_used_by_keys_alone_and_gives_way_to_the_project) {
     window_.show();
     int asked = 0;

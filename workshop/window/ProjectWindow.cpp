@@ -54,6 +54,18 @@ void Remember(const fs::path& file) {
     settings.setValue(RecentKey(), recent.mid(0, MostRecent));
 }
 
+// Those that a start page has room for.
+QStringList RecentThatStand() {
+    constexpr qsizetype Most = 3;
+    QStringList files;
+    for (const QString& file : QSettings().value(RecentKey()).toStringList()) {
+        if (files.size() < Most && QFileInfo::exists(file)) {
+            files += file;
+        }
+    }
+    return files;
+}
+
 fs::path Whole(const QString& path) {
     return fs::absolute(PathOf(Typed(path))).lexically_normal();
 }
@@ -161,6 +173,7 @@ void ProjectWindow::FillStartPage() {
     offer("New", tr("&New project..."),
           tr("An empty one. Its stations and tags come from a table of your own: Tags > Import a table."));
     offer("Open", tr("&Open a project..."), tr("One that was made here before."));
+    connect(start_, &StartPage::Opened, this, [this](const QString& file) { OpenProject(Whole(file)); });
 }
 
 void ProjectWindow::ShowRecent() {
@@ -236,6 +249,7 @@ void ProjectWindow::ShowStations() {
     Say(file_.empty() ? tr("No project is open: make one, open one, or make the sample by the menu Project.")
                       : Shown(file_));
     stations_->Show(std::move(rows));
+    start_->OfferRecent(file_.empty() ? RecentThatStand() : QStringList());
     pages_->setCurrentIndex(file_.empty() ? 0 : 1);
 }
 

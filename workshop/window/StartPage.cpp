@@ -2,6 +2,8 @@
 
 #include <QAction>
 #include <QCommandLinkButton>
+#include <QDir>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -32,13 +34,34 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent), buttons_(new QVBoxLayou
 }
 
 void StartPage::Offer(QAction* action, const QString& text, const QString& explanation) {
-    auto* button = new QCommandLinkButton(text, explanation);
+    auto* button = MakeButton(text, explanation);
     button->setObjectName(QStringLiteral("Start") + action->objectName());
+    connect(button, &QAbstractButton::clicked, action, &QAction::trigger);
+    first_ = first_ == nullptr ? button : first_;
+}
+
+QPushButton* StartPage::MakeButton(const QString& text, const QString& explanation) {
+    auto* button = new QCommandLinkButton(text, explanation);
     button->setMaximumWidth(Widest);
     button->setMinimumWidth(Widest);
-    connect(button, &QAbstractButton::clicked, action, &QAction::trigger);
     buttons_->addWidget(button);
-    first_ = first_ == nullptr ? button : first_;
+    return button;
+}
+
+void StartPage::OfferRecent(const QStringList& files) {
+    qDeleteAll(recent_);
+    recent_.clear();
+    for (const QString& file : files) {
+        const QFileInfo info(file);
+        // A name may hold what would else be taken for the mark of a key.
+        auto* button = MakeButton(info.fileName().replace(QLatin1Char('&'), QStringLiteral("&&")),
+                                  tr("Open it again, from %1").arg(QDir::toNativeSeparators(info.path())));
+        button->setObjectName(QStringLiteral("StartRecent"));
+        connect(
+            button, &QAbstractButton::clicked, this, [this, file] { Q_EMIT Opened(file); },
+            Qt::QueuedConnection); // the button goes with what it does
+        recent_ += button;
+    }
 }
 
 void StartPage::showEvent(QShowEvent* event) {

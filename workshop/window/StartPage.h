@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QAction;
+class QPushButton;
 class QVBoxLayout;
 
 namespace gfc::workshop {
@@ -17,12 +18,21 @@ public:
     /// A button that does what the entry of the menu does. The first one that is added has the focus.
     void Offer(QAction* action, const QString& text, const QString& explanation);
 
+    /// Below these a button for each of the files; Opened tells of the one that is pressed.
+    void OfferRecent(const QStringList& files);
+
+Q_SIGNALS:
+    void Opened(const QString& file);
+
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QPushButton* MakeButton(const QString& text, const QString& explanation);
+
     QVBoxLayout* buttons_;
+    QList<QWidget*> recent_;
     QWidget* first_ = nullptr;
 };
 
