@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
 #include <QVBoxLayout>
 
 namespace gfc::workshop {
@@ -13,6 +15,24 @@ namespace gfc::workshop {
 namespace {
 
 constexpr int Widest = 520; // pixels; lines of text that are longer are hard to read
+
+// The toolkit marks such a button where the mouse is, and nowhere where the keys are.
+class StartButton : public QCommandLinkButton {
+public:
+    using QCommandLinkButton::QCommandLinkButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QCommandLinkButton::paintEvent(event);
+        if (hasFocus()) {
+            QStyleOptionFocusRect frame;
+            frame.initFrom(this);
+            frame.state |= QStyle::State_KeyboardFocusChange;
+            QPainter painter(this);
+            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, this);
+        }
+    }
+};
 
 } // namespace
 
@@ -41,7 +61,7 @@ void StartPage::Offer(QAction* action, const QString& text, const QString& expla
 }
 
 QPushButton* StartPage::MakeButton(const QString& text, const QString& explanation) {
-    auto* button = new QCommandLinkButton(text, explanation);
+    auto* button = new StartButton(text, explanation);
     button->setMaximumWidth(Widest);
     button->setMinimumWidth(Widest);
     buttons_->addWidget(button);
