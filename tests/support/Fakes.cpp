@@ -30,6 +30,8 @@ std::optional<std::vector<project::Station>> FakeLibrary::GetStations() {
 project::TagList FakeLibrary::ReadTags(const std::string& station, const std::string&,
                                        const std::function<void(std::string_view)>& onTag) {
     Calls.push_back("ReadTags " + station);
+    if (WhileAsked)
+        WhileAsked();
     const auto found = TagsOf.find(station);
     if (found == TagsOf.end())
         return {};

@@ -45,6 +45,8 @@ public:
     std::vector<std::tuple<std::string, std::string, std::string>> FilesToLoad;
     // Every call, by name, in order: "AddFileToLoad North".
     std::vector<std::string> Calls;
+    // What happens while it takes its time over a station; may be empty.
+    std::function<void()> WhileAsked;
 
     std::string GetProjectFile() override;
     std::optional<std::vector<project::Station>> GetStations() override;

@@ -49,14 +49,16 @@ void FrCheckStations::Unloading() {
 
 // The window may be closed while the library takes its time over a station: the check ends with that one.
 void FrCheckStations::CheckNext() {
+    if (isAsking_)
+        return; // the library lets the timer tick
     const auto alive = KeepAlive();
     if (check_->IsAtEnd())
         return End("Checked");
-    Timer1.SetEnabled(false); // the library may let it tick
+    isAsking_ = true;
     auto report = std::make_unique<audit::StationReport>(check_->Next());
-    if (IsUnloaded())
+    isAsking_ = false;
+    if (IsUnloaded() || !Timer1.Enabled())
         return;
-    Timer1.SetEnabled(true);
     errors_ += audit::CountOf(report->Findings, audit::Severity::Error);
     warnings_ += audit::CountOf(report->Findings, audit::Severity::Warning);
     notes_ += audit::CountOf(report->Findings, audit::Severity::Note);

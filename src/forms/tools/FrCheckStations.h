@@ -54,6 +54,7 @@ private:
 
     std::unique_ptr<audit::Plant> plant_;
     std::unique_ptr<audit::PlantCheck> check_;
+    bool isAsking_ = false;
     std::vector<std::unique_ptr<audit::StationReport>> reports_;
     std::vector<audit::FindingAt> shown_; // in the order of the rows
     std::size_t errors_ = 0, warnings_ = 0, notes_ = 0;

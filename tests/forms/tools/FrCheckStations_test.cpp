@@ -129,5 +129,30 @@ TEST_F(CheckStations, stops_when_it_is_told_to_and_when_it_is_closed) {
     Play();
 }
 
+TEST_F(CheckStations, takes_a_tick_and_a_stop_while_the_library_takes_its_time) {
+    TheStory.Menu(main, "checkStations")
+        .Do("tick within a tick",
+            [&](Driver& d) {
+                Library.WhileAsked = [&] { d.Tick(window, "Timer1"); };
+                d.Tick(window, "Timer1");
+            })
+        .Check(
+            [&](Driver& d) { EXPECT_THAT(d.Text(window, "Label2"), HasSubstr("Checking: 1 of 2 stations")); })
+        .Click(window, "Command5")
+        .Menu(main, "checkStations")
+        .Do("stop within a tick",
+            [&](Driver& d) {
+                Library.WhileAsked = [&] { d.Click(window, "Command2"); };
+                d.Tick(window, "Timer1");
+                Library.WhileAsked = nullptr;
+            })
+        .Check(
+            [&](Driver& d) { EXPECT_THAT(d.Text(window, "Label2"), HasSubstr("Stopped: 0 of 2 stations")); })
+        .Check([&](Driver&) { EXPECT_FALSE(Form().Timer1.Enabled()); })
+        .Click(window, "Command5");
+    Exit();
+    Play();
+}
+
 } // namespace
 } // namespace gfc::test
