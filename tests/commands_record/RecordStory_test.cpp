@@ -9,8 +9,13 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <thread>
+#ifdef _WIN32
+#include <share.h>
+#endif
 
 namespace gfc::commands {
 namespace {
@@ -20,6 +25,25 @@ using testing::Not;
 using testing::StartsWith;
 
 using test::Outcome;
+
+// A file that is there and that nobody can read.
+class Unreadable {
+public:
+#ifdef _WIN32
+    explicit Unreadable(const std::string& file) : held_(_fsopen(file.c_str(), "rb", _SH_DENYRW), &fclose) {
+        EXPECT_TRUE(held_);
+    }
+
+private:
+    std::unique_ptr<FILE, int (*)(FILE*)> held_;
+#else
+    // Permissions would not keep root from it.
+    explicit Unreadable(const std::string& file) {
+        std::filesystem::remove(file);
+        std::filesystem::create_symlink("/proc/self/mem", file);
+    }
+#endif
+};
 
 class RecordStory : public testing::Test {
 protected:
@@ -105,8 +129,7 @@ TEST_F(RecordStory, AReportWhoseTextWasChangedIsFound) {
 // In the place of the file stands a link to one that is there and that nobody can read from its beginning.
 TEST_F(RecordStory, AFileThatCannotBeReadIsNotTakenForNone) {
     ASSERT_EQ(Run("report North -o ~a.html").Status, 0);
-    std::filesystem::remove(Folder.Path(File));
-    std::filesystem::create_symlink("/proc/self/mem", Folder.Path(File));
+    const Unreadable held(Folder.Path(File));
     ASSERT_EQ(Run("report North -o ~b.html").Status, 0);
     EXPECT_THAT(Folder.Get("b.html"), HasSubstr("The configuration of this station cannot be read: "));
     EXPECT_THAT(Folder.Get("b.html"), testing::Not(HasSubstr("has no configuration")));

@@ -2,6 +2,7 @@
 
 #include "workshop/import/TagImport.h"
 
+#include <QDateTime>
 #include <QDialog>
 
 #include <filesystem>
@@ -60,7 +61,7 @@ private:
     std::filesystem::path table_;
     std::optional<CsvTable> read_; ///< as read with readAs_
     std::string readAs_;
-    std::filesystem::file_time_type readAt_; ///< when the table was changed last before that
+    QDateTime readAt_; ///< when the table was changed last before that
     std::vector<std::string> shownTitles_;
     TableWishes columns_; ///< the columns that a person named, also of titles that this table lacks
     bool said_ = false;   ///< since the mapping was chosen or kept

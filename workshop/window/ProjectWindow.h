@@ -3,6 +3,7 @@
 #include "workshop/store/Project.h"
 #include "workshop/store/Tags.h"
 
+#include <QDateTime>
 #include <QMainWindow>
 
 #include <filesystem>
@@ -79,7 +80,7 @@ private:
     std::filesystem::path file_; ///< what is shown; empty for none
     std::filesystem::path
         recorded_; ///< what was open when that was read, though it may not have been readable
-    std::filesystem::file_time_type changedAt_;
+    QDateTime changedAt_;
     QStackedWidget* pages_; ///< the start page, and the tables
     StartPage* start_;
     FilteredTable* stations_;

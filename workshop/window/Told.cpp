@@ -1,6 +1,6 @@
 #include "workshop/window/Told.h"
 
-#include <system_error>
+#include <QFileInfo>
 
 namespace gfc::workshop {
 
@@ -29,10 +29,9 @@ constexpr Wording Wordings[] = {
 
 } // namespace
 
-std::filesystem::file_time_type ChangedAt(const std::filesystem::path& file) {
-    std::error_code error;
-    const std::filesystem::file_time_type at = std::filesystem::last_write_time(file, error);
-    return error ? std::filesystem::file_time_type::min() : at;
+// The library of the language tells it to the second on Windows.
+QDateTime ChangedAt(const std::filesystem::path& file) {
+    return QFileInfo(Shown(file)).lastModified();
 }
 
 QString InWindow(const std::string& text) {

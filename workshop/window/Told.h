@@ -3,6 +3,7 @@
 #include "workshop/store/Failure.h"
 #include "workshop/text/Paths.h"
 
+#include <QDateTime>
 #include <QMessageBox>
 #include <QString>
 
@@ -24,8 +25,8 @@ namespace gfc::workshop {
 /// What was written for the command line, in the words of the window: each switch by what it is called there.
 [[nodiscard]] QString InWindow(const std::string& text);
 
-/// When that file was changed last; the earliest time of all where there is none.
-[[nodiscard]] std::filesystem::file_time_type ChangedAt(const std::filesystem::path& file);
+/// When that file was changed last, to the millisecond; no valid time where there is none.
+[[nodiscard]] QDateTime ChangedAt(const std::filesystem::path& file);
 
 /// Does it, and tells in a box what refused it; false then.
 template <typename Work>
