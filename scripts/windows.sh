@@ -71,8 +71,7 @@ run_windows_tests() {
     say "Windows, $1: tests"
     local layers=()
     [ "$2" = whole ] || layers=(-R "^($(IFS='|'; echo "${windows_layers[*]}"))[.]")
-    export QT_QPA_PLATFORM=offscreen
-    ctest --test-dir "build/$(windows_preset "$1" "$2")" --output-on-failure --no-tests=error -j "$(nproc)" \
+    QT_QPA_PLATFORM=offscreen ctest --test-dir "build/$(windows_preset "$1" "$2")" --output-on-failure --no-tests=error -j "$(nproc)" \
         "${layers[@]}"
 }
 
