@@ -5,6 +5,7 @@
 #include "audit/Subject.h"
 #include "platform/Files.h"
 #include "project/TagsMark.h"
+#include "services/Elsewhere.h"
 
 #include <algorithm>
 #include <iterator>
@@ -13,9 +14,6 @@
 namespace gfc::audit {
 
 namespace {
-
-// Here, where the system gives no thread.
-constexpr std::launch Elsewhere = std::launch::async | std::launch::deferred;
 
 void CheckPlausibility(const Subject& subject, Sink& sink) {
     const config::StationConfig& station = subject.Station();
@@ -117,16 +115,17 @@ std::future<StationReport> BeginStation(platform::Files& files, project::AddOnLi
     if (!file.IsThere)
         return BeginFile(files, whose);
     std::promise<project::TagList> tags;
-    auto report = std::async(Elsewhere, [whose, file = std::move(file), asked = tags.get_future()]() mutable {
-        FileCheck check(whose, std::move(file));
-        return std::move(check).With(asked.get());
-    });
+    auto report =
+        std::async(services::Elsewhere, [whose, file = std::move(file), asked = tags.get_future()]() mutable {
+            FileCheck check(whose, std::move(file));
+            return std::move(check).With(asked.get());
+        });
     tags.set_value(library.ReadTags(station, project.ProjectFile, {}));
     return report;
 }
 
 std::future<StationReport> BeginFile(platform::Files& files, const Whose& whose) {
-    return std::async(Elsewhere, [whose, file = ReadFile(files, whose.File)]() mutable {
+    return std::async(services::Elsewhere, [whose, file = ReadFile(files, whose.File)]() mutable {
         return FileCheck(whose, std::move(file)).With(std::nullopt);
     });
 }

@@ -1,16 +1,10 @@
 #include "audit/Finding.h"
 
+#include "services/Counted.h"
+
 #include <algorithm>
 
 namespace gfc::audit {
-
-namespace {
-
-std::string Counted(std::size_t count, std::string_view thing) {
-    return std::to_string(count) + " " + std::string(thing) + (count == 1 ? "" : "s");
-}
-
-} // namespace
 
 void SortBySeverity(Findings& findings) {
     std::stable_sort(findings.begin(), findings.end(), [](const Finding& left, const Finding& right) {
@@ -25,8 +19,10 @@ std::size_t CountOf(const Findings& findings, Severity severity) {
 std::string CountText(const Findings& findings) {
     std::string text;
     for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note})
-        if (const std::size_t count = CountOf(findings, severity))
-            text.append(text.empty() ? "" : ", ").append(Counted(count, WordOf(severity)));
+        if (const std::size_t count = CountOf(findings, severity)) {
+            const std::string word(WordOf(severity));
+            text.append(text.empty() ? "" : ", ").append(services::Counted(count, word, word + "s"));
+        }
     return text.empty() ? "nothing to report" : text;
 }
 

@@ -1,5 +1,6 @@
 #include "plan/Apply.h"
 
+#include "services/Elsewhere.h"
 #include "services/Text.h"
 #include "suggest/Known.h"
 
@@ -14,8 +15,6 @@ namespace gfc::plan {
 
 namespace {
 
-// Here, where the system gives no thread.
-constexpr std::launch Elsewhere = std::launch::async | std::launch::deferred;
 // Not a thread for each station.
 constexpr std::size_t AtOnce = 8;
 
@@ -81,14 +80,15 @@ private:
     void Begin() {
         if (underWay_.size() >= std::max(1U, std::thread::hardware_concurrency()))
             TakeFirst();
-        underWay_.push_back(std::async(Elsewhere, [this, gathered = std::exchange(gathered_, {})]() mutable {
-            Assembled assembled;
-            for (auto& [wish, tags, before] : gathered)
-                if (auto checked = Assemble(*wish, Destination(std::move(tags)), circumstances_,
-                                            std::move(before), assembled.Found))
-                    assembled.Stations.push_back(*std::move(checked));
-            return assembled;
-        }));
+        underWay_.push_back(
+            std::async(services::Elsewhere, [this, gathered = std::exchange(gathered_, {})]() mutable {
+                Assembled assembled;
+                for (auto& [wish, tags, before] : gathered)
+                    if (auto checked = Assemble(*wish, Destination(std::move(tags)), circumstances_,
+                                                std::move(before), assembled.Found))
+                        assembled.Stations.push_back(*std::move(checked));
+                return assembled;
+            }));
     }
 
     void TakeFirst() {

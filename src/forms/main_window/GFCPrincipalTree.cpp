@@ -5,6 +5,7 @@
 #include "platform/Machine.h"
 #include "platform/ProfileKeys.h"
 #include "project/TagsMark.h"
+#include "services/Counted.h"
 
 #include <algorithm>
 #include <array>
@@ -14,11 +15,6 @@ namespace gfc::forms {
 namespace {
 
 constexpr const char* NoConfigImage = "StationNoConfig";
-
-// "1 station", "2 stations"
-std::string Counted(std::size_t count, const char* one) {
-    return std::to_string(count) + " " + one + (count == 1 ? "" : "s");
-}
 
 std::string YesOrNo(bool yes) {
     return yes ? "Yes" : "No";
@@ -104,7 +100,8 @@ void GFCPrincipal::ShowOverview() {
     const auto configured = std::ranges::count_if(
         nodes, [this](int station) { return TreeGFC.At(station).Image != NoConfigImage; });
     StatusBar1.SetPanelText(2, session_.Project.ProjectName + ": " + std::to_string(configured) + " of " +
-                                   Counted(nodes.size(), "station") + " configured" + OpenFindings());
+                                   services::Counted(nodes.size(), "station", "stations") + " configured" +
+                                   OpenFindings());
 }
 
 // Nothing is said as long as nothing was checked.
@@ -123,11 +120,13 @@ std::string GFCPrincipal::OpenFindings() const {
     const auto unchecked = std::ranges::count_if(nodes, [this](int station) {
         return TreeGFC.At(station).Image != NoConfigImage && !checked_.contains(TreeGFC.At(station).Text);
     });
-    const std::string found = "; open findings: " + Counted(errors, "error") + ", " +
-                              Counted(warnings, "warning") + " in " + Counted(stations, "station");
+    const std::string found = "; open findings: " + services::Counted(errors, "error", "errors") + ", " +
+                              services::Counted(warnings, "warning", "warnings") + " in " +
+                              services::Counted(stations, "station", "stations");
     return (stations == 0 ? "; no open findings" : found) +
            (unchecked == 0 ? ""
-                           : "; not checked: " + Counted(static_cast<std::size_t>(unchecked), "station"));
+                           : "; not checked: " + services::Counted(static_cast<std::size_t>(unchecked),
+                                                                   "station", "stations"));
 }
 
 // A summary that shows in the same list has no rows that lead anywhere.

@@ -10,10 +10,6 @@ bool IsPage(const std::string& file) {
     return services::FoldCase(file).ends_with(".html");
 }
 
-std::string Counted(std::size_t count, const std::string& one, const std::string& many) {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
 bool ToolForm::KeyDown(ui::Key key) {
     if (key != ui::Key::F1)
         return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/program/Program.h"
+#include "services/Counted.h"
 #include "services/TableText.h"
 #include "ui/Exchange.h"
 
@@ -38,7 +39,6 @@ private:
 
 [[nodiscard]] bool IsPage(const std::string& file);
 
-// "1 entry", "2 entries".
-[[nodiscard]] std::string Counted(std::size_t count, const std::string& one, const std::string& many);
+using services::Counted;
 
 } // namespace gfc::forms
