@@ -1,9 +1,11 @@
 #include "qt/WindowFixture.h"
+#include "qt/render/MenuLetters.h"
 #include "qt/support/KeyboardDriver.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QTreeView>
@@ -44,6 +46,54 @@ TEST_F(KeysOfWindows, leave_the_letters_of_menus_to_them) {
         EXPECT_NE(button->toolTip(), "Alt+M");
         EXPECT_NE(button->toolTip(), "Alt+H");
     }
+}
+
+TEST_F(KeysOfWindows, choose_in_an_open_menu_by_the_first_letter_of_an_entry) {
+    Alt(Qt::Key_M);
+    KeyboardDriver::Stroke(Qt::Key_F, "f");
+    EXPECT_THAT(Form->Log, ElementsAre("menu opens", "first"));
+    Form->Log.clear();
+    Alt(Qt::Key_M);
+    KeyboardDriver::Stroke(Qt::Key_X, "x"); // nobody's
+    KeyboardDriver::Stroke(Qt::Key_M, "m");
+    KeyboardDriver::Stroke(Qt::Key_D, "d");
+    EXPECT_THAT(Form->Log, ElementsAre("menu opens", "deep"));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(KeysOfWindows, choose_nothing_that_is_disabled_by_its_letter) {
+    Form->menuFirst.SetEnabled(false);
+    Alt(Qt::Key_M);
+    KeyboardDriver::Stroke(Qt::Key_F, "f");
+    EXPECT_THAT(Form->Log, ElementsAre("menu opens"));
+    KeyboardDriver::Stroke(Qt::Key_Escape);
+}
+
+TEST(KeysOfMenus, go_through_the_entries_that_begin_with_one_letter_and_leave_marked_ones_alone) {
+    QMenu menu;
+    new qt::MenuLetters(menu);
+    std::string chosen;
+    const auto add = [&](const char* text) {
+        return menu.addAction(text, [&chosen, text] { chosen += text; });
+    };
+    QAction* const check = add("Check");
+    QAction* const copy = add("Copy");
+    QAction* const drafts = add("Drafts");
+    add("&Delete");
+    menu.popup({});
+    Settle();
+    KeyboardDriver::Stroke(Qt::Key_C, "c");
+    EXPECT_EQ(menu.activeAction(), check);
+    KeyboardDriver::Stroke(Qt::Key_C, "C");
+    EXPECT_EQ(menu.activeAction(), copy);
+    KeyboardDriver::Stroke(Qt::Key_C, "c");
+    EXPECT_EQ(menu.activeAction(), check);
+    EXPECT_TRUE(menu.isVisible());
+    EXPECT_EQ(chosen, "");
+    KeyboardDriver::Stroke(Qt::Key_D, "d");
+    EXPECT_EQ(chosen, "&Delete");
+    EXPECT_NE(menu.activeAction(), drafts);
+    EXPECT_FALSE(menu.isVisible());
 }
 
 TEST_F(KeysOfWindows, run_the_check_of_the_field_that_they_leave) {

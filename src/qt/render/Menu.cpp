@@ -2,6 +2,7 @@
 
 #include "qt/Icons.h"
 #include "qt/render/MenuEntryRenderer.h"
+#include "qt/render/MenuLetters.h"
 #include "qt/render/Renderers.h"
 #include "ui/Form.h"
 
@@ -24,6 +25,7 @@ MenuEntryRenderer::MenuEntryRenderer(FormWindow& window, ui::MenuEntry& control)
     QWidget* place = PlaceOf(control);
     if (HasEntries(control)) {
         menu_ = new QMenu(place);
+        new MenuLetters(*menu_);
         action_ = menu_->menuAction();
         QObject::connect(menu_, &QMenu::aboutToShow, this, [this] { Click(); });
     } else {
