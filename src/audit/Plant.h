@@ -73,6 +73,7 @@ public:
     // Of these places alone.
     PlantCheck(const Plant& plant, std::vector<std::size_t> places);
 
+    [[nodiscard]] std::size_t Count() const { return places_.size(); }
     [[nodiscard]] bool IsAtEnd() const { return !ahead_.valid() && next_ == places_.size(); }
     // Not at the end, and not while it is under way.
     [[nodiscard]] StationReport Next();

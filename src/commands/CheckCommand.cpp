@@ -2,6 +2,8 @@
 #include "commands/Commands.h"
 #include "commands/Listing.h"
 #include "commands/OpenProject.h"
+#include "commands/Steps.h"
+#include "platform/Console.h"
 #include "services/Text.h"
 
 #include <CLI/CLI.hpp>
@@ -36,8 +38,14 @@ void CheckAll(audit::PlantCheck check, const std::string& project, const Options
     const auto level = LevelOf(options).value_or(audit::Severity::Warning);
     const auto listing = ListingFor(options);
     listing->Begin(project);
+    // On a screen the stations count themselves, as each is listed once it was looked at.
+    std::optional<Steps> steps;
+    if (!platform::GoesToScreen(platform::Stream::Results))
+        steps.emplace("Checking", check.Count());
     while (!check.IsAtEnd()) {
         const audit::StationReport report = check.Next();
+        if (steps && !steps->Begin(report.Station))
+            break;
         listing->Put(report);
         const auto counts = [&](const audit::Finding& finding) { return finding.Severity <= level; };
         if (std::ranges::any_of(report.Findings, counts))

@@ -9,7 +9,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 namespace gfc::platform {
 struct Machine;
@@ -42,6 +43,9 @@ void AddVerifyCommand(CLI::App& app, Context context);
 void AddReportCommand(CLI::App& app, Context context);
 void AddRestoreCommand(CLI::App& app, Context context);
 #endif
+
+// The option "--user" as the field of the window takes it: digits and points.
+CLI::Option& AddUserOption(CLI::App& command, std::string& user, const std::string& help);
 
 // Does what the arguments say and gives the exit code: that of a command that fails, else the status.
 [[nodiscard]] int RunApp(CLI::App& app, std::vector<std::string> arguments, const int& status);

@@ -110,7 +110,7 @@ void AddReportCommand(CLI::App& app, Context context) {
     command->add_option("STATION", options->Stations, "Stations to report; all of them if none is named");
     command->add_option("--output,-o", options->Output,
                         "The file to make: .html, .pdf or .json; without it HTML is given out");
-    command->add_option("--user", options->User, "The user id that the cover shows");
+    AddUserOption(*command, options->User, "The user id that the cover shows");
     command->add_option("--since", options->Since, "List what was changed after this entry of the history");
     command->add_option("--paper", options->Paper, "A4 or Letter, for a PDF")
         ->check(CLI::IsMember({"A4", "Letter"}));

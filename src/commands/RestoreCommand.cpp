@@ -82,7 +82,7 @@ void AddRestoreCommand(CLI::App& app, Context context) {
     auto options = std::make_shared<Options>();
     CLI::App* command = app.add_subcommand("restore", "Bring back a configuration from the history");
     command->add_option("STATION@ENTRY", options->State, "The state after that entry")->required();
-    command->add_option("--user", options->User, "The user id under which this is entered")->required();
+    AddUserOption(*command, options->User, "The user id under which this is entered").required();
     command->add_flag("--json", options->Json, "Give out JSON");
     command->add_option("--project", options->Project, "The project's file; without it the open project");
     command->callback([options, context] { Run(*options, context); });

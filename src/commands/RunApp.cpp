@@ -1,4 +1,5 @@
 #include "commands/Commands.h"
+#include "services/Funciones_III.h"
 
 #include <CLI/CLI.hpp>
 
@@ -7,6 +8,12 @@
 #include <iostream>
 
 namespace gfc::commands {
+
+CLI::Option& AddUserOption(CLI::App& command, std::string& user, const std::string& help) {
+    return *command.add_option("--user", user, help)->check([](const std::string& text) {
+        return services::IsUserId(text) ? std::string() : std::string(services::UserIdRule);
+    });
+}
 
 int RunApp(CLI::App& app, std::vector<std::string> arguments, const int& status) {
     try {

@@ -80,8 +80,14 @@ void Run(const Options& options, Context context) {
         suggest::QuestionFor(ini, open.Project, station, std::move(tags),
                              {options.Standard, options.Source, options.Measured, options.Runs});
     Refuse(question, station);
-    for (const suggest::Suggestion& each : suggest::Suggest(question))
+    const auto suggestions = suggest::Suggest(question);
+    for (const suggest::Suggestion& each : suggestions)
         options.Json ? PutJson(station, each) : PutText(each);
+    if (suggestions.empty())
+        Tell("every variable of \"" + station +
+             "\" has a tag. Whether it is a sound one says \"check\"; \"gfc-configure rebind\" binds anew "
+             "what "
+             "was renamed or moved.");
 }
 
 } // namespace

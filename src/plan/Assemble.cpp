@@ -128,6 +128,8 @@ void Assembler::TakeCommonTexts() {
         station_.UserId = circumstances_.User;
     if (station_.UserId.empty())
         Blame(nullptr, "UserID", "Say under which user id the file is written, here or by --user.");
+    else if (circumstances_.User.empty() && !services::IsUserId(station_.UserId))
+        Blame(CellOf("UserID"), "UserID", std::string(services::UserIdRule));
     if (station_.Compressible.empty())
         Blame(nullptr, "Compressible", "Say Yes or No.");
 }

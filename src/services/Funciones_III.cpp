@@ -42,6 +42,11 @@ bool KeyAllowed(char32_t key) {
     return key == BackspaceKey || EntryKeys.find(key) != EntryKeys.npos;
 }
 
+bool IsUserId(std::string_view text) {
+    const auto stands = [](char c) { return c == '.' || IsDigit(c); };
+    return !text.empty() && std::ranges::all_of(text, stands);
+}
+
 bool SingleDecimalPoint(std::string_view text) {
     return std::count(text.begin(), text.end(), '.') <= 1;
 }

@@ -12,6 +12,10 @@ inline constexpr char32_t BackspaceKey = 8;
 // True for Backspace, the ten digits and the point. The caller drops the key press on false.
 [[nodiscard]] bool KeyAllowed(char32_t key);
 
+// True for what can be typed as a user id: digits and points, one of them at least.
+[[nodiscard]] bool IsUserId(std::string_view text);
+inline constexpr std::string_view UserIdRule = "A user ID has digits and points only.";
+
 // True if the text holds at most one point. An empty text passes, and so do letters.
 [[nodiscard]] bool SingleDecimalPoint(std::string_view text);
 

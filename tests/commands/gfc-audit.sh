@@ -31,7 +31,7 @@ audit 2 'no file of a station "Nowhere"' check --folder "$work/plant" Nowhere
 northgate="Northgate_Custody --runs 1,3 --standard AGA3 --source AGA8 --measured"
 audit 0 '"run":3,"stage":"run inputs","variable":"Pressure","tag":"PIT-203_PV","confidence":"high"' suggest $northgate --json
 audit 0 'run 1: Temperature <- TIT-201_PV (high)' suggest $northgate
-audit 0 "" suggest Lakeside_Delivery
+audit 0 'every variable of "Lakeside_Delivery" has a tag' suggest Lakeside_Delivery
 audit 2 'no station "Nowhere"' suggest Nowhere
 audit 2 "say its runs by --runs" suggest Northgate_Custody
 audit 2 "by --standard and --source" suggest Northgate_Custody --runs 1

@@ -91,6 +91,7 @@ configure 2 "cannot be read" apply "$work/nowhere.csv"
 configure 2 "not configured" template Valve_Site_12
 program gfc-configure template $source --tags suggested | sed "s/^\(\xEF\xBB\xBF\)\?$source/Northgate_Custody/" >"$work/new.csv"
 configure 1 "What is suggested is not sure: NS-201_FLOW" apply "$work/new.csv" --preview
+configure 2 "A user ID has digits and points only." apply "$work/plan.csv" --replace --user abc
 configure 0 "2 of 2 stations written" apply "$work/plan.csv" --replace --user 99
 expect gfc-audit 0 "Twin_3  Apply plan  99" history Twin_3
 

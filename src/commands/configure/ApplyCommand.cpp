@@ -1,6 +1,6 @@
 #include "commands/Json.h"
+#include "commands/Steps.h"
 #include "commands/configure/Configure.h"
-#include "commands/configure/Steps.h"
 #include "plan/Apply.h"
 #include "plan/Template.h"
 
@@ -141,8 +141,7 @@ void AddApplyCommand(CLI::App& app, Context context) {
                       "Replace the configuration of a station that has one");
     command->add_flag("--despite-errors", options->DespiteErrors,
                       "Write what the check calls an error, too, where the windows would let it through");
-    command->add_option("--user", options->Apply.User,
-                        "The user id, in the place of that in the column User");
+    AddUserOption(*command, options->Apply.User, "The user id, in the place of that in the column User");
     command->add_flag("--json", options->Json, "Give out JSON");
     command->footer("Examples:\n  gfc-configure template North --tags suggested -o plan.csv\n"
                     "  gfc-configure apply plan.csv --preview\n  gfc-configure apply plan.csv --user 4711");

@@ -1,6 +1,6 @@
 #include "commands/Json.h"
+#include "commands/Steps.h"
 #include "commands/configure/Configure.h"
-#include "commands/configure/Steps.h"
 #include "services/Text.h"
 #include "suggest/Known.h"
 
@@ -256,7 +256,7 @@ void AddCommonOptions(CLI::App& command, const std::shared_ptr<Options>& options
                                       "Leave out the stations that cannot be written");
     command.add_flag("--incomplete", options->Incomplete, "Write the variables that have no tag unbound")
         ->excludes(complete);
-    command.add_option("--user", options->User, "The user id under which this is entered in the history");
+    AddUserOption(command, options->User, "The user id under which this is entered in the history");
     command.add_flag("--json", options->Json, "Give out JSON");
 }
 

@@ -1,6 +1,6 @@
 #include "commands/Listing.h"
+#include "commands/Steps.h"
 #include "commands/configure/Configure.h"
-#include "commands/configure/Steps.h"
 #include "platform/Console.h"
 #ifdef GFC_RECORD
 #include "record/BackgroundRecorder.h"

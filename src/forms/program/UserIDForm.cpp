@@ -2,15 +2,12 @@
 
 #include "services/Funciones_III.h"
 
-#include <algorithm>
-
 namespace gfc::forms {
 
 namespace {
 constexpr const char* caption = "Gas Flow Computer, V1.6.1";
 constexpr char32_t enter = 13;
 constexpr char32_t firstPrintable = 32;
-constexpr const char* idsOnly = "A user ID has digits and points only.";
 
 std::string WithoutBlanksAround(const std::string& text) {
     constexpr const char* blanks = " \t\r\n";
@@ -24,12 +21,14 @@ UserIDForm::UserIDForm(Program& program) : ProgramForm(program, "UserIDForm", ca
     Text1.OnKeyPress = [this](char32_t key) { return KeyTaken(key); };
     // No number, so that a comma is not taken for a point here.
     Text1.OnRefused = [](char32_t key) {
-        return ui::TextBox::Instead{0, key < firstPrintable ? std::string() : idsOnly};
+        return ui::TextBox::Instead{0,
+                                    key < firstPrintable ? std::string() : std::string(services::UserIdRule)};
     };
     Text1.OnPaste = [](const std::string& text) {
         const std::string id = WithoutBlanksAround(text);
-        const bool fits = std::ranges::all_of(id, services::KeyAllowed);
-        return fits ? ui::TextBox::Pasted{id, {}} : ui::TextBox::Pasted{{}, idsOnly};
+        const bool fits = id.empty() || services::IsUserId(id);
+        return fits ? ui::TextBox::Pasted{id, {}}
+                    : ui::TextBox::Pasted{{}, std::string(services::UserIdRule)};
     };
     Command1.OnClick = [this] { Accept(); };
     Command2.OnClick = [this] { Cancel(); };

@@ -19,8 +19,8 @@ std::vector<std::string> ConsoleArguments(int argc, const char* const* argv) {
     return argc < 2 ? std::vector<std::string>() : std::vector<std::string>(argv + 1, argv + argc);
 }
 
-bool SomebodyWatches() {
-    return ::isatty(STDERR_FILENO) != 0;
+bool GoesToScreen(Stream stream) {
+    return ::isatty(stream == Stream::Results ? STDOUT_FILENO : STDERR_FILENO) != 0;
 }
 
 void NoteInterrupts() {

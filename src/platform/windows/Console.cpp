@@ -37,8 +37,8 @@ std::vector<std::string> ConsoleArguments(int, const char* const*) {
     return arguments;
 }
 
-bool SomebodyWatches() {
-    return ::_isatty(::_fileno(stderr)) != 0;
+bool GoesToScreen(Stream stream) {
+    return ::_isatty(::_fileno(stream == Stream::Results ? stdout : stderr)) != 0;
 }
 
 void NoteInterrupts() {

@@ -1,4 +1,4 @@
-#include "commands/configure/Steps.h"
+#include "commands/Steps.h"
 
 #include "commands/Commands.h"
 #include "platform/Console.h"
@@ -9,7 +9,7 @@
 namespace gfc::commands {
 
 Steps::Steps(std::string doing, std::size_t all)
-    : doing_(std::move(doing)), all_(all), watched_(platform::SomebodyWatches()) {}
+    : doing_(std::move(doing)), all_(all), watched_(platform::GoesToScreen(platform::Stream::Errors)) {}
 
 Steps::~Steps() {
     if (shown_ > 0)
