@@ -162,7 +162,7 @@ void WizardFC::ShowClosingPage() {
     lbInfo.SetCaption(PageInfo[Closing]);
     lbStep.SetVisible(false);
     wizard.SetTab(Closing);
-    // The other button of the page throws all away.
+    // The other button of the page leaves without a file.
     Command1.SetFocus();
 }
 
