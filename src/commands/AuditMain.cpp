@@ -20,9 +20,9 @@ int Main(int argc, const char* const* argv) {
     app.footer("\"gfc-audit COMMAND --help\" explains a command.\n"
                "Exit codes:\n"
                "  0  nothing found at the level that was asked for\n"
-               "  1  there are findings, or differences\n"
+               "  1  there are findings, or differences, or \"verify\" finds something changed\n"
                "  2  wrong use: no such command, option, folder or station\n"
-               "  3  the project could not be asked");
+               "  3  the project could not be asked, or the output not be written");
     app.set_version_flag("--version", GFC_VERSION);
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
