@@ -178,7 +178,8 @@ Section /o "Stand-in for the I/O Workshop" SecStandIn
 SectionEnd
 
 !insertmacro MUI_FUNCTION_DESCRIPTION_BEGIN
-!insertmacro MUI_DESCRIPTION_TEXT ${SecProgram} "The program and its manual."
+!insertmacro MUI_DESCRIPTION_TEXT ${SecProgram} "The program, its manual, and two commands for many stations: \
+gfc-audit and gfc-configure."
 !insertmacro MUI_DESCRIPTION_TEXT ${SecStandIn} "A library and a command that take the place of the I/O Workshop, \
 to try the program without it. Never put over the library of the I/O Workshop."
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
