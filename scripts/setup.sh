@@ -1,4 +1,4 @@
-# Sourced by ./run and ./test: brings in what a fresh Debian 12 lacks, and builds.
+# Sourced by whatever builds: brings in what a fresh Debian 12 lacks, and builds.
 # shellcheck shell=bash
 
 say() { printf '\n== %s\n' "$*"; }

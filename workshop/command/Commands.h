@@ -19,7 +19,7 @@ inline constexpr int WrongUsage = 2;
 /// Each adds its commands. A command that fails throws Failure, or tells its faults and sets `status` to
 /// Failed.
 void AddProjectCommands(CLI::App& app);            ///< new, demo, open, close
-void AddImportCommand(CLI::App& app, int& status); ///< import-tags
+void AddImportCommand(CLI::App& app, int& status); ///< import-tags, mappings
 void AddExportCommand(CLI::App& app);              ///< export-tags
 void AddTagCommands(CLI::App& app);                ///< stations, tags
 void AddUseCommand(CLI::App& app);                 ///< where-used
