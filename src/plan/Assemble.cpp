@@ -4,6 +4,7 @@
 #include "plan/Assembler.h"
 #include "plan/Draft.h"
 #include "project/RunNeeds.h"
+#include "services/Funciones_III.h"
 #include "services/Text.h"
 
 #include <algorithm>
