@@ -2,7 +2,7 @@
 #include "config/Overload.h"
 #include "config/Vocabulary.h"
 #include "plan/Assembler.h"
-#include "plan/Draft.h"
+#include "plan/FileInMemory.h"
 #include "project/RunNeeds.h"
 #include "services/Funciones_III.h"
 #include "services/Text.h"
@@ -217,10 +217,10 @@ void Assembler::DemandCapacity() {
 }
 
 std::string Assembler::Written() const {
-    Draft draft(circumstances_.Project.ConfigFileOf(to_.Of().Station), {});
-    config::FileIni ini(draft);
-    config::SaveWholeConfiguration(ini, station_, draft.Path());
-    return draft.Bytes();
+    FileInMemory file(circumstances_.Project.ConfigFileOf(to_.Of().Station), {});
+    config::FileIni ini(file);
+    config::SaveWholeConfiguration(ini, station_, file.Path());
+    return file.Bytes();
 }
 
 // What the check calls an error, at the cell that said it.

@@ -1,6 +1,6 @@
 #include "plan/Change.h"
 
-#include "plan/Draft.h"
+#include "plan/FileInMemory.h"
 
 namespace gfc::plan {
 
@@ -52,8 +52,8 @@ Written Write(const Writer& writer, const Change& change) {
 }
 
 audit::StationReport CheckOf(const project::Project& project, const Change& change, project::TagList tags) {
-    Draft draft(change.File, change.After);
-    return audit::CheckFile(draft, {change.File, project.ProjectFile, project.ProjectName, change.Station},
+    FileInMemory file(change.File, change.After);
+    return audit::CheckFile(file, {change.File, project.ProjectFile, project.ProjectName, change.Station},
                             std::move(tags));
 }
 

@@ -4,7 +4,7 @@
 #include "config/ConfigReader.h"
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
-#include "plan/Draft.h"
+#include "plan/FileInMemory.h"
 #include "services/Text.h"
 #include "suggest/Known.h"
 
@@ -110,8 +110,8 @@ std::string TakeSource(platform::Files& files, const project::Project& project, 
                    ? "The configuration of " + station.Station + " cannot be read: " + files.LastFailure()
                    : "The station " + station.Station + " is not configured.";
     source.Bytes = *bytes;
-    Draft draft(file, *bytes);
-    const config::FileIni ini(draft);
+    FileInMemory inMemory(file, *bytes);
+    const config::FileIni ini(inMemory);
     config::StationConfig stored;
     config::LoadStationConfig(ini, stored, file);
     source.FlowSection = config::FlowSectionToRead(stored);
@@ -148,9 +148,9 @@ StationPlan PlanPlainCopy(platform::Files& files, const project::Project& projec
 
 Change ChangeFor(const project::Project& project, const Source& source, const StationPlan& plan) {
     const bool own = IsOwn(source, plan.Station);
-    Draft draft(plan.File, source.Bytes);
+    FileInMemory file(plan.File, source.Bytes);
     {
-        config::FileIni ini(draft);
+        config::FileIni ini(file);
         const config::FileBatch oneGo(ini, plan.File);
         if (!own)
             WriteNames(ini, plan.File, project, plan.Station);
@@ -159,7 +159,7 @@ Change ChangeFor(const project::Project& project, const Source& source, const St
     return {.Station = plan.Station,
             .File = plan.File,
             .Before = plan.Before,
-            .After = draft.Bytes(),
+            .After = file.Bytes(),
             .Command = std::string(own ? command::BindAnew : config::command::CopyToStation)};
 }
 

@@ -12,9 +12,9 @@ namespace gfc::plan {
 
 // A file system of one file that stands in memory alone: a configuration is made there, key by key, and goes
 // to the disk in one piece or not at all.
-class Draft : public platform::Files {
+class FileInMemory : public platform::Files {
 public:
-    Draft(std::string path, std::string bytes) : path_(std::move(path)), bytes_(std::move(bytes)) {}
+    FileInMemory(std::string path, std::string bytes) : path_(std::move(path)), bytes_(std::move(bytes)) {}
 
     std::optional<std::string> Read(const std::string& path) override {
         return path == path_ ? std::optional(bytes_) : std::nullopt;
