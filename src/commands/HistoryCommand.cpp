@@ -2,6 +2,7 @@
 #include "commands/Json.h"
 #include "commands/RecordAccess.h"
 #include "config/RecordFilter.h"
+#include "services/Counted.h"
 
 #include <CLI/CLI.hpp>
 
@@ -29,7 +30,7 @@ std::string Quoted(const std::optional<std::string>& text) {
 void Put(const RecordEntry& entry, const std::vector<KeyChange>& changes, const Options& options) {
     std::cout << entry.Number << "  " << entry.Time << "  " << entry.Station << "  " << entry.Command << "  "
               << (entry.User.empty() ? "-" : entry.User) << " (" << entry.MachineUser << ")  "
-              << changes.size() << (changes.size() == 1 ? " change" : " changes")
+              << services::Counted(changes.size(), "change", "changes")
               << (entry.FileHash.empty() ? ", no file" : "") << '\n';
     if (options.Changes)
         for (const KeyChange& change : changes)

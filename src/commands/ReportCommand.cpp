@@ -2,6 +2,7 @@
 #include "commands/OpenProject.h"
 #include "commands/RecordAccess.h"
 #include "report/MakeReport.h"
+#include "services/Counted.h"
 
 #ifdef GFC_PDF
 #include "report/pdf/Pdf.h"
@@ -97,9 +98,8 @@ void Run(const Options& options, Context context) {
     if (!context.Machine.Files.Replace(options.Output, bytes))
         throw Failure(exitcode::NotToBeHad, "the report could not be written: " + options.Output + " (" +
                                                 context.Machine.Files.LastFailure() + ")");
-    std::cout << options.Output << ": " << made.Stations.size()
-              << (made.Stations.size() == 1 ? " station" : " stations") << ", content "
-              << report::ContentHash(made) << '\n';
+    std::cout << options.Output << ": " << services::Counted(made.Stations.size(), "station", "stations")
+              << ", content " << report::ContentHash(made) << '\n';
 }
 
 } // namespace

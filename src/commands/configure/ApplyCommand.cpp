@@ -3,6 +3,7 @@
 #include "commands/configure/Configure.h"
 #include "plan/Apply.h"
 #include "plan/Template.h"
+#include "services/Counted.h"
 
 #include <CLI/CLI.hpp>
 
@@ -86,8 +87,7 @@ void Apply(Options options, Context context) {
     const auto targets = PlanAll(table, open, options.Apply, context, faults);
     if (!faults.empty()) {
         PutFaults(faults, options.Json);
-        throw Failure(exitcode::Found, std::to_string(faults.size()) +
-                                           (faults.size() == 1 ? " fault" : " faults") +
+        throw Failure(exitcode::Found, services::Counted(faults.size(), "fault", "faults") +
                                            " in the table; nothing was written.");
     }
     if (options.Preview)

@@ -1,6 +1,7 @@
 #include "commands/Json.h"
 #include "commands/Steps.h"
 #include "commands/configure/Configure.h"
+#include "services/Counted.h"
 #include "services/Text.h"
 #include "suggest/Known.h"
 
@@ -101,8 +102,7 @@ std::string Job::Against(const plan::Source& source, const plan::StationPlan& pl
     if (plan.ReplacesOther(source) && !options_.Replace)
         return "It has a configuration, which is replaced with --replace alone.";
     if (const std::size_t missing = plan::MissingIn(plan.Lines); missing > 0 && !options_.Incomplete)
-        return std::to_string(missing) +
-               (missing == 1 ? " variable has no tag." : " variables have no tags.") +
+        return services::Counted(missing, "variable has no tag.", "variables have no tags.") +
                " It is written all the same with --incomplete, and left out with --only-complete.";
     return {};
 }

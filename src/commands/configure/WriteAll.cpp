@@ -2,6 +2,7 @@
 #include "commands/Steps.h"
 #include "commands/configure/Configure.h"
 #include "platform/Console.h"
+#include "services/Counted.h"
 #ifdef GFC_RECORD
 #include "record/BackgroundRecorder.h"
 #include "record/ProjectRecorder.h"
@@ -76,7 +77,7 @@ void PutResults(const std::vector<plan::Checked>& targets, const std::vector<pla
         }
     }
     std::cout << "\n"
-              << written << " of " << targets.size() << (targets.size() == 1 ? " station" : " stations")
+              << written << " of " << services::Counted(targets.size(), "station", "stations")
               << " written\n";
 }
 
