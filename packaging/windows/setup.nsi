@@ -1,10 +1,13 @@
 ; The setup for Windows, made by packaging/windows/make, which hands in VERSION, TREE (the folder with what is to be
 ; installed), LISTS (the folder with what goes in and out by name), SIZE (in KiB) and OUT.
 ;   setup.exe /S [/AllUsers | /CurrentUser] [/STANDIN] [/D=folder]      silently; /D comes last and without quotes
+; Its exit code, and the uninstaller's: 0 done, 2 a file could not be written, 5 one that is to go is in use.
 ; The program goes where the library of the I/O Workshop is. A library that is not of this program's making is never
 ; written over nor removed.
 Unicode true
 SetCompressor /SOLID lzma
+; A file that cannot be written ends the setup; silently, too, where each would be left out without a word.
+AllowSkipFiles off
 !define NAME "Gas Flow Computer Configurator"
 !define KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\gfc-configurator"
 !define LIBRARY "kdaddon_VBwrapper.dll"
@@ -42,7 +45,8 @@ VIAddVersionKey LegalCopyright "MIT licence; see LICENSE"
 of the I/O Workshop, where that library is; the setup leaves the library as it is. To look at the program without the \
 I/O Workshop, take any folder and the stand-in."
 !define MUI_DIRECTORYPAGE_TEXT_DESTINATION "Folder of the I/O Workshop"
-!define MUI_FINISHPAGE_RUN "$INSTDIR\gfc-configurator.exe"
+!define MUI_FINISHPAGE_RUN
+!define MUI_FINISHPAGE_RUN_FUNCTION StartAsThePerson
 !define MUI_FINISHPAGE_RUN_TEXT "Start the ${NAME}"
 
 !insertmacro MUI_PAGE_LICENSE "${TREE}\LICENSE.txt"
@@ -55,6 +59,27 @@ I/O Workshop, take any folder and the stand-in."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE English
+
+; By the shell, with the person's own rights: with those of an administrator, which the setup may have, the program
+; would see neither the person's network drives nor, for the library, the I/O Workshop that runs without them.
+Function StartAsThePerson
+    Exec '"$WINDIR\explorer.exe" "$INSTDIR\gfc-configurator.exe"'
+FunctionEnd
+
+; Ends the setup, or the uninstaller, before it has done anything where the file runs or must not be written.
+!macro MustBeFree file
+    ${If} ${FileExists} "$INSTDIR\${file}"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\${file}" a
+        ${If} ${Errors}
+            MessageBox MB_ICONSTOP|MB_OK "${file} is in use, or must not be written. Close the program, on all screens \
+of this machine; for a folder of all users start this as an administrator. Nothing has been changed." /SD IDOK
+            SetErrorLevel 5
+            Quit
+        ${EndIf}
+        FileClose $0
+    ${EndIf}
+!macroend
 
 ; Leaves in $0 what the version of the file at $0 says that it is; empty if it says nothing.
 !macro DescriptionOf un
@@ -137,13 +162,19 @@ FunctionEnd
 
 Section "!Configurator" SecProgram
     SectionIn RO
+    !include "${LISTS}\programs-free.nsh"
+    Call WhoseLibrary
+    ${If} $0 != foreign
+        !include "${LISTS}\stand-in-free.nsh"
+    ${EndIf}
     SetOutPath "$INSTDIR"
     !include "${LISTS}\programs-in.nsh"
-    File "${TREE}\LICENSE.txt"
-    File "${TREE}\LICENCES-OF-OTHERS.txt"
+    ; The folder is another program's: names that it may have itself are not taken.
+    File "/oname=gfc-configurator LICENSE.txt" "${TREE}\LICENSE.txt"
+    File "/oname=gfc-configurator LICENCES-OF-OTHERS.txt" "${TREE}\LICENCES-OF-OTHERS.txt"
     File "/oname=gfc-configurator README.txt" "${TREE}\README.txt"
-    SetOutPath "$INSTDIR\manual"
-    File "${TREE}\manual\*"
+    SetOutPath "$INSTDIR\gfc-manual"
+    File "${TREE}\gfc-manual\*"
     SetOutPath "$INSTDIR"
     WriteUninstaller "$INSTDIR\gfc-configurator-uninstall.exe"
     WriteRegStr SHCTX "${KEY}" DisplayName "${NAME}"
@@ -184,8 +215,19 @@ gfc-audit and gfc-configure."
 to try the program without it. Never put over the library of the I/O Workshop."
 !insertmacro MUI_FUNCTION_DESCRIPTION_END
 
-; Says what would keep the program from starting, before anything is written.
+; Says what would keep the setup from writing or the program from starting, before anything is written.
 Function CheckFolder
+    ${If} ${FileExists} "$INSTDIR\*.*"
+        ClearErrors
+        FileOpen $0 "$INSTDIR\gfc-setup-tries.tmp" w
+        ${If} ${Errors}
+            MessageBox MB_ICONEXCLAMATION|MB_OK "This folder takes no file from you. Start the setup as an \
+administrator, or choose another folder."
+            Abort
+        ${EndIf}
+        FileClose $0
+        Delete "$INSTDIR\gfc-setup-tries.tmp"
+    ${EndIf}
     Call WhoseLibrary
     ${If} $0 == foreign
         Call MachineOfLibrary
@@ -231,16 +273,18 @@ FunctionEnd
 
 ; What was installed, by name. Whatever else is in the folder is the I/O Workshop's or the user's.
 Section Uninstall
+    !include "${LISTS}\programs-free.nsh"
     Call un.WhoseLibrary
     ${If} $0 == ours
+        !include "${LISTS}\stand-in-free.nsh"
         !include "${LISTS}\stand-in-out.nsh"
     ${EndIf}
     !include "${LISTS}\programs-out.nsh"
-    Delete "$INSTDIR\LICENSE.txt"
-    Delete "$INSTDIR\LICENCES-OF-OTHERS.txt"
+    Delete "$INSTDIR\gfc-configurator LICENSE.txt"
+    Delete "$INSTDIR\gfc-configurator LICENCES-OF-OTHERS.txt"
     Delete "$INSTDIR\gfc-configurator README.txt"
     !include "${LISTS}\manual-out.nsh"
-    RMDir "$INSTDIR\manual"
+    RMDir "$INSTDIR\gfc-manual"
     Delete "$INSTDIR\gfc-configurator-uninstall.exe"
     RMDir "$INSTDIR"
     Delete "$SMPROGRAMS\${NAME}.lnk"

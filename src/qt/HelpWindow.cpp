@@ -236,7 +236,7 @@ void HelpWindow::SayThatThereIsNone() {
 }
 
 QString ManualFolder() {
-    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("manual"));
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("gfc-manual"));
 }
 
 void ShowHelpWindow(const QString& folder, int context, QWidget* owner) {

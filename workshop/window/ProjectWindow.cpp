@@ -462,7 +462,7 @@ void ProjectWindow::StartConfigurator() {
 // The configurator's manual, in whatever this desktop shows such pages with.
 void ProjectWindow::ShowManual() {
     const QString page =
-        QCoreApplication::applicationDirPath() + QStringLiteral("/manual/bring-in-tags.html");
+        QCoreApplication::applicationDirPath() + QStringLiteral("/gfc-manual/bring-in-tags.html");
     if (!QFileInfo::exists(page) || !QDesktopServices::openUrl(QUrl::fromLocalFile(page))) {
         QMessageBox::information(
             this, tr("I/O Workshop"),
