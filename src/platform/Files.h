@@ -24,6 +24,10 @@ inline constexpr char Separator = '/';
 // The path with this machine's separator in place of the other one.
 [[nodiscard]] std::string WithOwnSeparators(std::string_view path);
 
+// The path as this machine's calls take it however long it is, for a library that makes them itself; a file
+// that it opens beside it may have a longer name by 60 characters.
+[[nodiscard]] std::string PathForCalls(const std::string& path);
+
 class Files {
 public:
     virtual ~Files() = default;

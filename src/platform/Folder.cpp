@@ -1,5 +1,7 @@
 #include "platform/Folder.h"
 
+#include "platform/Files.h"
+
 #include <exception>
 #include <filesystem>
 #include <system_error>
@@ -32,7 +34,8 @@ std::vector<std::string> NamesIn(fs::directory_iterator entry) {
 std::optional<std::vector<std::string>> FileNamesIn(const std::string& folder) {
     try {
         std::error_code error;
-        const fs::path path(std::u8string(folder.begin(), folder.end()));
+        const std::string its = PathForCalls(folder);
+        const fs::path path(std::u8string(its.begin(), its.end()));
         const fs::directory_iterator entry(path.empty() ? fs::path(".") : path, error);
         return error ? std::nullopt : std::optional(NamesIn(entry));
     } catch (const std::exception&) {

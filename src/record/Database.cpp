@@ -1,5 +1,7 @@
 #include "record/Database.h"
 
+#include "platform/Files.h"
+
 #include <sqlite3.h>
 
 namespace gfc::record {
@@ -45,7 +47,7 @@ Database::Database(std::string file, Access access) : file_(std::move(file)) {
     // written it is opened to be read.
     const int flags = SQLITE_OPEN_READWRITE | (access == Access::Write ? SQLITE_OPEN_CREATE : 0);
     sqlite3* handle = nullptr;
-    const int result = sqlite3_open_v2(file_.c_str(), &handle, flags, nullptr);
+    const int result = sqlite3_open_v2(platform::PathForCalls(file_).c_str(), &handle, flags, nullptr);
     handle_.reset(handle);
     Check(result);
     sqlite3_busy_timeout(handle, busyMilliseconds);

@@ -1,5 +1,6 @@
 #include "record/History.h"
 
+#include "platform/Files.h"
 #include "record/KeptFile.h"
 
 #include <filesystem>
@@ -38,7 +39,8 @@ void TakeRow(const Statement& row, bool whole, StoredEntry& entry) {
 // A crash between the making of the file and that of its table leaves an empty one.
 bool IsThere(const std::string& file) {
     std::error_code error;
-    const std::filesystem::path path(std::u8string(file.begin(), file.end()));
+    const std::string its = platform::PathForCalls(file);
+    const std::filesystem::path path(std::u8string(its.begin(), its.end()));
     const auto size = std::filesystem::file_size(path, error);
     return !error && size > 0;
 }

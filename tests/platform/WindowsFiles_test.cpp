@@ -1,11 +1,13 @@
 #ifdef _WIN32
 #include "platform/Files.h"
+#include "platform/Folder.h"
 #include "platform/InPlace.h"
 #include "platform/ProfileFile.h"
 #include "platform/windows/FileHandle.h"
 #include "platform/windows/SystemPath.h"
 #include "support/TempFolder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <random>
@@ -153,6 +155,15 @@ TEST_F(WindowsFilesTest, removes_what_was_left_aside_of_a_file_that_stands) {
     EXPECT_EQ(Folder.Count(), 1u);
 }
 
+TEST_F(WindowsFilesTest, what_is_deleted_does_not_come_back_as_what_was_left_aside_of_it) {
+    const std::string path = Folder.Put("f.ini", "kept");
+    Folder.Put(".gfc-gone-f.ini-0000abcd00", "older");
+    EXPECT_TRUE(Real->Delete(path)) << Real->LastFailure();
+    EXPECT_FALSE(Real->Exists(path));
+    EXPECT_FALSE(Real->Read(path));
+    EXPECT_EQ(Folder.Count(), 0u);
+}
+
 TEST_F(WindowsFilesTest, puts_back_what_a_dead_writer_left_half_way) {
     const std::string path = Folder.Put("f.ini", "newx");
     Folder.Put(".gfc-undo-f.ini", UndoRecord{path, "oldxx", "newxy"}.Bytes());
@@ -188,6 +199,9 @@ TEST_F(WindowsFilesTest, takes_paths_of_any_length) {
     EXPECT_TRUE(Real->Delete(path));
     EXPECT_FALSE(Real->Exists(path));
     EXPECT_TRUE(Real->Delete(folder + "\\b.ini"));
+    EXPECT_TRUE(Real->Replace(path, "3")) << Real->LastFailure();
+    EXPECT_THAT(FileNamesIn(folder), testing::Optional(testing::ElementsAre("a.ini")));
+    EXPECT_TRUE(Real->Delete(path));
     for (; folder != Folder.Path(); folder = ParentFolder(folder))
         EXPECT_TRUE(::RemoveDirectoryW(windows::SystemPath(folder).c_str())) << folder;
 }
@@ -220,10 +234,12 @@ TEST_F(WindowsFilesTest, what_stood_on_a_drive_that_went_away_is_not_taken_for_m
     char letter = 'B';
     while (letter < 'Z' && (drives >> (letter - 'A') & 1u) != 0)
         ++letter;
-    const std::string path = std::string(1, letter) + ":\\jobs\\a.ini";
-    EXPECT_TRUE(Real->Exists(path));
-    EXPECT_EQ(Real->Read(path), std::nullopt);
-    EXPECT_FALSE(Real->Replace(path, "x"));
+    for (const std::size_t length : {4u, 300u}) {
+        const std::string path = std::string(1, letter) + ":\\" + std::string(length, 'j') + "\\a.ini";
+        EXPECT_TRUE(Real->Exists(path));
+        EXPECT_EQ(Real->Read(path), std::nullopt);
+        EXPECT_FALSE(Real->Replace(path, "x"));
+    }
     EXPECT_FALSE(Real->Exists(Folder.Path("missing\\a.ini")));
 }
 

@@ -206,6 +206,10 @@ private:
 
 } // namespace
 
+std::string PathForCalls(const std::string& path) {
+    return path;
+}
+
 std::unique_ptr<Files> MakeFiles() {
     return std::make_unique<PosixFiles>();
 }

@@ -21,6 +21,10 @@ Handle OpenPatiently(const std::wstring& path, DWORD access) {
     return file;
 }
 
+bool DeletedPatiently(const std::wstring& path) {
+    return Patiently([&] { return ::DeleteFileW(path.c_str()) != 0; }, SaysHeld);
+}
+
 std::optional<std::string> ReadToEnd(HANDLE file) {
     LARGE_INTEGER size{};
     if (!::GetFileSizeEx(file, &size))

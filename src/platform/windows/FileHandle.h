@@ -32,6 +32,8 @@ bool Patiently(Attempt attempt, Passes passes) {
 // An existing file, shared with all others.
 [[nodiscard]] Handle OpenPatiently(const std::wstring& path, DWORD access);
 
+[[nodiscard]] bool DeletedPatiently(const std::wstring& path);
+
 // From where the file stands.
 [[nodiscard]] std::optional<std::string> ReadToEnd(HANDLE file);
 [[nodiscard]] bool WriteAll(HANDLE file, std::string_view bytes);

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t ShortEnough = 190;
 constexpr std::wstring_view Unlimited = L"\\\\?\\";
+constexpr std::wstring_view UnlimitedShare = L"\\\\?\\UNC\\";
 
 constexpr std::array<std::wstring_view, 6> Devices = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
 constexpr std::array<std::wstring_view, 2> Ports = {L"COM", L"LPT"};
@@ -47,7 +48,11 @@ bool NumbersPort(wchar_t c) {
 }
 
 // "X:\", "\\server\share\", or nothing.
-std::wstring RootOf(const std::wstring& path) {
+std::wstring RootOf(std::wstring path) {
+    if (path.starts_with(UnlimitedShare))
+        path.replace(0, UnlimitedShare.size(), L"\\\\");
+    else if (path.starts_with(Unlimited))
+        path.erase(0, Unlimited.size());
     if (path.size() > 2 && path[1] == L':' && IsSeparator(path[2]))
         return path.substr(0, 3);
     if (!IsShare(path))
@@ -65,7 +70,7 @@ std::wstring SystemPath(std::string_view utf8) {
     const std::wstring full = FullPath(path);
     if (full.empty())
         return path;
-    return IsShare(full) ? std::wstring(Unlimited) + L"UNC" + full.substr(1) : std::wstring(Unlimited) + full;
+    return IsShare(full) ? std::wstring(UnlimitedShare) + full.substr(2) : std::wstring(Unlimited) + full;
 }
 
 bool NamesDevice(std::wstring_view path) {
@@ -78,7 +83,9 @@ bool NamesDevice(std::wstring_view path) {
 
 bool RootAnswers(const std::wstring& path) {
     const std::wstring root = RootOf(path);
-    return root.empty() || ::GetFileAttributesW(root.c_str()) != INVALID_FILE_ATTRIBUTES;
+    // One that this user may not look at has answered, too.
+    return root.empty() || ::GetFileAttributesW(root.c_str()) != INVALID_FILE_ATTRIBUTES ||
+           ::GetLastError() == ERROR_ACCESS_DENIED;
 }
 
 } // namespace gfc::platform::windows

@@ -53,7 +53,7 @@ bool IsHeld(const std::wstring& path) {
     const DWORD before = ::GetLastError();
     const Handle file(::CreateFileW(path.c_str(), DELETE, ShareAll, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_NORMAL, nullptr));
-    const bool held = !file && ::GetLastError() != ERROR_FILE_NOT_FOUND;
+    const bool held = !file && SaysHeld(::GetLastError());
     ::SetLastError(before);
     return held;
 }
@@ -132,7 +132,7 @@ bool TemporaryFile::TryMoveOver(const std::wstring& target) {
     const std::wstring aside = AsideOf(path_);
     if (::ReplaceFileW(target.c_str(), path_.c_str(), aside.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                        nullptr)) {
-        ::DeleteFileW(aside.c_str());
+        (void)DeletedPatiently(aside);
         return true;
     }
     const DWORD error = ::GetLastError();

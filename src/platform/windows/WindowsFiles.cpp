@@ -36,6 +36,8 @@ bool MayServeInPlace(DWORD error) {
     case ERROR_USER_MAPPED_FILE:
     case ERROR_INVALID_FUNCTION: // of shares that know no such call
     case ERROR_NOT_SUPPORTED:
+    case ERROR_CALL_NOT_IMPLEMENTED:
+    case ERROR_INVALID_PARAMETER:
     case ERROR_UNABLE_TO_REMOVE_REPLACED:
     case ERROR_UNABLE_TO_MOVE_REPLACEMENT:
     case ERROR_UNABLE_TO_MOVE_REPLACEMENT_2:
@@ -119,8 +121,9 @@ public:
 
     bool Delete(const std::string& path) override {
         const std::wstring target = SystemPath(path);
-        return Told(
-            windows::Patiently([&] { return ::DeleteFileW(target.c_str()) != 0; }, windows::SaysHeld));
+        // What was left aside of it would come back as soon as nothing stands in its place.
+        TemporaryFile::RemoveLeftovers(target);
+        return Told(windows::DeletedPatiently(target));
     }
 
     bool CopyNew(const std::string& from, const std::string& to) override {
@@ -172,6 +175,10 @@ private:
 };
 
 } // namespace
+
+std::string PathForCalls(const std::string& path) {
+    return windows::Utf8(SystemPath(path));
+}
 
 std::unique_ptr<Files> MakeFiles() {
     return std::make_unique<WindowsFiles>();
