@@ -10,7 +10,9 @@ std::string ProfilePath(Paths& paths, std::string_view name) {
 
 RealMachine::RealMachine()
     : files_(MakeFiles()), timeZone_(MakeTimeZone()), clock_(MakeClock()),
-      singleInstance_(MakeSingleInstance()), launcher_(MakeLauncher()), paths_(MakePaths()) {}
+      singleInstance_(MakeSingleInstance()), launcher_(MakeLauncher()), paths_(MakePaths()) {
+    SilenceSystem();
+}
 
 Machine RealMachine::Seams() {
     return {*files_, *timeZone_, *clock_, *singleInstance_, *launcher_, *paths_};

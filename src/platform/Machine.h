@@ -61,6 +61,10 @@ public:
 [[nodiscard]] std::unique_ptr<Launcher> MakeLauncher();
 [[nodiscard]] std::unique_ptr<Paths> MakePaths();
 
+// From then on the system fails a call on a drive without a disk, or on a damaged library, and puts up no box
+// of its own about it, for which a command without a screen would wait for ever.
+void SilenceSystem();
+
 // Everything at once, as it is handed through the program; what it names must outlive it.
 struct Machine {
     platform::Files& Files;

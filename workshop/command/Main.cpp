@@ -12,6 +12,7 @@
 #include "workshop/text/Paths.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
@@ -26,7 +27,12 @@ using namespace gfc::workshop;
 // other line ends: those of a table that goes out are its own.
 std::vector<std::string> Words(int argc, char** argv) {
 #ifdef _WIN32
+    // The console outlives this program.
+    static const UINT before = ::GetConsoleOutputCP();
     ::SetConsoleOutputCP(CP_UTF8);
+    std::atexit([] { ::SetConsoleOutputCP(before); });
+    // No box of the system's own about a drive without a disk.
+    ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS);
     for (FILE* const stream : {stdout, stderr}) {
         static_cast<void>(::_setmode(::_fileno(stream), _O_BINARY));
     }

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 #include <shellapi.h>
@@ -12,11 +13,21 @@ namespace gfc::platform {
 
 namespace {
 
+std::atomic<bool> noting = false;
 std::atomic<bool> interrupted = false; // the system tells of it on a thread of its own
+UINT pageBefore = 0;                   // the console's, which outlives this program; 0 without a console
+
+void PutPageBack() {
+    if (pageBefore != 0)
+        ::SetConsoleOutputCP(pageBefore);
+}
 
 BOOL WINAPI Note(DWORD event) {
     const bool keys = event == CTRL_C_EVENT || event == CTRL_BREAK_EVENT;
-    return keys && !interrupted.exchange(true) ? TRUE : FALSE;
+    if (keys && noting && !interrupted.exchange(true))
+        return TRUE;
+    PutPageBack(); // the program ends
+    return FALSE;
 }
 
 } // namespace
@@ -24,7 +35,10 @@ BOOL WINAPI Note(DWORD event) {
 // The arguments that a program gets by itself are in the machine's own code page, which holds few of the
 // names that a folder can have.
 std::vector<std::string> ConsoleArguments(int, const char* const*) {
+    pageBefore = ::GetConsoleOutputCP();
     ::SetConsoleOutputCP(CP_UTF8);
+    std::atexit(PutPageBack);
+    ::SetConsoleCtrlHandler(Note, TRUE);
     // What is given out may be a file of a station or a report, whose line ends are its own.
     for (FILE* const stream : {stdout, stderr})
         (void)::_setmode(::_fileno(stream), _O_BINARY);
@@ -42,7 +56,7 @@ bool GoesToScreen(Stream stream) {
 }
 
 void NoteInterrupts() {
-    ::SetConsoleCtrlHandler(Note, TRUE);
+    noting = true;
 }
 
 bool WasInterrupted() {

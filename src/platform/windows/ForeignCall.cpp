@@ -29,7 +29,8 @@ ForeignReturn CallForeign(const void* function, std::initializer_list<std::uint3
                      "cld"
                      : "+a"(value), "+c"(count), "+d"(first)
                      :
-                     : "ebx", "esi", "edi", "memory", "cc");
+                     : "ebx", "esi", "edi", "memory", "cc", "st", "st(1)", "st(2)", "st(3)", "st(4)", "st(5)",
+                       "st(6)", "st(7)", "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5", "xmm6", "xmm7");
     return {value, static_cast<std::int32_t>(count)};
 }
 

@@ -46,6 +46,10 @@ public:
 
 } // namespace
 
+void SilenceSystem() {
+    ::SetErrorMode(::GetErrorMode() | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+}
+
 std::unique_ptr<Paths> MakePaths() {
     return std::make_unique<WindowsPaths>();
 }
