@@ -2,6 +2,7 @@
 
 #ifdef _WIN32
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QString>
 
@@ -28,6 +29,16 @@ HtmlHelp* Viewer() {
     return viewer;
 }
 
+// The viewer puts up an empty page in place of a file that comes over the network or was downloaded.
+bool WillBeShown(const QString& name) {
+    const QString full = QDir::toNativeSeparators(QFileInfo(name).canonicalFilePath());
+    const std::wstring root = full.left(3).toStdWString();
+    const std::wstring mark = (full + QStringLiteral(":Zone.Identifier")).toStdWString();
+    return !full.isEmpty() && !full.startsWith(QStringLiteral("\\\\")) &&
+           ::GetDriveTypeW(root.c_str()) != DRIVE_REMOTE &&
+           ::GetFileAttributesW(mark.c_str()) == INVALID_FILE_ATTRIBUTES;
+}
+
 // A window of the viewer that outlives the program's own windows takes the program down with it.
 void CloseWithTheProgram() {
     static const bool once = [] {
@@ -43,7 +54,7 @@ bool OpenMachineHelp(const std::string& file, int context) {
     const QString name = QString::fromStdString(file);
     // The viewer takes names in the machine's code page; what that lacks it would look for as something else.
     const QByteArray path = name.toLocal8Bit();
-    if (!QFileInfo::exists(name) || QString::fromLocal8Bit(path) != name || Viewer() == nullptr)
+    if (!WillBeShown(name) || QString::fromLocal8Bit(path) != name || Viewer() == nullptr)
         return false;
     CloseWithTheProgram();
     const auto topic = static_cast<DWORD_PTR>(context);

@@ -8,15 +8,26 @@ namespace {
 
 using windows::Handle;
 
-constexpr const char* TextViewer = "notepad.exe";
+// Where the machine's own viewer may stand. Without a folder it would be looked for beside this program and
+// in the current folder first, and whatever lies there under its name would be started.
+std::vector<std::string> TextViewers() {
+    std::vector<std::string> viewers;
+    for (const auto folderOf : {::GetSystemDirectoryW, ::GetSystemWindowsDirectoryW}) {
+        std::wstring folder(MAX_PATH, L'\0');
+        const UINT length = folderOf(folder.data(), MAX_PATH);
+        if (length > 0 && length < MAX_PATH)
+            viewers.push_back(windows::Utf8(folder.substr(0, length)) + "\\notepad.exe");
+    }
+    return viewers;
+}
 
 // No handle if it could not be started.
 Handle Run(const std::string& program, const std::vector<std::string>& arguments, STARTUPINFOW start) {
     std::wstring line = windows::CommandLine(program, arguments);
     PROCESS_INFORMATION process{};
     // Without a program of its own the call takes the line's first word, and looks for it on the search path.
-    if (program.empty() || !::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                                             nullptr, &start, &process))
+    if (program.empty() || !::CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE,
+                                             CREATE_DEFAULT_ERROR_MODE, nullptr, nullptr, &start, &process))
         return Handle();
     const Handle thread(process.hThread);
     return Handle(process.hProcess);
@@ -29,7 +40,10 @@ public:
     }
 
     bool OpenTextFile(const std::string& path, ViewerWindow window) override {
-        Handle process = Run(TextViewer, {path}, windows::StartInfo(window));
+        Handle process;
+        for (const std::string& viewer : TextViewers())
+            if (!process)
+                process = Run(viewer, {path}, windows::StartInfo(window));
         const bool isStarted(process);
         watch_.Begin(std::move(process));
         return isStarted;
