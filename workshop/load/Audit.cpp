@@ -35,11 +35,17 @@ fs::path OwnFolder() {
     return fs::path(path).parent_path();
 }
 
-// Names of stations and folders hold no quotes.
+// Names of stations and folders hold no quotes; backslashes count double before the closing one.
+std::wstring Quoted(std::wstring word) {
+    const auto last = word.find_last_not_of(L'\\');
+    word.append(word.size() - (last == std::wstring::npos ? 0 : last + 1), L'\\');
+    return L'"' + word + L'"';
+}
+
 int Run(const fs::path& program, const std::vector<std::string>& arguments) {
-    std::vector<std::wstring> words = {L"\"" + program.wstring() + L"\""};
+    std::vector<std::wstring> words = {Quoted(program.wstring())};
     for (const std::string& argument : arguments) {
-        words.push_back(L"\"" + PathOf(argument).wstring() + L"\"");
+        words.push_back(Quoted(PathOf(argument).wstring()));
     }
     std::vector<const wchar_t*> argv;
     for (const std::wstring& word : words) {
