@@ -4,7 +4,6 @@
 #include "plan/Assembler.h"
 #include "plan/FileInMemory.h"
 #include "project/RunNeeds.h"
-#include "services/Funciones_III.h"
 #include "services/Text.h"
 
 #include <algorithm>
@@ -129,8 +128,6 @@ void Assembler::TakeCommonTexts() {
         station_.UserId = circumstances_.User;
     if (station_.UserId.empty())
         Blame(nullptr, "UserID", "Say under which user id the file is written, here or by --user.");
-    else if (circumstances_.User.empty() && !services::IsUserId(station_.UserId))
-        Blame(CellOf("UserID"), "UserID", std::string(services::UserIdRule));
     if (station_.Compressible.empty())
         Blame(nullptr, "Compressible", "Say Yes or No.");
 }

@@ -1,10 +1,7 @@
 #include "record/History.h"
 
-#include "platform/Files.h"
+#include "platform/Folder.h"
 #include "record/KeptFile.h"
-
-#include <filesystem>
-#include <system_error>
 
 namespace gfc::record {
 namespace {
@@ -38,11 +35,7 @@ void TakeRow(const Statement& row, bool whole, StoredEntry& entry) {
 
 // A crash between the making of the file and that of its table leaves an empty one.
 bool IsThere(const std::string& file) {
-    std::error_code error;
-    const std::string its = platform::PathForCalls(file);
-    const std::filesystem::path path(std::u8string(its.begin(), its.end()));
-    const auto size = std::filesystem::file_size(path, error);
-    return !error && size > 0;
+    return platform::FileSize(file).value_or(0) > 0;
 }
 
 } // namespace

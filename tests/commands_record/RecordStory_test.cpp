@@ -94,8 +94,8 @@ TEST_F(RecordStory, WhatWasChangedIsShownComparedReportedFoundAndBroughtBack) {
     EXPECT_EQ(nlohmann::json::parse(ran.Output).at("rows").at(0).at("caption"), "Calibration Factor");
     EXPECT_EQ(Run("show North@1 --raw").Output, test::Golden("config/accelabar_detail_fixed.ini"));
 
-    EXPECT_EQ(Run("report North --since 1 --user ana -o ~a.html").Status, 0);
-    EXPECT_EQ(Run("report North --user ana -o ~a.pdf").Status, 0);
+    EXPECT_EQ(Run("report North --since 1 --user 77 -o ~a.html").Status, 0);
+    EXPECT_EQ(Run("report North --user 77 -o ~a.pdf").Status, 0);
     for (const char* report : {"~a.html", "~a.pdf", ""}) {
         ran = Run(std::string("verify ") + report);
         EXPECT_EQ(ran.Status, 0) << ran.Output;
@@ -108,7 +108,7 @@ TEST_F(RecordStory, WhatWasChangedIsShownComparedReportedFoundAndBroughtBack) {
         EXPECT_EQ(ran.Status, 1) << ran.Output;
         EXPECT_THAT(ran.Output, HasSubstr("Calibration Factor (CalibrationFactor)"));
     }
-    EXPECT_EQ(Run("restore North@2 --user ana").Status, 0);
+    EXPECT_EQ(Run("restore North@2 --user 77").Status, 0);
     EXPECT_EQ(Folder.Get(File), good);
     EXPECT_EQ(Run("verify ~a.html").Status, 0);
     ran = Run("history");
@@ -150,7 +150,7 @@ TEST_F(RecordStory, WrongUseAndWhatCannotBeHadHaveTheirCodes) {
     EXPECT_EQ(Run("show Nowhere").Status, 2);
     EXPECT_EQ(Run("show North@99").Status, 2);
     EXPECT_EQ(Run("diff North North#1").Status, 2);
-    EXPECT_EQ(Run("restore North --user ana").Status, 2);
+    EXPECT_EQ(Run("restore North --user 77").Status, 2);
     EXPECT_EQ(Run("verify ~missing.html").Status, 2);
     Folder.Put("KDOrmAGA_plant_History.sqlite", std::string(5000, 'x'));
     EXPECT_EQ(Run("history").Status, 3);
@@ -162,7 +162,7 @@ TEST_F(RecordStory, TwoProgramsRecordAtOnce) {
     const auto inTurn = [this] {
         for (int turn = 0; turn < 5; ++turn)
             for (const char* entry : {"1", "2"})
-                (void)Run(std::string("restore North@") + entry + " --user x");
+                (void)Run(std::string("restore North@") + entry + " --user 5");
     };
     std::thread other(inTurn);
     inTurn();

@@ -1,7 +1,5 @@
 #include "platform/Folder.h"
 
-#include "platform/Files.h"
-
 #include <exception>
 #include <filesystem>
 #include <system_error>
@@ -34,13 +32,18 @@ std::vector<std::string> NamesIn(fs::directory_iterator entry) {
 std::optional<std::vector<std::string>> FileNamesIn(const std::string& folder) {
     try {
         std::error_code error;
-        const std::string its = PathForCalls(folder);
-        const fs::path path(std::u8string(its.begin(), its.end()));
+        const fs::path path(std::u8string(folder.begin(), folder.end()));
         const fs::directory_iterator entry(path.empty() ? fs::path(".") : path, error);
         return error ? std::nullopt : std::optional(NamesIn(entry));
     } catch (const std::exception&) {
         return std::nullopt; // a name that is no text
     }
+}
+
+std::optional<std::uint64_t> FileSize(const std::string& path) {
+    std::error_code error;
+    const auto size = fs::file_size(path, error);
+    return error ? std::nullopt : std::optional<std::uint64_t>(size);
 }
 
 } // namespace gfc::platform
