@@ -1,6 +1,7 @@
 #include "app/Application.h"
 #include "qt/Icons.h"
 #include "qt/QtScreen.h"
+#include "qt/SessionEnd.h"
 #include "qt/SystemLook.h"
 #include "qt/WindowPlaces.h"
 #include "record/BackgroundRecorder.h"
@@ -29,6 +30,8 @@ int main(int argc, char* argv[]) {
     gfc::qt::PrepareSystemLook();
     QApplication application(argc, argv);
     SetUp(application);
+    const gfc::qt::SessionEnd sessionEnd(
+        QStringLiteral("A window is still open, and what was entered there is not stored."));
     const gfc::qt::WindowPlaces places(gfc::qt::WindowPlaces::FileOfUser());
     gfc::platform::RealMachine machine;
     const gfc::platform::Machine seams = machine.Seams();
