@@ -19,6 +19,11 @@ bool IsOf(const KeptDraft& kept, const std::string& id) {
     return kept.TheDraft && kept.TheDraft->Id == id;
 }
 
+// Another instance may have put a draft behind one that was cut off, and a line end between them.
+bool IsSame(const KeptDraft& kept, const std::string& bytes) {
+    return kept.Bytes == bytes || kept.Bytes == bytes + '\n';
+}
+
 } // namespace
 
 DraftStore::DraftStore(platform::Machine& machine, const std::string& projectFile)
@@ -65,7 +70,7 @@ bool DraftStore::Remove(const KeptDraft& kept) {
     auto drafts = All();
     if (!drafts)
         return false;
-    const auto gone = std::erase_if(*drafts, [&](const KeptDraft& each) { return each.Bytes == kept.Bytes; });
+    const auto gone = std::erase_if(*drafts, [&](const KeptDraft& each) { return IsSame(each, kept.Bytes); });
     return gone == 0 || Write(*drafts);
 }
 
@@ -73,8 +78,12 @@ bool DraftStore::Write(const std::vector<KeptDraft>& drafts) {
     if (drafts.empty() && files_.Delete(file_))
         return true;
     std::string bytes;
-    for (const KeptDraft& kept : drafts)
+    for (const KeptDraft& kept : drafts) {
+        // One that was cut off within a line must not take the next one with it.
+        if (!bytes.empty() && !bytes.ends_with('\n'))
+            bytes += '\n';
         bytes += kept.Bytes;
+    }
     return files_.Replace(file_, bytes) || Fail(files_.LastFailure() + ".");
 }
 
