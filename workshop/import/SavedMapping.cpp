@@ -98,6 +98,12 @@ bool TakeLine(TableWishes& wishes, const std::string& text) {
     return mark != std::string::npos && line != std::end(Lines) && line->Take(wishes, text.substr(mark + 1));
 }
 
+// A title may have line ends of its own; it then goes on in the next line, as a quoted field of CSV does.
+bool IsOpen(const std::string& line) {
+    return (line.starts_with("map=\"") || line.starts_with("module-type=\"")) &&
+           std::count(line.begin(), line.end(), '"') % 2 != 0;
+}
+
 } // namespace
 
 std::vector<std::string> SavedMappings() {
@@ -142,7 +148,10 @@ TableWishes WishesFrom(const std::string& lines, const std::string& source) {
     TableWishes wishes;
     std::istringstream in(lines);
     std::string line;
-    for (int number = 1; std::getline(in, line); ++number) {
+    for (int number = 1, next = 2; std::getline(in, line); number = next++) {
+        for (std::string more; IsOpen(line) && std::getline(in, more); ++next) {
+            line += '\n' + more;
+        }
         if (!TakeLine(wishes, line)) {
             throw Failure(source + ": line " + std::to_string(number) + ", \"" + line +
                           "\", is none that a mapping has; make the mapping anew with --save-mapping.");
