@@ -12,8 +12,10 @@ namespace {
 
 constexpr char behindLength = ':';
 constexpr const char* noMemory = "There is not enough memory for an entry of the history.";
-// What no configuration comes near to, so that a length that was tampered with takes no memory.
+// What no configuration comes near to, and how many bytes one byte of a stream stands for at most (RFC 1951:
+// 258 in two bits), so that a length that was tampered with takes no memory.
 constexpr std::size_t longest = 256U << 20U;
+constexpr std::size_t mostForOne = 1032;
 
 const Bytef* Bytes(std::string_view text) {
     return reinterpret_cast<const Bytef*>(text.data());
@@ -97,7 +99,7 @@ std::string Compress(std::string_view bytes) {
 
 std::optional<std::string> Expand(std::string_view kept) {
     const auto length = TakeLength(kept);
-    if (!length)
+    if (!length || *length / mostForOne > kept.size())
         return std::nullopt;
     std::string bytes(*length, '\0');
     auto size = static_cast<uLongf>(*length);

@@ -51,5 +51,15 @@ TEST(KeptFile, WhatWasMadeByNobodyGivesNothing) {
     EXPECT_EQ(ExpandLike(CompressLike("abc", "base") + "x", "base"), std::nullopt);
 }
 
+// A length that the stream cannot come to is refused beforehand; what repeats itself most comes to the bound.
+TEST(KeptFile, WhatIsTheSameThroughoutComesBack) {
+    for (const std::size_t size : {1U, 1'032U, 100'000U, 3'000'000U}) {
+        const std::string file(size, '\0');
+        const std::string kept = KeepWhole(file);
+        EXPECT_EQ(FileIn(kept, {}), file) << size;
+        EXPECT_EQ(FileIn("268435456" + kept.substr(kept.find(':')), {}), std::nullopt) << size;
+    }
+}
+
 } // namespace
 } // namespace gfc::record
