@@ -3,6 +3,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+
 namespace gfc::report {
 
 namespace {
@@ -55,9 +57,15 @@ SummaryTable TableOf(const Json& json) {
     return {json.at("title"), json.at("columns"), json.at("rows"), json.at("line")};
 }
 
+// A fraction, a truth value and what is less than nothing are refused: all would be taken for some number.
+// One beyond what an entry may have comes out below 0.
+std::int64_t CountIn(const Json& json) {
+    return static_cast<std::int64_t>(json.get_ref<const Json::number_unsigned_t&>());
+}
+
 StationPages StationOf(const Json& json) {
-    StationPages station{json.at("name"),  json.at("file"),    json.at("sha256"),
-                         json.at("entry"), json.at("content"), {}};
+    StationPages station{json.at("name"),           json.at("file"),    json.at("sha256"),
+                         CountIn(json.at("entry")), json.at("content"), {}};
     for (const Json& table : json.at("tables"))
         station.Tables.push_back(TableOf(table));
     station.Unread = json.value("unread", "");
@@ -65,14 +73,25 @@ StationPages StationOf(const Json& json) {
 }
 
 Report ReportOf(const Json& json) {
-    Report report{json.at("time"),        json.at("project"),
-                  json.at("projectFile"), json.at("user"),
-                  json.at("machineUser"), json.at("program"),
-                  json.at("entries"),     json.at("historyHash"),
-                  json.at("since"),       {}};
+    Report report{json.at("time"),
+                  json.at("project"),
+                  json.at("projectFile"),
+                  json.at("user"),
+                  json.at("machineUser"),
+                  json.at("program"),
+                  CountIn(json.at("entries")),
+                  json.at("historyHash"),
+                  json.at("since"),
+                  {}};
     for (const Json& station : json.at("stations"))
         report.Stations.push_back(StationOf(station));
     return report;
+}
+
+bool HasItsCounts(const Report& report) {
+    return report.Entries >= 0 && std::ranges::all_of(report.Stations, [](const StationPages& station) {
+               return station.Entry >= 0;
+           });
 }
 
 } // namespace
@@ -86,7 +105,8 @@ std::optional<Report> FromJson(std::string_view text) {
         const Json json = Json::parse(text);
         if (json.at("kind") != kind || json.at("version") != version)
             return std::nullopt;
-        return ReportOf(json);
+        Report report = ReportOf(json);
+        return HasItsCounts(report) ? std::optional(std::move(report)) : std::nullopt;
     } catch (const Json::exception&) {
         return std::nullopt;
     }
