@@ -38,5 +38,9 @@ void Csv(std::string_view bytes);
 void Project(std::string_view bytes);
 void Entry(std::string_view bytes);
 void ContractTime(std::string_view bytes);
+void Drafts(std::string_view bytes);
+void Mapping(std::string_view bytes);
+void Record(std::string_view bytes);
+void Report(std::string_view bytes);
 
 } // namespace gfc::fuzz

@@ -5,7 +5,7 @@
 namespace gfc::fuzz {
 
 std::span<const Target> Targets() {
-    static constexpr std::array<Target, 9> targets = {{
+    static constexpr auto targets = std::to_array<Target>({
         {"profile", Profile},
         {"update", Update},
         {"reader", Reader},
@@ -15,7 +15,11 @@ std::span<const Target> Targets() {
         {"project", Project},
         {"entry", Entry},
         {"contract_time", ContractTime},
-    }};
+        {"drafts", Drafts},
+        {"mapping", Mapping},
+        {"record", Record},
+        {"report", Report},
+    });
     return targets;
 }
 

@@ -1,0 +1,195 @@
+#include "fuzz/Input.h"
+#include "fuzz/MemoryVfs.h"
+#include "fuzz/Target.h"
+#include "platform/Files.h"
+#include "record/History.h"
+#include "record/ProjectRecorder.h"
+#include "support/FakeTime.h"
+#include "support/TempFolder.h"
+
+#include <algorithm>
+#include <array>
+
+// Any bytes as the record of a project, and a good one with bytes changed: refused in words or answered, and
+// whoever gets another answer than before is told so by the check.
+namespace gfc::fuzz {
+
+namespace {
+
+namespace command = config::command;
+
+constexpr std::size_t PatchLimit = 31;
+
+std::string FileWith(const std::string& value) {
+    return "[General]\r\nOrmStation=North\r\nValue=" + value + "\r\n";
+}
+
+// A recorder whose clock stands, and the path of its record.
+struct Room {
+    test::TempFolder Folder;
+    test::FixedZone Zone{0};
+    test::FixedClock Clock{2023, 3, 15, 12, 0};
+    std::string Record = Folder.Path("KDOrmAGA_plant_History.sqlite");
+    record::ProjectRecorder Recorder{Clock, Zone, "operator"};
+
+    [[nodiscard]] config::FileChange Change(const std::string& station, std::string_view what,
+                                            config::FileState before, config::FileState after) const {
+        return {Record, station, std::string(what), "ana", std::move(before), std::move(after)};
+    }
+    [[nodiscard]] std::string& Bytes() const { return MemoryFile(platform::PathForCalls(Record)); }
+};
+
+// Made on disk, where a record is looked for before it is opened. Small pages, so that what is damaged is
+// seldom empty.
+std::string MakeSound(Room& room) {
+    UseMachineVfs();
+    room.Recorder.Record({room.Change("North", command::Wizard, std::nullopt, FileWith("1")),
+                          room.Change("South", command::Wizard, std::nullopt, FileWith("2")),
+                          room.Change("North", command::Configure, FileWith("1"), FileWith("3")),
+                          room.Change("North", command::Delete, FileWith("3"), std::nullopt),
+                          room.Change("North", command::BringBack, std::nullopt, FileWith("1")),
+                          room.Change("South", command::AddRun, FileWith("2"), FileWith("22"))});
+    record::History::OpenToWrite(room.Record).Data().Run("PRAGMA page_size = 512; VACUUM");
+    UseMemoryVfs();
+    return room.Folder.Get("KDOrmAGA_plant_History.sqlite");
+}
+
+Room& TheRoom() {
+    static Room room;
+    return room;
+}
+
+const std::string& Sound() {
+    static const std::string sound = MakeSound(TheRoom());
+    return sound;
+}
+
+void Put(const std::string& bytes) {
+    const Room& room = TheRoom();
+    ForgetMemoryFiles(platform::PathForCalls(room.Record)); // with what an earlier one left beside it
+    room.Bytes() = bytes;
+}
+
+struct Answer {
+    config::RecordEntry Entry;
+    config::FileState File;
+    std::vector<config::KeyChange> Changes;
+
+    bool operator==(const Answer&) const = default;
+};
+
+// All that the recorder answers of the first entries.
+std::vector<Answer> Answers() {
+    constexpr std::size_t most = 12;
+    auto& [folder, zone, clock, record, recorder] = TheRoom();
+    std::vector<Answer> answers;
+    for (const config::RecordEntry& entry : recorder.Entries(record, {})) {
+        if (answers.size() == most)
+            break;
+        answers.push_back(
+            {entry, recorder.Generation(record, entry.Number), recorder.Changes(record, entry.Number)});
+    }
+    return answers;
+}
+
+const std::vector<Answer>& SoundAnswers() {
+    static const std::vector<Answer> answers = [] {
+        Put(Sound());
+        return Answers();
+    }();
+    return answers;
+}
+
+std::string Damaged(Input& input) {
+    std::string bytes = Sound();
+    while (!input.IsEmpty()) {
+        const std::size_t at = (input.Byte() * 256U + input.Byte()) % bytes.size();
+        const std::string_view patch = input.Text(PatchLimit);
+        bytes.replace(at, std::min(patch.size(), bytes.size() - at), patch);
+    }
+    return bytes;
+}
+
+void CheckWords(const std::string& words) {
+    Require(words.empty() || words.ends_with('.'), "what goes wrong is told in a sentence");
+}
+
+config::RecordCheck Verify() {
+    Room& room = TheRoom();
+    const config::RecordCheck check = room.Recorder.Verify(room.Record);
+    if (check.Damage) {
+        Require(!check.Damage->Reason.empty(), "damage is told in words");
+        CheckWords(check.Damage->Reason);
+    }
+    return check;
+}
+
+// One more entry goes into what holds, and it holds then.
+void CheckOneMore(std::int64_t entries) {
+    Room& room = TheRoom();
+    room.Recorder.Record({room.Change("South", command::Configure, FileWith("22"), FileWith("4"))});
+    Require(room.Recorder.Trouble().empty(), "a record that holds takes an entry");
+    const config::RecordCheck check = Verify();
+    Require(!check.Damage && check.Entries == entries + 1, "it holds with one entry more");
+    Require(room.Recorder.Generation(room.Record, check.Entries) == FileWith("4"), "and has its file");
+}
+
+void CheckDamaged(Input& input) {
+    const bool oneMore = input.Below(2) == 1;
+    const std::string bytes = Damaged(input);
+    Put(bytes);
+    const config::RecordCheck check = Verify();
+    Require(!check.Damage || bytes != Sound(), "nothing is said of a record that nobody touched");
+    const auto answers = Answers();
+    CheckWords(TheRoom().Recorder.Trouble());
+    if (check.Damage)
+        return;
+    Require(answers == SoundAnswers(), "another answer than before is told by the check");
+    Require(check.Entries == static_cast<std::int64_t>(answers.size()), "every entry is counted");
+    if (oneMore)
+        CheckOneMore(check.Entries);
+}
+
+// Somebody who takes the rules away and gives one text of one entry another value.
+void CheckTampered(Input& input) {
+    constexpr std::array<const char*, 10> columns = {"time", "user",     "machine", "command", "station",
+                                                     "file", "previous", "hash",    "changes", "content"};
+    const std::string column = columns.at(input.Below(columns.size()));
+    const auto number = static_cast<std::int64_t>(1 + input.Below(SoundAnswers().size()));
+    const bool isBlob = column == "changes" || column == "content";
+    const std::string value(input.Rest());
+    Put(Sound());
+    record::Database data(TheRoom().Record, record::Access::Write);
+    data.Run("DROP TRIGGER entry_stays");
+    record::Statement was(data, "SELECT " + column + " FROM entry WHERE number = ?");
+    const bool isOther = was.With(number).Step() && was.Bytes(0) != value;
+    was.With(number);
+    record::Statement update(data, "UPDATE entry SET " + column + " = ? WHERE number = ?");
+    isBlob ? update.With(record::Blob{value}, number) : update.With(value, number);
+    update.Execute();
+    const config::RecordCheck check = Verify();
+    Require(check.Damage.has_value(), "a rule that is gone is told");
+    Require(!isOther || check.Damage->Entry == number, "the entry that was changed is named");
+    (void)Answers();
+}
+
+} // namespace
+
+void Record(std::string_view bytes) {
+    (void)SoundAnswers();
+    Input input(bytes);
+    switch (input.Below(4)) {
+    case 0:
+    case 1:
+        return CheckDamaged(input);
+    case 2:
+        return CheckTampered(input);
+    default:
+        Put(std::string(input.Rest()));
+        (void)Verify();
+        (void)Answers();
+        CheckWords(TheRoom().Recorder.Trouble());
+    }
+}
+
+} // namespace gfc::fuzz
