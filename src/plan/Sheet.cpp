@@ -90,13 +90,34 @@ private:
     bool open_ = false;
 };
 
+constexpr std::array separators = {',', ';', '\t'};
+
+bool IsSeparator(char c) {
+    return std::ranges::find(separators, c) != separators.end();
+}
+
+// What parts the cells of the first row that is not empty. What stands in quotes, which may be of several
+// lines, is left out; a quotation mark within a cell is a letter like others.
+std::string PartingOf(std::string_view text) {
+    std::string parting;
+    bool quoted = false;
+    bool begins = true;
+    for (const char c : text.substr(std::min(text.size(), text.find_first_not_of("\r\n")))) {
+        if (!quoted && (c == '\r' || c == '\n'))
+            break;
+        if (!quoted && IsSeparator(c))
+            parting += c;
+        if (c == '"' && (quoted || begins))
+            quoted = !quoted;
+        begins = !quoted && (IsSeparator(c) || (begins && c == ' '));
+    }
+    return parting;
+}
+
 char SeparatorOf(std::string_view text) {
-    constexpr std::array separators = {',', ';', '\t'};
-    const auto first = text.find_first_not_of("\r\n");
-    if (first != std::string_view::npos)
-        text = text.substr(first, text.find_first_of("\r\n", first) - first);
+    const std::string parting = PartingOf(text);
     return *std::ranges::max_element(separators, {},
-                                     [&](char separator) { return std::ranges::count(text, separator); });
+                                     [&](char separator) { return std::ranges::count(parting, separator); });
 }
 
 std::string Quoted(const std::string& cell) {

@@ -258,6 +258,9 @@ TEST(Sheets, AreReadAsSpreadsheetsWriteThem) {
     EXPECT_THAT(sheet.Rows[1].Cells, ElementsAre("a\r\nb", "2"));
     EXPECT_EQ(ReadSheet("A\tB\rx,y\tz", faults).Rows.at(0).Cells.at(0), "x,y");
     EXPECT_EQ(ReadSheet("Station\n\xF1", faults).Rows.at(0).Cells.at(0), "\xC3\xB1");
+    // What parts the cells does not follow from what stands in them.
+    EXPECT_THAT(ReadSheet("\r\n\"a;b;c\r\nd;e\",B\nx,y", faults).Titles, ElementsAre("a;b;c\r\nd;e", "B"));
+    EXPECT_THAT(ReadSheet("Bore 12\";B\nx,y;z", faults).Titles, ElementsAre("Bore 12\"", "B"));
     EXPECT_THAT(faults, IsEmpty());
     EXPECT_THAT(ReadSheet("A,B\n1,2,3\n\"open", faults).Rows, SizeIs(2));
     EXPECT_THAT(faults, SizeIs(2));
