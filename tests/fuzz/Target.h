@@ -40,6 +40,7 @@ void Entry(std::string_view bytes);
 void ContractTime(std::string_view bytes);
 void Drafts(std::string_view bytes);
 void Mapping(std::string_view bytes);
+void Plan(std::string_view bytes);
 void Record(std::string_view bytes);
 void Report(std::string_view bytes);
 

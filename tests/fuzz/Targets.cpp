@@ -17,6 +17,7 @@ std::span<const Target> Targets() {
         {"contract_time", ContractTime},
         {"drafts", Drafts},
         {"mapping", Mapping},
+        {"plan", Plan},
         {"record", Record},
         {"report", Report},
     });
