@@ -4,7 +4,6 @@
 #include "services/Utf8.h"
 
 #include <algorithm>
-#include <array>
 
 namespace gfc::plan {
 
@@ -28,8 +27,13 @@ std::string AsUtf8(std::string_view bytes) {
     return IsUtf8(bytes) ? std::string(bytes) : services::FromCodePage(bytes);
 }
 
+constexpr std::string_view blanks = " \t\r\n";
+
+bool IsBlank(std::string_view text) {
+    return text.find_first_not_of(blanks) == std::string_view::npos;
+}
+
 std::string Trimmed(std::string_view text) {
-    constexpr std::string_view blanks = " \t\r\n";
     const auto first = text.find_first_not_of(blanks);
     if (first == std::string_view::npos)
         return {};
@@ -43,13 +47,17 @@ bool IsEmpty(const std::vector<std::string>& cells) {
 // Goes through the text cell by cell.
 class Reader {
 public:
-    Reader(std::string_view text, char separator) : text_(text), separator_(separator) {}
+    // Each of the separators ends a cell.
+    Reader(std::string_view text, std::string_view separators) : text_(text), separators_(separators) {}
 
     [[nodiscard]] bool AtEnd() const { return at_ >= text_.size(); }
     [[nodiscard]] bool IsOpen() const { return open_; }
+    // The separators of the row that was read last.
+    [[nodiscard]] const std::string& Met() const { return met_; }
 
     std::vector<std::string> NextRow() {
         std::vector<std::string> cells;
+        met_.clear();
         do
             cells.push_back(Trimmed(NextCell()));
         while (!ended_ && !AtEnd());
@@ -66,11 +74,15 @@ private:
             if (c == '"' && quoted && at_ + 1 < text_.size() && text_[at_ + 1] == '"') {
                 cell += c;
                 ++at_;
-            } else if (c == '"' && (quoted || Trimmed(cell).empty())) {
+            } else if (c == '"' && (quoted || IsBlank(cell))) {
                 quoted = !quoted;
-            } else if (!quoted && (c == separator_ || c == '\n' || c == '\r')) {
-                ended_ = c != separator_;
-                Skip(c);
+            } else if (!quoted && separators_.find(c) != std::string_view::npos) {
+                met_ += c;
+                ++at_;
+                return cell;
+            } else if (!quoted && (c == '\n' || c == '\r')) {
+                ended_ = true;
+                at_ += text_.substr(at_).starts_with("\r\n") ? 2 : 1;
                 return cell;
             } else {
                 cell += c;
@@ -81,43 +93,22 @@ private:
         return cell;
     }
 
-    void Skip(char c) { at_ += c == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n' ? 2 : 1; }
-
     std::string_view text_;
-    char separator_;
+    std::string_view separators_;
+    std::string met_;
     std::size_t at_ = 0;
     bool ended_ = false;
     bool open_ = false;
 };
 
-constexpr std::array separators = {',', ';', '\t'};
-
-bool IsSeparator(char c) {
-    return std::ranges::find(separators, c) != separators.end();
-}
-
-// What parts the cells of the first row that is not empty. What stands in quotes, which may be of several
-// lines, is left out; a quotation mark within a cell is a letter like others.
-std::string PartingOf(std::string_view text) {
-    std::string parting;
-    bool quoted = false;
-    bool begins = true;
-    for (const char c : text.substr(std::min(text.size(), text.find_first_not_of("\r\n")))) {
-        if (!quoted && (c == '\r' || c == '\n'))
-            break;
-        if (!quoted && IsSeparator(c))
-            parting += c;
-        if (c == '"' && (quoted || begins))
-            quoted = !quoted;
-        begins = !quoted && (IsSeparator(c) || (begins && c == ' '));
-    }
-    return parting;
-}
-
+// By the first row that is not empty. Until it is known, any of them ends a cell.
 char SeparatorOf(std::string_view text) {
-    const std::string parting = PartingOf(text);
+    constexpr std::string_view separators = ",;\t";
+    Reader reader(text.substr(std::min(text.size(), text.find_first_not_of("\r\n"))), separators);
+    (void)reader.NextRow();
+    const std::string_view met = reader.Met();
     return *std::ranges::max_element(separators, {},
-                                     [&](char separator) { return std::ranges::count(parting, separator); });
+                                     [&](char separator) { return std::ranges::count(met, separator); });
 }
 
 std::string Quoted(const std::string& cell) {
@@ -148,7 +139,8 @@ Sheet ReadSheet(std::string_view bytes, Faults& faults) {
         return {};
     }
     const std::string text = AsUtf8(bytes);
-    Reader reader(text, SeparatorOf(text));
+    const std::string separator(1, SeparatorOf(text));
+    Reader reader(text, separator);
     Sheet sheet;
     for (int number = 1; !reader.AtEnd(); ++number) {
         auto cells = reader.NextRow();
