@@ -1,6 +1,8 @@
 #include "plan/Wish.h"
 
+#include "config/FileIni.h"
 #include "config/VarINIFile.h"
+#include "plan/FileInMemory.h"
 #include "services/CodePage.h"
 #include "services/Text.h"
 
@@ -11,6 +13,23 @@
 namespace gfc::plan {
 
 namespace {
+
+// What is read of a text once it is stored.
+std::string AsRead(const std::string& text) {
+    FileInMemory file("cell.ini", {});
+    config::FileIni ini(file);
+    ini.WriteKey("Cell", "Text", text, file.Path());
+    return ini.ReadKey("Cell", "Text", file.Path());
+}
+
+// Nearly every cell is, so that it need not be tried.
+bool IsShortWord(std::string_view text) {
+    constexpr std::size_t isShort = 64;
+    return text.size() < isShort && std::ranges::all_of(text, [](char c) {
+               return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+                      std::string_view(".-_").find(c) != std::string_view::npos;
+           });
+}
 
 class Gatherer {
 public:
@@ -104,6 +123,11 @@ private:
     void TakeCell(StationWish& wish, const Sheet::Row& row, const Column& column, const std::string& text) {
         if (!services::CodePageHolds(text))
             return Blame(row.Number, column.Title, text, "The configuration cannot hold these characters.");
+        if (const std::string read = IsShortWord(text) ? text : AsRead(text); read != text)
+            return Blame(row.Number, column.Title, text,
+                         "The configuration would say \"" + read +
+                             "\" instead: quotes around a text, line ends, and more than 254 characters are "
+                             "lost in it.");
         const bool ofRun = column.Kind == ColumnKind::Run || column.Kind == ColumnKind::RunTag;
         if (ofRun) {
             for (RunWish& run : wish.Runs)

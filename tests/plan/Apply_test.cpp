@@ -112,6 +112,24 @@ TEST_F(Tables, EachFaultIsToldByRowAndColumnWithWhatWouldDo) {
                 testing::Contains(HasSubstr("cannot hold these characters")));
 }
 
+// The file's reader takes quotes off, and a line ends a value.
+TEST_F(Tables, ATextThatTheFileWouldNotGiveBackIsAFault) {
+    for (const auto& [said, read] : {std::pair<std::string, std::string>{"'trace'", "trace"},
+                                     {"\"12\"", "12"},
+                                     {"a\r\nb", "a"},
+                                     {std::string(255, 'x'), std::string(254, 'x')}}) {
+        Table table = Sound;
+        table[0].push_back("DeviceDataTraces");
+        table[1].push_back(said);
+        table[2].push_back(said);
+        EXPECT_THAT(Plan(table), IsEmpty());
+        ASSERT_THAT(Found, SizeIs(2)) << said;
+        EXPECT_EQ(Found[0].Column, "DeviceDataTraces");
+        EXPECT_EQ(Found[1].Row, 3);
+        EXPECT_THAT(Found[0].Text, HasSubstr("would say \"" + read + "\" instead"));
+    }
+}
+
 TEST_F(Tables, AllFaultsOfAllStationsAreToldAtOnceInTheOrderOfTheRows) {
     Table table = Sound;
     table[2][PlaceOf("OrificeDia")] = "x";
