@@ -12,6 +12,7 @@ public:
     explicit Input(std::string_view bytes) : rest_(bytes) {}
 
     [[nodiscard]] bool IsEmpty() const { return rest_.empty(); }
+    [[nodiscard]] std::size_t Left() const { return rest_.size(); }
 
     std::uint8_t Byte() {
         const std::string_view byte = Take(1);
