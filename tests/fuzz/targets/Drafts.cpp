@@ -163,11 +163,29 @@ void CheckOffer(Draft& draft, project::TagInventory& inventory) {
     Require(inventory.AvailLong.size() == before.AvailLong.size(), "long tags stay on offer");
 }
 
+bool HasAllTags(Draft& draft, const drafts::PassStep& step) {
+    return std::ranges::all_of(VariablesOf(draft, step), [](const binding::Variable& variable) {
+        return !variable.Binding->IsMade() || IsInStation(variable.Class(), *variable.Binding);
+    });
+}
+
+// The dialogs that are done, of runs that are on, and lack nothing. A run that is off has the records of
+// another one.
+std::vector<drafts::PassStep> WholeSteps(Draft& draft) {
+    std::vector<drafts::PassStep> whole;
+    for (const auto& step : draft.Done)
+        if ((step.Run == 0 || config::IsRunActive(draft.Station, step.Run - 1)) && HasAllTags(draft, step))
+            whole.push_back(step);
+    return whole;
+}
+
 void CheckGoOn(Draft draft) {
     project::TagInventory inventory;
     BuildInventory(Tags(), inventory);
     BuildAvailableLists(inventory, {}, draft.Station.FlagAGA7);
+    const auto whole = WholeSteps(draft);
     const auto gone = LetGoOfMissingTags(draft, inventory);
+    Require(WholeSteps(draft) == whole, "a dialog that lacks a tag is shown again, and no other");
     CheckBound(draft);
     if (!gone.empty())
         CheckWritten(draft);
