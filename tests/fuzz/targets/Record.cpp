@@ -150,27 +150,78 @@ void CheckDamaged(Input& input) {
         CheckOneMore(check.Entries);
 }
 
-// Somebody who takes the rules away and gives one text of one entry another value.
+// Somebody who takes the rules away and then does to one entry what they forbid.
+class Tampering {
+public:
+    Tampering() : data_(TheRoom().Record, record::Access::Write) {
+        data_.Run("DROP TRIGGER entry_stays; DROP TRIGGER entry_is_kept");
+    }
+
+    // True if that is another value than before.
+    bool Put(const std::string& column, std::int64_t number, const std::string& value) {
+        if (ValueOf(column, number) == value)
+            return false;
+        record::Statement update(data_, "UPDATE entry SET " + column + " = ? WHERE number = ?");
+        const bool isBlob = column == "changes" || column == "content";
+        isBlob ? update.With(record::Blob{value}, number) : update.With(value, number);
+        update.Execute();
+        return true;
+    }
+    [[nodiscard]] std::string ValueOf(const std::string& column, std::int64_t number) {
+        record::Statement value(data_, "SELECT " + column + " FROM entry WHERE number = ?");
+        return value.With(number).Step() ? value.Text(0) : std::string();
+    }
+    void CutOffFrom(std::int64_t number) {
+        data_.Run("DELETE FROM entry WHERE number >= " + std::to_string(number));
+    }
+
+private:
+    record::Database data_;
+};
+
+// As the entry would have to say it after the change.
+std::string HashOf(std::int64_t number) {
+    std::string hash;
+    record::History::OpenToRead(TheRoom().Record)
+        ->ForEach({.Number = number, .Whole = true}, [&](const record::StoredEntry& entry) {
+            hash = record::HashOf(entry);
+            return false;
+        });
+    return hash;
+}
+
+void RequireDamageAt(std::int64_t number) {
+    const config::RecordCheck check = Verify();
+    Require(check.Damage && check.Damage->Entry == number, "the entry that does not hold is named");
+    (void)Answers();
+}
+
+// A text is changed, to any or to that of another entry, or the last entries are taken away.
 void CheckTampered(Input& input) {
     constexpr std::array<const char*, 10> columns = {"time", "user",     "machine", "command", "station",
                                                      "file", "previous", "hash",    "changes", "content"};
     const std::string column = columns.at(input.Below(columns.size()));
-    const auto number = static_cast<std::int64_t>(1 + input.Below(SoundAnswers().size()));
-    const bool isBlob = column == "changes" || column == "content";
-    const std::string value(input.Rest());
+    const auto last = static_cast<std::int64_t>(SoundAnswers().size());
+    const auto anyEntry = [&] { return 1 + static_cast<std::int64_t>(input.Below(SoundAnswers().size())); };
+    const std::int64_t number = anyEntry();
+    const std::size_t act = input.Below(4);
     Put(Sound());
-    record::Database data(TheRoom().Record, record::Access::Write);
-    data.Run("DROP TRIGGER entry_stays");
-    record::Statement was(data, "SELECT " + column + " FROM entry WHERE number = ?");
-    const bool isOther = was.With(number).Step() && was.Bytes(0) != value;
-    was.With(number);
-    record::Statement update(data, "UPDATE entry SET " + column + " = ? WHERE number = ?");
-    isBlob ? update.With(record::Blob{value}, number) : update.With(value, number);
-    update.Execute();
+    Tampering tampering;
+    if (act == 0) {
+        tampering.CutOffFrom(number);
+        return RequireDamageAt(number);
+    }
+    const std::string value = act == 1 ? tampering.ValueOf(column, anyEntry()) : std::string(input.Rest());
+    if (!tampering.Put(column, number, value))
+        return RequireDamageAt(0);
+    // Who gives it its hash as well is betrayed by the next one, or before that by what is kept.
+    const bool isRehashed = act == 3 && column != "hash" && tampering.Put("hash", number, HashOf(number));
+    if (!isRehashed)
+        return RequireDamageAt(number);
     const config::RecordCheck check = Verify();
-    Require(check.Damage.has_value(), "a rule that is gone is told");
-    Require(!isOther || check.Damage->Entry == number, "the entry that was changed is named");
-    (void)Answers();
+    const bool isNear = check.Damage && (check.Damage->Entry == number || check.Damage->Entry == number + 1);
+    Require(isNear || (number == last && check.Damage && check.Damage->Entry == 0),
+            "the entry or the one behind it does not hold");
 }
 
 } // namespace
