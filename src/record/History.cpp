@@ -8,6 +8,7 @@ namespace {
 
 constexpr std::string_view facts = "number, time, user, machine, command, station, file, hash, previous";
 constexpr int changesColumn = 9;
+constexpr const char* noRecord = "The file of the history is not a record of this program.";
 
 // Blobs stand behind all else in a row, so that a walk that leaves them out does not read their pages.
 std::string Selection(const Walk& walk) {
@@ -36,6 +37,14 @@ void TakeRow(const Statement& row, bool whole, StoredEntry& entry) {
 // A crash between the making of the file and that of its table leaves an empty one.
 bool IsThere(const std::string& file) {
     return platform::FileSize(file).value_or(0) > 0;
+}
+
+// A view in the place of the table would have the reading of it run whatever somebody has put there, without
+// an end perhaps. What is no table of the database itself has no page.
+bool HasItsTable(Database& database) {
+    Statement table(database,
+                    "SELECT 1 FROM sqlite_schema WHERE name = 'entry' AND type = 'table' AND rootpage > 0");
+    return table.Step();
 }
 
 } // namespace
@@ -81,9 +90,11 @@ void History::MakeTables() {
 
 void History::CheckIdentity() {
     if (Pragma(database_, "application_id") != RecordId)
-        throw Failure("The file of the history is not a record of this program.");
+        throw Failure(noRecord);
     if (Pragma(database_, "user_version") != RecordForm)
         throw Failure("The history was written by a newer version of this program.");
+    if (!HasItsTable(database_))
+        throw Failure(noRecord);
 }
 
 void History::ForEach(const Walk& walk, const std::function<bool(const StoredEntry&)>& visit) {

@@ -99,6 +99,24 @@ TEST_F(VerificationTest, SaysThatAnotherFileStandsInItsPlace) {
     ExpectDamage(1, "not a record of this program");
 }
 
+// Whoever asked it for its entries would wait for ever.
+TEST_F(VerificationTest, IsLedIntoNothingByAViewInThePlaceOfTheTable) {
+    std::filesystem::remove(Record);
+    ASSERT_TRUE(
+        Tamper("PRAGMA application_id = " + std::to_string(RecordId) +
+                   "; PRAGMA user_version = " + std::to_string(RecordForm) +
+                   "; CREATE VIEW entry AS WITH RECURSIVE every(number) AS (SELECT 1 UNION ALL SELECT "
+                   "number + 1 FROM every) SELECT number, '' AS time, '' AS user, '' AS machine, '' AS "
+                   "command, '' AS station, '' AS file, '' AS previous, '' AS hash, '' AS changes, '' AS "
+                   "content FROM every",
+               false));
+    ExpectDamage(1, "not a record of this program");
+    EXPECT_TRUE(Recorder.Entries(Record, {}).empty());
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("not a record"));
+    Enter("North", command::Wizard, std::nullopt, FileWith(1));
+    EXPECT_THAT(Recorder.Trouble(), HasSubstr("not a record"));
+}
+
 TEST_F(VerificationTest, SurvivesAFileThatWasCutAnywhere) {
     const std::string whole = test::BytesAt(Record);
     for (std::size_t size = 1; size < whole.size(); size += 997) {
