@@ -16,7 +16,8 @@ namespace gfc::workshop {
 /// cannot be written.
 void SaveMapping(const std::string& name, const TableWishes& wishes);
 
-/// One line for each wish, or more where a title has line ends; the text from which LoadMapping makes the same wishes.
+/// One line for each wish, or more where a title has line ends; the text from which LoadMapping makes the
+/// same wishes.
 [[nodiscard]] std::string LinesOf(const TableWishes& wishes);
 /// Throws Failure, led by `source`, for a line that is none of LinesOf.
 [[nodiscard]] TableWishes WishesFrom(const std::string& lines, const std::string& source);
