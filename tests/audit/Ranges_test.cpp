@@ -4,10 +4,12 @@
 #include "config/RunLayout.h"
 #include "config/Vocabulary.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace gfc::audit {
 namespace {
+
+using testing::StartsWith;
 
 config::StationConfig StationIn(std::string_view units, std::string_view algorithm = config::algorithm::AGA3,
                                 std::string_view source = config::source::AGA8) {
@@ -41,6 +43,26 @@ TEST(ExpectedText, has_range_and_unit_of_the_stations_unit_system) {
     const auto metric = StationIn(config::units::Metric, config::algorithm::SYT6143);
     EXPECT_EQ(ExpectedText("InternalPipeDia", metric), "By the standard: 50 to 1000 mm");
     EXPECT_EQ(ExpectedText("CalibrationFactor", metric), "Usual: 0.9 to 1.1");
+}
+
+// 55 and 110 kPa, 0.6 and 2 kg/m3, and 0.5 to 40 millionths for one degree Celsius.
+TEST(ExpectedText, turns_each_quantity_into_the_stations_units) {
+    struct Case {
+        std::string_view Units;
+        const char *Pressure, *Density, *Expansion;
+    };
+    for (const auto& [units, pressure, density, expansion] :
+         {Case{config::units::US, "7.97708 to 15.9542", "0.0374568 to 0.124856",
+               "0.000000277778 to 0.0000222222"},
+          Case{config::units::Metric, "0.55 to 1.1", "0.6 to 2", "0.0000005 to 0.00004"},
+          Case{config::units::PracticalSI, "0.055 to 0.11", "0.6 to 2", "0.0000005 to 0.00004"}}) {
+        const auto station = StationIn(units);
+        EXPECT_THAT(ExpectedText("AtmPress", station), StartsWith("Usual: " + std::string(pressure) + " "));
+        EXPECT_THAT(ExpectedText("GasDensityStandard", station),
+                    StartsWith("Usual: " + std::string(density) + " "));
+        for (const char* key : {"OrificeThermalExpCoeff", "PipeThermalExpCoeff"})
+            EXPECT_THAT(ExpectedText(key, station), StartsWith("Usual: " + std::string(expansion) + " "));
+    }
 }
 
 TEST(ExpectedText, knows_the_components_by_the_standard_of_the_source) {

@@ -15,6 +15,7 @@
 namespace gfc::plan {
 namespace {
 
+using test::operator+=;
 using test::PlanWorld;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -180,6 +181,43 @@ TEST_F(Copying, ATagThatIsMissingDoesNotShiftTheOthers) {
         EXPECT_EQ(LineOf(plan, "FT-1").Proposed.Tag, shifted ? "FT-2001" : "FT-1");
         EXPECT_TRUE(LineOf(plan, "FT-1").IsSure);
         EXPECT_FALSE(LineOf(plan, "FT-3").IsSure);
+    }
+}
+
+// The modules for the package's own work: what each is called there, and what is taken for it.
+struct ModuleCase {
+    const char* Of;                 // the float module in North
+    std::vector<const char*> There; // the like ones in South
+    const char* Taken;
+    const char* Reason;
+};
+
+TEST_F(Copying, AWorkingModuleIsTakenByItsNameByItsNumberOrForWantOfAnother) {
+    const std::vector<ModuleCase> cases = {
+        {"VF0", {"VF1", "vf0"}, "vf0", "the same name"},
+        {"NORTH_LOG", {"VF0", "SOUTH_LOG"}, "SOUTH_LOG", "the same name but for that of the station"},
+        {"VF100", {"LOG", "VF500"}, "VF500", "the same name but for its number: 100 is 500 here"},
+        {"VF100", {"LOG"}, "LOG", "the only module that is large enough"},
+        {"VF100", {"VF500", "VF600"}, "", "2 modules are large enough"},
+        {"VF100", {}, "", "the station has no virtual module that is large enough"},
+    };
+    const project::TagList without = [&] {
+        project::TagList tags = World.Library.TagsOf["South"];
+        std::erase_if(tags, [](const project::Tag& tag) { return tag.ModuleName == "VF0"; });
+        return tags;
+    }();
+    for (const ModuleCase& each : cases) {
+        Source source = World.SourceOf("North");
+        source.Bound.Working.WrkFloatModName = each.Of;
+        auto& tags = World.Library.TagsOf["South"];
+        tags = without;
+        for (const char* module : each.There)
+            tags += test::TagsInModule(module, "Virtual FI", "FX", "LOGF-", 128);
+        const StationPlan plan = World.PlanFor(source, "South");
+        const Line& line = LineOf(plan, each.Of);
+        EXPECT_EQ(line.Proposed.Tag, each.Taken) << each.Reason;
+        EXPECT_EQ(line.Reason, each.Reason);
+        EXPECT_EQ(line.IsMissing(), std::string(each.Taken).empty());
     }
 }
 
