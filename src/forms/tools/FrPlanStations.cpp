@@ -2,9 +2,7 @@
 
 #include "forms/main_window/GFCPrincipal.h"
 #include "forms/main_window/StationNodes.h"
-#include "forms/program/HelpFile.h"
 #include "forms/program/Loss.h"
-#include "forms/tools/ToolForm.h"
 #include "platform/Machine.h"
 #include "services/Text.h"
 
@@ -41,7 +39,8 @@ std::string ChangesIn(const std::vector<plan::Line>& lines) {
 
 } // namespace
 
-FrPlanStations::FrPlanStations(Program& program) : ProgramForm(program, "FrPlanStations", copyTitle) {
+FrPlanStations::FrPlanStations(Program& program)
+    : ToolForm(program, "FrPlanStations", copyTitle, helpContext) {
     ListView1.OnRowClick = [this](int) { ShowLines(); };
     ListView1.OnRowOpened = [this](int row) {
         const auto item = static_cast<std::size_t>(row - 1);
@@ -97,13 +96,6 @@ void FrPlanStations::Load() {
 
 void FrPlanStations::Unloading() {
     Timer1.SetEnabled(false);
-}
-
-bool FrPlanStations::KeyDown(ui::Key key) {
-    if (key != ui::Key::F1)
-        return false;
-    OpenHelp();
-    return true;
 }
 
 bool FrPlanStations::IsConfigured(const Item& item) const {
@@ -259,10 +251,6 @@ void FrPlanStations::Leave() {
                            "Tags were chosen that are not written. Do you want to close the window?"))
         return;
     Unload();
-}
-
-void FrPlanStations::OpenHelp() {
-    program_.Screen.OpenHelp(HelpFile, helpContext);
 }
 
 namespace {

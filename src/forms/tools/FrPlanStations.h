@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/program/Program.h"
+#include "forms/tools/ToolForm.h"
 #include "plan/Copy.h"
 #include "ui/Buttons.h"
 #include "ui/DropDownList.h"
@@ -18,7 +18,7 @@ namespace gfc::forms {
 // Stations are chosen in the upper list; what becomes of the variables of the one that is selected stands in
 // the lower one, where a person may choose another tag. Tags are looked up and files written one station with
 // each tick of a timer.
-class FrPlanStations : public ProgramForm {
+class FrPlanStations : public ToolForm {
 public:
     explicit FrPlanStations(Program& program);
 
@@ -49,7 +49,6 @@ public:
 protected:
     void Load() override;
     void Unloading() override;
-    bool KeyDown(ui::Key key) override;
 
 private:
     enum class State { Unread, Planned, Waiting, Written, Failed };
@@ -86,7 +85,6 @@ private:
     void Stop();
     void ShowProgress();
     void Leave();
-    void OpenHelp();
 
     std::string copied_;
     std::shared_ptr<plan::Source> source_; // of a copy, once it was read
