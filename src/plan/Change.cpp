@@ -7,12 +7,13 @@ namespace gfc::plan {
 namespace {
 
 std::string Standing(const config::FileState& now, const Change& change) {
+    if (!now)
+        return "There is no such file now.";
     if (now == change.Before)
-        return change.Before ? "The file stands as it was before." : "There is no such file now.";
-    if (now == change.After)
-        return "The file holds the new values, but the system does not confirm that they are safe on the "
-               "disk.";
-    return now ? "The file holds something else now." : "What stands there now cannot be read.";
+        return "The file stands as it was before.";
+    return now == change.After ? "The file holds the new values, but the system does not confirm that they "
+                                 "are safe on the disk."
+                               : "The file holds something else now.";
 }
 
 void Enter(const Writer& writer, const Change& change, const config::FileState& after) {
@@ -41,8 +42,11 @@ Written Write(const Writer& writer, const Change& change) {
     // Also where it holds the new bytes: nobody has said yet that they are safe.
     if (!writer.Files.Replace(change.File, change.After)) {
         const std::string reason = writer.Files.LastFailure(); // before the next call
+        // What cannot be read is not to be taken for a file that is not there.
+        if (!ReadState(writer.Files, change.File, now))
+            return {false, "The system says: " + reason + ". What stands there now cannot be read."};
         // It may stand there all the same, and then it is an entry of the record.
-        if (ReadState(writer.Files, change.File, now) && now != change.Before)
+        if (now != change.Before)
             Enter(writer, change, now);
         return {false, "The system says: " + reason + ". " + Standing(now, change)};
     }

@@ -51,11 +51,19 @@ void LayTwo(const fs::path& folder) {
     (void)desk.Store().Keep(DraftOf("2", "Step 1 of 6"));
 }
 
+// A file that cannot be deleted is emptied; for who opens the drafts there is none either way.
+Content DraftsIn(const fs::path& folder) {
+    Content content = ContentOf(folder);
+    std::erase_if(content, [](const auto& file) { return file.second.Bytes.empty(); });
+    return content;
+}
+
 Operation Done(const std::string& name, void (*lay)(const fs::path&),
                bool (*act)(drafts::DraftStore& store)) {
     Operation operation;
     operation.Name = name;
     operation.Lay = lay;
+    operation.Look = DraftsIn;
     operation.Play = [act](const fs::path& folder, const Stage& stage) {
         Desk desk(folder);
         auto store = desk.Store();

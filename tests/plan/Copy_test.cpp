@@ -339,5 +339,23 @@ TEST_F(Copying, WhatCannotBeWrittenIsToldWithTheSystemsReason) {
     EXPECT_TRUE(Write(World.Writer(), change).Done);
 }
 
+// The file gets its name, and from then on the disk answers nothing.
+struct DyingFiles : test::MemoryFiles {
+    bool Replace(const std::string& path, std::string_view bytes) override {
+        Content[path] = bytes;
+        Unreadable.insert(path);
+        return Fail("Input/output error");
+    }
+};
+
+TEST_F(Copying, AFileThatCannotBeReadAnyMoreIsNotSaidToBeMissing) {
+    const Source source = World.SourceOf("North");
+    const Change change = ChangeFor(World.Project, source, World.PlanFor(source, "South"));
+    DyingFiles files;
+    const Written written = Write({files, World.Library, World.Recorder, World.Project, "4711"}, change);
+    EXPECT_FALSE(written.Done);
+    EXPECT_EQ(written.Reason, "The system says: Input/output error. What stands there now cannot be read.");
+}
+
 } // namespace
 } // namespace gfc::plan
