@@ -12,6 +12,7 @@ struct Settings {
     long RandomKills = 0; // of all operations together
     unsigned Seed = 1;
     std::string Only; // a part of the operation's name
+    std::string One;  // the whole of it
 };
 
 struct Tally {

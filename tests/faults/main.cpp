@@ -7,6 +7,7 @@
 #include <iomanip>
 #include <iostream>
 #include <string_view>
+#include <vector>
 
 namespace gfc::test::faults {
 
@@ -35,23 +36,35 @@ void PrintRow(const std::string& name, long calls, const Tally& failures, const 
     std::cout << std::endl;
 }
 
+std::vector<Operation> AllOperations() {
+    std::vector<Operation> all;
+    for (auto* some :
+         {ProgramOperations, WorkshopOperations, PlanOperations, DraftOperations, RecordOperations})
+        for (Operation& operation : some())
+            all.push_back(std::move(operation));
+    return all;
+}
+
+void ListAll() {
+    for (const Operation& operation : AllOperations())
+        std::cout << operation.Name << "\n";
+}
+
+bool IsMeant(const Operation& operation, const Settings& settings) {
+    return settings.One.empty() ? operation.Name.find(settings.Only) != std::string::npos
+                                : operation.Name == settings.One;
+}
+
 bool PlayAll(const Settings& settings) {
-    std::vector<Operation> operations = ProgramOperations();
-    for (Operation& operation : WorkshopOperations())
-        operations.push_back(std::move(operation));
-    for (Operation& operation : PlanOperations())
-        operations.push_back(std::move(operation));
-    for (Operation& operation : DraftOperations())
-        operations.push_back(std::move(operation));
-    for (Operation& operation : RecordOperations())
-        operations.push_back(std::move(operation));
+    const std::vector<Operation> operations = AllOperations();
     Tally failures;
     Tally kills;
     long calls = 0;
     long faulty = 0;
+    long played = 0;
     PrintHead();
     for (const Operation& operation : operations) {
-        if (operation.Name.find(settings.Only) == std::string::npos)
+        if (!IsMeant(operation, settings))
             continue;
         Series series(operation, settings);
         series.Play(settings.RandomKills / static_cast<long>(operations.size()));
@@ -60,10 +73,12 @@ bool PlayAll(const Settings& settings) {
         kills += series.Kills();
         calls += series.Calls();
         faulty += series.Faulty();
+        ++played;
     }
-    PrintRow("together", calls, failures, kills);
+    if (settings.One.empty())
+        PrintRow("together", calls, failures, kills);
     std::cout << faulty << " faulty\n";
-    return faulty == 0;
+    return faulty == 0 && played > 0;
 }
 
 } // namespace
@@ -85,8 +100,14 @@ int main(int argc, char** argv) {
             settings.Seed = static_cast<unsigned>(std::atol(argv[++i]));
         else if (word == "--only" && more)
             settings.Only = argv[++i];
+        else if (word == "--one" && more)
+            settings.One = argv[++i];
+        else if (word == "--list")
+            return ListAll(), EXIT_SUCCESS;
         else
-            return std::cerr << "usage: faults [--deep] [--kills N] [--seed S] [--only PART]\n", EXIT_FAILURE;
+            return std::cerr << "usage: faults [--deep] [--kills N] [--seed S] [--only PART | --one NAME]\n"
+                                "       faults --list\n",
+                   EXIT_FAILURE;
     }
     return PlayAll(settings) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
