@@ -29,7 +29,7 @@ double Luminance(QRgb colour) {
 }
 
 double Contrast(QRgb one, QRgb other) {
-    const auto [darker, lighter] = std::minmax(Luminance(one), Luminance(other));
+    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
