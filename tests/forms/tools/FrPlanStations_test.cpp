@@ -254,6 +254,17 @@ TEST_F(PlanStations, binds_the_selected_station_anew_after_its_tags_were_renamed
     EXPECT_EQ(std::ranges::count(Record.Recorded, "Bind anew", &config::FileChange::Command), 1);
 }
 
+TEST_F(PlanStations, opens_its_page_of_the_manual_by_its_button_and_by_F1) {
+    Open()
+        .Click(window, "Command5")
+        .Do("F1", [&](Driver&) { EXPECT_TRUE(Form().PersonPresses(ui::Key::F1)); })
+        .Click(window, "Command9");
+    Exit();
+    Play();
+    const std::pair<std::string, int> page{"AGA.chm", 8100};
+    EXPECT_EQ(Screen.HelpOpened, (std::vector{page, page}));
+}
+
 TEST_F(PlanStations, needs_a_configured_station_to_copy_from) {
     TheStory.ClickNode(main, "TreeGFC", "All Stations\\South")
         .Menu(main, "copySeveral")
