@@ -1,25 +1,11 @@
-#include "drafts/DraftStore.h"
-#include "support/FakeTime.h"
-#include "support/Fakes.h"
-#include "support/MemoryFiles.h"
+#include "DraftRoom.h"
 
 #include <gtest/gtest.h>
 
 namespace gfc::drafts {
 namespace {
 
-struct Room {
-    test::MemoryFiles Files;
-    test::FixedZone Zone{0};
-    test::FixedClock Clock{2023, 3, 15, 12, 0};
-    test::FakeSingleInstance Instance;
-    test::FakeLauncher Launcher;
-    test::FakePaths Paths;
-    platform::Machine Machine{Files, Zone, Clock, Instance, Launcher, Paths};
-    DraftStore Store{Machine, "/jobs/plant.KPJ"};
-
-    [[nodiscard]] std::string& Bytes() { return Files.Content[Store.File()]; }
-};
+using test::DraftRoom;
 
 Draft DraftOf(const std::string& id) {
     Draft draft;
@@ -30,7 +16,7 @@ Draft DraftOf(const std::string& id) {
 TEST(DraftStore, keeps_a_draft_beside_one_that_was_cut_off_within_a_line) {
     for (const std::string& cutOff : {std::string("x"), BytesOf(DraftOf("old")).substr(0, 12),
                                       BytesOf(DraftOf("a")) + "draft\t1\nId\tb"}) {
-        Room room;
+        DraftRoom room;
         room.Bytes() = cutOff;
         const KeptDraft shown = room.Store.All()->back();
         ASSERT_TRUE(room.Store.Keep(DraftOf("new")));

@@ -1,13 +1,10 @@
 #include "binding/Catalogue.h"
 #include "config/RunLayout.h"
 #include "drafts/DraftFields.h"
-#include "drafts/DraftStore.h"
+#include "drafts/DraftRoom.h"
 #include "drafts/GoOn.h"
 #include "fuzz/Input.h"
 #include "fuzz/Target.h"
-#include "support/FakeTime.h"
-#include "support/Fakes.h"
-#include "support/MemoryFiles.h"
 
 #include <algorithm>
 #include <array>
@@ -199,20 +196,6 @@ void CheckGoOn(Draft draft) {
     CheckOffer(draft, inventory);
 }
 
-// The file as the store has it, in a machine with nothing else.
-struct Room {
-    test::MemoryFiles Files;
-    test::FixedZone Zone{0};
-    test::FixedClock Clock{2023, 3, 15, 12, 0};
-    test::FakeSingleInstance Instance;
-    test::FakeLauncher Launcher;
-    test::FakePaths Paths;
-    platform::Machine Machine{Files, Zone, Clock, Instance, Launcher, Paths};
-    drafts::DraftStore Store{Machine, "/jobs/plant.KPJ"};
-
-    explicit Room(const std::string& bytes) { Files.Content[Store.File()] = bytes; }
-};
-
 bool IsOf(const KeptDraft& kept, const std::string& id) {
     return kept.TheDraft && kept.TheDraft->Id == id;
 }
@@ -222,7 +205,8 @@ void CheckStore(const std::string& bytes, const std::vector<KeptDraft>& before) 
     draft.Id = "another";
     if (std::ranges::any_of(before, [&](const KeptDraft& kept) { return IsOf(kept, draft.Id); }))
         return;
-    Room room(bytes);
+    test::DraftRoom room;
+    room.Bytes() = bytes;
     Require(room.Store.Keep(draft), "a draft is kept");
     const auto kept = room.Store.All();
     Require(kept && std::ranges::any_of(*kept, [&](const KeptDraft& each) { return IsOf(each, draft.Id); }),

@@ -3,9 +3,7 @@
 #include "fuzz/Target.h"
 #include "platform/Files.h"
 #include "record/History.h"
-#include "record/ProjectRecorder.h"
-#include "support/FakeTime.h"
-#include "support/TempFolder.h"
+#include "record/RecordRoom.h"
 
 #include <algorithm>
 #include <array>
@@ -18,30 +16,17 @@ namespace {
 
 namespace command = config::command;
 
+using test::RecordRoom;
+
 constexpr std::size_t PatchLimit = 31;
 
 std::string FileWith(const std::string& value) {
     return "[General]\r\nOrmStation=North\r\nValue=" + value + "\r\n";
 }
 
-// A recorder whose clock stands, and the path of its record.
-struct Room {
-    test::TempFolder Folder;
-    test::FixedZone Zone{0};
-    test::FixedClock Clock{2023, 3, 15, 12, 0};
-    std::string Record = Folder.Path("KDOrmAGA_plant_History.sqlite");
-    record::ProjectRecorder Recorder{Clock, Zone, "operator"};
-
-    [[nodiscard]] config::FileChange Change(const std::string& station, std::string_view what,
-                                            config::FileState before, config::FileState after) const {
-        return {Record, station, std::string(what), "ana", std::move(before), std::move(after)};
-    }
-    [[nodiscard]] std::string& Bytes() const { return MemoryFile(platform::PathForCalls(Record)); }
-};
-
 // Made on disk, where a record is looked for before it is opened. Small pages, so that what is damaged is
 // seldom empty.
-std::string MakeSound(Room& room) {
+std::string MakeSound(RecordRoom& room) {
     UseMachineVfs();
     room.Recorder.Record({room.Change("North", command::Wizard, std::nullopt, FileWith("1")),
                           room.Change("South", command::Wizard, std::nullopt, FileWith("2")),
@@ -54,8 +39,8 @@ std::string MakeSound(Room& room) {
     return room.Folder.Get("KDOrmAGA_plant_History.sqlite");
 }
 
-Room& TheRoom() {
-    static Room room;
+RecordRoom& TheRoom() {
+    static RecordRoom room;
     return room;
 }
 
@@ -65,9 +50,9 @@ const std::string& Sound() {
 }
 
 void Put(const std::string& bytes) {
-    const Room& room = TheRoom();
-    ForgetMemoryFiles(platform::PathForCalls(room.Record)); // with what an earlier one left beside it
-    room.Bytes() = bytes;
+    const std::string path = platform::PathForCalls(TheRoom().Record);
+    ForgetMemoryFiles(path); // with what an earlier one left beside it
+    MemoryFile(path) = bytes;
 }
 
 struct Answer {
@@ -115,7 +100,7 @@ void CheckWords(const std::string& words) {
 }
 
 config::RecordCheck Verify() {
-    Room& room = TheRoom();
+    RecordRoom& room = TheRoom();
     const config::RecordCheck check = room.Recorder.Verify(room.Record);
     if (check.Damage) {
         Require(!check.Damage->Reason.empty(), "damage is told in words");
@@ -126,7 +111,7 @@ config::RecordCheck Verify() {
 
 // One more entry goes into what holds, and it holds then.
 void CheckOneMore(std::int64_t entries) {
-    Room& room = TheRoom();
+    RecordRoom& room = TheRoom();
     room.Recorder.Record({room.Change("South", command::Configure, FileWith("22"), FileWith("4"))});
     Require(room.Recorder.Trouble().empty(), "a record that holds takes an entry");
     const config::RecordCheck check = Verify();
