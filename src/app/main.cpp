@@ -31,7 +31,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     SetUp(application);
     const gfc::qt::SessionEnd sessionEnd(
-        QStringLiteral("A window is still open, and what was entered there is not stored."));
+        QStringLiteral("A window is still open; what was entered there and is not stored would be lost."));
     const gfc::qt::WindowPlaces places(gfc::qt::WindowPlaces::FileOfUser());
     gfc::platform::RealMachine machine;
     const gfc::platform::Machine seams = machine.Seams();
